@@ -1,0 +1,10 @@
+# What the engine and the windows stand on; scripts/deps.sh installs all of it.
+find_package(PkgConfig REQUIRED)
+pkg_check_modules(SQLITE REQUIRED IMPORTED_TARGET sqlite3)
+pkg_check_modules(MARIADB REQUIRED IMPORTED_TARGET libmariadb)
+pkg_check_modules(POSTGRES REQUIRED IMPORTED_TARGET libpq)
+pkg_check_modules(ODBC REQUIRED IMPORTED_TARGET odbc)
+pkg_check_modules(CURL REQUIRED IMPORTED_TARGET libcurl)
+pkg_check_modules(ZIP REQUIRED IMPORTED_TARGET libzip)
+find_package(fmt REQUIRED)
+find_package(Qt6 REQUIRED COMPONENTS Widgets)

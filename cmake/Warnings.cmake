@@ -1,0 +1,20 @@
+# One set of compiler options for every target of the project.
+add_library(tallix_options INTERFACE)
+target_compile_options(tallix_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion -Wnon-virtual-dtor -Woverloaded-virtual -Werror)
+
+if(TALLIX_SANITIZE)
+  target_compile_options(tallix_options INTERFACE
+    -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+  target_link_options(tallix_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+if(TALLIX_TIDY)
+  find_program(CLANG_TIDY clang-tidy REQUIRED)
+  set(CMAKE_CXX_CLANG_TIDY ${CLANG_TIDY})
+endif()
+
+find_program(CCACHE ccache)
+if(CCACHE)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+endif()

@@ -1,0 +1,15 @@
+// The batch that prices every outside call and stores the result for the reports.
+#pragma once
+
+#include <cstdint>
+
+#include "foundation/application.h"
+
+namespace tallix {
+
+/// Empties tblcostcount and fills it anew: one row for each call with `Internal` "0"
+/// and a duration. Returns the number of calls priced. Failures of the database are
+/// passed over: what was computed until then stays.
+std::int64_t ComputeCosts(Application& application);
+
+}  // namespace tallix

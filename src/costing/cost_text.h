@@ -1,0 +1,29 @@
+// Amounts and costs between text and whole pence.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace tallix {
+
+/// A cost a billing unit, as the tariff holds it.
+struct UnitCost {
+    std::int32_t whole = 0;       ///< whole pence
+    std::int32_t hundredths = 0;  ///< hundredths of a penny
+};
+
+/// Reads a tariff text such as "1.50" into `cost`, piece by piece: a piece that is no
+/// number keeps the value it had. Hundredths are the last two characters of a text
+/// with a point, so costs are meant to be typed with exactly two decimals.
+void ReadUnitCost(std::string_view text, UnitCost& cost);
+
+/// The text of a priced call, in pounds and pence. Amounts of seven digits and more
+/// have no text of their own: `text` keeps what it held.
+void WriteAmount(std::int32_t pence, std::string& text);
+
+/// The total of a report: "0.05", "123.45", "12,345.67". Digits beyond the eighth from
+/// the right are dropped.
+std::string TotalText(std::int32_t pence);
+
+}  // namespace tallix

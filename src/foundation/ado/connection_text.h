@@ -1,0 +1,27 @@
+// The connection texts of the three dialects, read into their parts.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace tallix::ado {
+
+enum class Server { Sqlite, MySql, Postgres, SqlServer };
+
+struct ConnectionParts {
+    Server server = Server::Sqlite;  ///< what answers; Sqlite for every "sqlite:" address
+    std::string host;                ///< without the port
+    int port = 0;                    ///< 0 for the server's own default
+    std::string file;                ///< the database file, Sqlite only
+    std::string database;
+    std::string user;
+    std::string password;
+    std::string driver;  ///< an ODBC driver's name, where the text names one that no native engine serves
+};
+
+/// Reads "DRIVER={MySQL ODBC 5.1 Driver};SERVER=...;..." and its kin. SERVER is
+/// "host", "host:port" or "sqlite:/path/to/file". Throws DatabaseError for a text
+/// that names no known driver or provider.
+ConnectionParts ReadConnectionText(std::string_view text);
+
+}  // namespace tallix::ado

@@ -1,0 +1,47 @@
+// Ini files with the semantics of the platform's profile files: sections and keys
+// match without regard to case, the first of two equal keys wins, blanks around
+// key and value and one pair of quotes round the value are dropped, lines that
+// begin with ";" are comments. Lines are read as foundation/code_page.h tells.
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tallix {
+
+/// The greatest length in characters of a value that ReadIniKey returns.
+inline constexpr std::size_t kLongestIniValue = 254;
+
+/// The keys of one file, read once. A file that cannot be read has no keys.
+class IniFile {
+public:
+    explicit IniFile(const std::filesystem::path& file);
+
+    /// The key's text cut to kLongestIniValue characters; empty where it is absent.
+    std::string Read(std::string_view section, std::string_view key) const;
+
+    /// The key's text uncut; nothing where it is absent.
+    std::optional<std::string> Find(std::string_view section, std::string_view key) const;
+
+private:
+    struct Entry {
+        std::string section;
+        std::string key;
+        std::string value;
+    };
+    std::vector<Entry> entries_;
+};
+
+/// Reads one key: the text, cut to kLongestIniValue characters, or the empty string.
+std::string ReadIniKey(std::string_view section, std::string_view key, const std::filesystem::path& file);
+
+/// Writes one key, making the file, the section and the key as needed and leaving all
+/// other lines as they are. The new file replaces the old one whole. Returns whether
+/// it was written.
+bool WriteIniKey(std::string_view section, std::string_view key, std::string_view value,
+                 const std::filesystem::path& file);
+
+}  // namespace tallix

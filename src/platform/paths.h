@@ -1,0 +1,32 @@
+// Where the program's files lie on this machine, and the turn of stored paths,
+// which carry "\" as a contract with other programs, into paths of this system.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace tallix {
+
+/// A stored path with each "\" turned to "/". The one place where that happens.
+std::filesystem::path ToNativePath(std::string_view stored);
+
+/// The folder that holds the program and its data: the environment variable
+/// TALLIX_HOME, else the folder of the running executable. Absolute, no slash behind.
+std::filesystem::path ApplicationFolder();
+
+/// The folder of the working files: the environment variable Temp, else a folder of
+/// this user alone (mode 0700) under the system's temporary folder, made on demand.
+/// Throws std::runtime_error when that folder belongs to somebody else.
+std::filesystem::path TempFolder();
+
+/// The folder of the settings hive of all users (HKLM): the environment variable
+/// TALLIX_REGISTRY, else /etc/tallix; and that of one user's hives: TALLIX_REGISTRY,
+/// else $XDG_CONFIG_HOME/tallix, else ~/.config/tallix.
+std::filesystem::path MachineSettingsFolder();
+std::filesystem::path UserSettingsFolder();
+
+/// The arguments behind the program's name, joined by one blank.
+std::string JoinCommandLine(int argumentCount, const char* const* arguments);
+
+}  // namespace tallix
