@@ -7,11 +7,12 @@ namespace tallix::test {
 
 class FixedClock : public Clock {
 public:
-    explicit FixedClock(DateTime moment = {2021, 3, 9, 14, 5, 30}) : moment(moment) {}
+    FixedClock() = default;
+    explicit FixedClock(const DateTime& start) : moment(start) {}
 
     DateTime Now() const override { return moment; }
 
-    DateTime moment;
+    DateTime moment{2021, 3, 9, 14, 5, 30};
 };
 
 }  // namespace tallix::test
