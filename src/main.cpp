@@ -1,0 +1,111 @@
+// Builds what the program works with and enters the start-up sequence.
+#include <QGuiApplication>
+#include <charconv>
+#include <cstdlib>
+#include <iostream>
+#include <memory>
+#include <string_view>
+
+#include "foundation/application.h"
+#include "platform/paths.h"
+#include "shell/splash_window.h"
+#include "ui/form_names.h"
+#include "ui/forms.h"
+#include "ui/guarded_application.h"
+#include "ui/message_prompts.h"
+#include "ui/qt_events.h"
+#include "ui/style.h"
+
+namespace {
+
+using tallix::Prompts;
+
+constexpr char kProgram[] = "Tallix_Reports";
+
+std::string_view Environment(const char* name) {
+    const char* value = std::getenv(name);
+    return value == nullptr ? std::string_view() : value;
+}
+
+bool HasDisplay() {
+    return !Environment("DISPLAY").empty() || !Environment("WAYLAND_DISPLAY").empty();
+}
+
+// A scheduled run may have no display, or one that no longer answers; the toolkit
+// would end the process for either.
+void ChoosePlatform(bool unattended) {
+    if (!unattended) return;
+    const char* platforms = "offscreen";
+    if (!Environment("DISPLAY").empty()) platforms = "xcb;offscreen";
+    if (!Environment("WAYLAND_DISPLAY").empty()) platforms = "wayland;xcb;offscreen";
+    setenv("QT_QPA_PLATFORM", platforms, 0);
+}
+
+// Somebody can see and answer a message box.
+bool HasScreen() {
+    return QGuiApplication::platformName() != "offscreen";
+}
+
+std::unique_ptr<Prompts> MakePrompts() {
+    if (HasScreen()) return std::make_unique<tallix::ui::MessagePrompts>();
+    return std::make_unique<tallix::UnattendedPrompts>();
+}
+
+// Tests and measurements shorten the steps.
+std::chrono::milliseconds StepInterval() {
+    const std::string_view text = Environment("TALLIX_STEP_MS");
+    int milliseconds = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), milliseconds);
+    const bool valid = error == std::errc() && end == text.data() + text.size() && milliseconds >= 0;
+    return valid ? std::chrono::milliseconds(milliseconds) : tallix::kStepInterval;
+}
+
+void ReportFailure(const std::exception& failure, bool unattended) {
+    if (unattended || !HasScreen()) {
+        std::cerr << kProgram << ": " << failure.what() << std::endl;
+        return;
+    }
+    tallix::ui::MessagePrompts().Show({"Tallix Reports", failure.what(), tallix::MessageIcon::Critical});
+}
+
+int Run(QApplication& toolkit, const std::string& commandLine) {
+    tallix::ui::ApplyStyle(toolkit);
+    const std::unique_ptr<Prompts> prompts = MakePrompts();
+    tallix::SettingsStore settings(tallix::MachineSettingsFolder(), tallix::UserSettingsFolder(), *prompts);
+    tallix::SystemClock clock;
+    tallix::ui::QtEvents events;
+    tallix::Application application{tallix::ApplicationFolder(),
+                                    tallix::TempFolder(),
+                                    tallix::ProgramVersion(),
+                                    settings,
+                                    *prompts,
+                                    clock,
+                                    events};
+    tallix::ui::Forms forms;
+    const tallix::UnattendedWork work{};
+    forms.Register(tallix::ui::kSplashForm, [&] {
+        return std::make_unique<tallix::SplashWindow>(forms, application, commandLine, work, StepInterval());
+    });
+    forms.Load(tallix::ui::kSplashForm);
+    return QApplication::exec();
+}
+
+}  // namespace
+
+int main(int argumentCount, char** arguments) {
+    const std::string commandLine = tallix::JoinCommandLine(argumentCount, arguments);
+    const bool unattended = !commandLine.empty();
+    if (!unattended && !HasDisplay() && Environment("QT_QPA_PLATFORM").empty()) {
+        std::cerr << kProgram << ": there is no display to open windows on" << std::endl;
+        return EXIT_FAILURE;
+    }
+    ChoosePlatform(unattended);
+    const auto onFailure = [&](const std::exception& failure) { ReportFailure(failure, unattended); };
+    tallix::ui::GuardedApplication toolkit(argumentCount, arguments, onFailure);
+    try {
+        return Run(toolkit, commandLine);
+    } catch (const std::exception& failure) {
+        onFailure(failure);
+    }
+    return EXIT_FAILURE;
+}

@@ -1,0 +1,38 @@
+// What a run is to do, told by the text behind the program's name.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace tallix {
+
+enum class RunKind {
+    Interactive,      ///< an empty command line: a person at the screen
+    ScheduledReport,  ///< the path of a scheduled report definition
+    Backup,           ///< the exact word "Backup"
+    Nothing,          ///< any other text: the run ends without a word
+};
+
+struct RunRequest {
+    RunKind kind = RunKind::Nothing;
+    std::string pathText;  ///< the definition's path as told, of a scheduled report only
+};
+
+/// Reads the raw command line. A path may stand between double quotes; it counts only
+/// when its last four characters are ".SSR" in upper case.
+RunRequest DecideRun(std::string_view commandLine);
+
+/// What a definition tells the runner of scheduled reports. Keys that are absent, or
+/// all of them where the file is, come as empty texts.
+struct ScheduledRun {
+    std::string report;
+    std::string user;
+    std::string output;
+    std::string outputLocation;
+    std::string ssrPath;  ///< the path as told on the command line
+};
+
+/// Reads section "General" of a definition.
+ScheduledRun ReadScheduledRun(const std::string& pathText);
+
+}  // namespace tallix

@@ -1,0 +1,137 @@
+#include "shell/splash_window.h"
+
+#include <QHBoxLayout>
+#include <QPainter>
+#include <QScreen>
+#include <QVBoxLayout>
+#include <utility>
+
+#include "ui/form_names.h"
+#include "ui/forms.h"
+#include "ui/style.h"
+
+namespace tallix {
+namespace {
+
+constexpr int kWidth = 56 * ui::kGrid;
+constexpr std::size_t kTickColour = 0;
+
+}  // namespace
+
+SplashWindow::SplashWindow(ui::Forms& forms, Application& application, const std::string& commandLine,
+                           UnattendedWork work, std::chrono::milliseconds interval)
+    : Form(forms, "Tallix Reports Tool"),
+      sequence_(application, commandLine, *this, std::move(work)),
+      caption_(new QLabel(this)),
+      version_(new QLabel(this)) {
+    setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
+    setFixedWidth(kWidth);
+    caption_->setObjectName("StepCaption");
+    version_->setObjectName("Version");
+    ui::MakeQuiet(*version_);
+    auto* rows = new QVBoxLayout(this);
+    rows->setContentsMargins(ui::kMargin * 2, ui::kMargin * 2, ui::kMargin * 2, ui::kMargin);
+    rows->setSpacing(ui::kMargin);
+    rows->addLayout(TitleRow());
+    rows->addSpacing(ui::kSpacing);
+    rows->addLayout(TickRow());
+    rows->addLayout(TextRow());
+    timer_.setInterval(interval);
+    timer_.setSingleShot(true);  // started anew after each step, so that none runs inside another
+    connect(&timer_, &QTimer::timeout, this, &SplashWindow::Advance);
+}
+
+QLayout* SplashWindow::TitleRow() {
+    auto* title = new QLabel("Tallix", this);
+    ui::MakeHeading(*title);
+    auto* subtitle = new QLabel("Reports Tool", this);
+    auto* names = new QVBoxLayout;
+    names->setSpacing(0);
+    names->addStretch();
+    names->addWidget(title);
+    names->addWidget(subtitle);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(ui::kMargin);
+    row->addWidget(new ui::ProductMark(this));
+    row->addLayout(names);
+    row->addStretch();
+    return row;
+}
+
+QLayout* SplashWindow::TickRow() {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(ui::kSpacing);
+    for (std::size_t step = 0; step < ticks_.size(); ++step) {
+        ticks_.at(step) = new ui::TickMark(QColor(ui::kEntryColours[kTickColour]), this);
+        ticks_.at(step)->setObjectName(QString("Tick%1").arg(step + 1));
+        ticks_.at(step)->hide();
+        row->addWidget(ticks_.at(step));
+    }
+    row->addStretch();
+    return row;
+}
+
+QLayout* SplashWindow::TextRow() {
+    auto* row = new QHBoxLayout;
+    row->addWidget(caption_);
+    row->addStretch();
+    row->addWidget(version_);
+    return row;
+}
+
+void SplashWindow::OnLoad() {
+    sequence_.Load();
+    timer_.start();
+}
+
+void SplashWindow::OnUnload() {
+    timer_.stop();
+}
+
+void SplashWindow::Advance() {
+    sequence_.Tick();
+    if (!sequence_.HasEnded()) timer_.start();
+}
+
+// A hairline round the splash, which has no frame of the desktop's.
+void SplashWindow::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.fillRect(rect(), palette().base());
+    painter.setPen(palette().mid().color());
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+void SplashWindow::ShowVersion(const std::string& text) {
+    version_->setText(QString::fromStdString(text));
+}
+
+void SplashWindow::ShowSplash() {
+    adjustSize();
+    move(screen()->availableGeometry().center() - rect().center());
+    show();
+}
+
+void SplashWindow::ShowStep(std::string_view caption, int tick) {
+    const QString text = QString::fromUtf8(caption.data(), static_cast<qsizetype>(caption.size()));
+    caption_->setText(text);
+    ticks_.at(tick)->setAccessibleName(text);
+    ticks_.at(tick)->show();
+}
+
+void SplashWindow::UnloadSplash() {
+    Unload();
+}
+
+void SplashWindow::ShowSettingsRequired() {
+    OtherForms().Show(ui::kSettingsRequiredForm);
+}
+
+void SplashWindow::LoadLogin() {
+    OtherForms().Load(ui::kLoginForm);
+}
+
+void SplashWindow::ShowLogin() {
+    OtherForms().Show(ui::kLoginForm);
+}
+
+}  // namespace tallix

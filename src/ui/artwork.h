@@ -1,0 +1,29 @@
+// What the windows draw themselves, in the entry colours, sharp at every scale.
+#pragma once
+
+#include <QWidget>
+
+namespace tallix::ui {
+
+/// A round tick of 3 grid steps. Keeps its place while hidden.
+class TickMark : public QWidget {
+public:
+    explicit TickMark(QColor colour, QWidget* parent = nullptr);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QColor colour_;
+};
+
+/// The mark of the product: six rising bars in the entry colours.
+class ProductMark : public QWidget {
+public:
+    explicit ProductMark(QWidget* parent = nullptr);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+}  // namespace tallix::ui

@@ -1,0 +1,35 @@
+#include "ui/style.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QStyleFactory>
+
+namespace tallix::ui {
+namespace {
+
+constexpr char kTextRole[] = "textRole";
+
+// Labels carry their role as a property, so that the sheet stays in one place.
+constexpr char kSheet[] = R"(
+    QLabel[textRole="heading"] { font-size: 20pt; font-weight: 600; }
+    QLabel[textRole="quiet"] { color: palette(dark); }
+    QPushButton { min-height: 24px; padding: 2px 16px; }
+    QLineEdit, QComboBox { min-height: 24px; }
+)";
+
+}  // namespace
+
+void ApplyStyle(QApplication& application) {
+    application.setStyle(QStyleFactory::create("Fusion"));
+    application.setStyleSheet(kSheet);
+}
+
+void MakeHeading(QLabel& label) {
+    label.setProperty(kTextRole, "heading");
+}
+
+void MakeQuiet(QLabel& label) {
+    label.setProperty(kTextRole, "quiet");
+}
+
+}  // namespace tallix::ui
