@@ -1,0 +1,114 @@
+#include "reporting/key_lookup.h"
+
+#include <bit>
+
+#include "foundation/attempt.h"
+#include "foundation/database.h"
+#include "foundation/prefix_table.h"
+#include "foundation/text_conversion.h"
+
+namespace tallix {
+
+namespace {
+
+/// Distinct keys asked of the server before the whole table is read.
+constexpr std::size_t kQuestionsBeforeTable = 64;
+
+std::optional<std::string_view> View(const std::optional<std::string>& text) {
+    return text ? std::optional<std::string_view>(*text) : std::nullopt;
+}
+
+}  // namespace
+
+// The rows of a table by key: an open-addressing index of row numbers, 4 bytes a place,
+// over the fetched rows. The first row of a key is the one found.
+class KeyLookup::Table {
+public:
+    Table(Session& session, const KeyLookupNames& names)
+        : result_(OpenConnection(session).Fetch("SELECT * FROM " + std::string(names.table))),
+          key_(ColumnNamed(names.key)),
+          value_(ColumnNamed(names.value)),
+          places_(std::bit_ceil(static_cast<std::size_t>(result_.rows.Rows()) * 2 + 1), kFree) {
+        for (std::int64_t row = 0; row < result_.rows.Rows(); ++row) Enter(row);
+    }
+
+    /// Whether the server may see this key as equal to one that is spelled otherwise.
+    bool IsDoubtful(std::string_view key) const { return doubtful_.find(key) != doubtful_.end(); }
+
+    std::optional<std::string_view> Find(std::string_view key) const {
+        for (std::size_t place = PlaceOf(key); places_[place] != kFree; place = Next(place)) {
+            if (KeyAt(places_[place]) == key) return result_.rows.At(places_[place], value_).value_or("");
+        }
+        return std::nullopt;
+    }
+
+private:
+    static constexpr std::uint32_t kFree = static_cast<std::uint32_t>(-1);
+
+    std::size_t ColumnNamed(std::string_view name) const {
+        for (std::size_t i = 0; i < result_.columns.size(); ++i) {
+            if (EqualNoCase(result_.columns[i], name)) return i;
+        }
+        throw DatabaseError("The column " + std::string(name) + " is missing");
+    }
+
+    void Enter(std::int64_t row) {
+        const ado::Value key = result_.rows.At(row, key_);
+        if (!key) return;
+        const std::string_view bare = key->substr(0, key->find_last_not_of(' ') + 1);
+        if (bare.size() != key->size()) doubtful_.emplace(bare);
+        std::size_t place = PlaceOf(*key);
+        for (; places_[place] != kFree; place = Next(place)) {
+            if (KeyAt(places_[place]) == *key) return;
+        }
+        places_[place] = static_cast<std::uint32_t>(row);
+    }
+
+    std::size_t PlaceOf(std::string_view key) const {
+        return std::hash<std::string_view>{}(key) & (places_.size() - 1);
+    }
+    std::size_t Next(std::size_t place) const { return (place + 1) & (places_.size() - 1); }
+    std::string_view KeyAt(std::uint32_t row) const { return *result_.rows.At(row, key_); }
+
+    ado::Result result_;
+    std::size_t key_;
+    std::size_t value_;
+    std::vector<std::uint32_t> places_;
+    std::unordered_set<std::string, TextHash, std::equal_to<>> doubtful_;
+};
+
+KeyLookup::KeyLookup(Session& session, const KeyLookupNames& names) : session_(session), names_(names) {}
+
+KeyLookup::~KeyLookup() = default;
+
+std::optional<std::string_view> KeyLookup::Find(std::string_view key) {
+    const bool plain = IsPlainNumber(key);
+    if (plain && table_ && !table_->IsDoubtful(key)) return table_->Find(key);
+    if (const auto known = answers_.find(key); known != answers_.end()) return View(known->second);
+    if (plain && !triedTable_ && answers_.size() >= kQuestionsBeforeTable) {
+        ReadTable();
+        return Find(key);
+    }
+    return Ask(key);
+}
+
+std::optional<std::string_view> KeyLookup::Ask(std::string_view key) {
+    return View(answers_.emplace(std::string(key), FirstValue(key)).first->second);
+}
+
+std::optional<std::string> KeyLookup::FirstValue(std::string_view key) {
+    std::optional<std::string> value;
+    Attempt([&] {
+        ado::Recordset rows;
+        rows.Open(std::string(names_.statement) + Quoted(session_, key), OpenConnection(session_));
+        if (rows.RecordCount() > 0) value = rows.Text(names_.value);
+    });
+    return value;
+}
+
+void KeyLookup::ReadTable() {
+    triedTable_ = true;
+    Attempt([&] { table_ = std::make_unique<Table>(session_, names_); });
+}
+
+}  // namespace tallix

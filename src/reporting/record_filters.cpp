@@ -1,0 +1,101 @@
+#include "reporting/record_filters.h"
+
+#include <algorithm>
+#include <compare>
+
+#include "foundation/attempt.h"
+#include "foundation/text_conversion.h"
+
+namespace tallix {
+
+namespace {
+
+bool HasTimeTest(const RunDescription& run) {
+    const bool from = !run.inputs.timeFrom.empty();
+    const bool to = !run.inputs.timeTo.empty();
+    return run.rules.time == TimeRule::BothBounds ? from && to : from || to;
+}
+
+std::int32_t Bound(const std::string& date) {
+    std::int32_t day = 0;
+    if (!date.empty()) Attempt([&] { day = DayNumber(date); });
+    return day;
+}
+
+std::optional<std::int32_t> Bounding(const std::string& time) {
+    std::optional<std::int32_t> number;
+    Attempt([&] { number = time.empty() ? 0 : TimeNo(time); });
+    return number;
+}
+
+// Compares as if every ":" of `left` were gone; `right` has none.
+std::strong_ordering CompareDigits(std::string_view left, std::string_view right) {
+    std::size_t place = 0;
+    for (const char c : left) {
+        if (c == ':') continue;
+        if (place == right.size()) return std::strong_ordering::greater;
+        const auto ours = static_cast<unsigned char>(c);
+        const auto theirs = static_cast<unsigned char>(right[place++]);
+        if (ours != theirs) return ours <=> theirs;
+    }
+    return place == right.size() ? std::strong_ordering::equal : std::strong_ordering::less;
+}
+
+}  // namespace
+
+RecordFilters::RecordFilters(const RunDescription& run, bool byHours, std::string_view opens,
+                             std::string_view closes)
+    : timeRule_(run.rules.time),
+      dropsBlankNumbers_(run.rules.dropsBlankNumbers),
+      byTime_(HasTimeTest(run)),
+      byHours_(byHours),
+      firstDay_(Bound(run.inputs.startDate)),
+      lastDay_(Bound(run.inputs.endDate)),
+      startsEmpty_(run.inputs.timeFrom.empty()),
+      from_(Bounding(run.inputs.timeFrom)),
+      to_(Bounding(run.inputs.timeTo)),
+      opens_(Replace(opens, ":", "")),
+      closes_(Replace(closes, ":", "")) {}
+
+bool RecordFilters::Keeps(const ado::Recordset& calls, const CallColumns& columns) {
+    return KeepsDate(calls, columns) && KeepsTime(calls, columns) && KeepsHours(calls, columns) &&
+           !(dropsBlankNumbers_ && columns.destNum && Trim(FieldText(calls, columns.destNum)).empty());
+}
+
+bool RecordFilters::KeepsDate(const ado::Recordset& calls, const CallColumns& columns) {
+    if (firstDay_ == 0 && lastDay_ == 0) return true;
+    Attempt([&] { day_ = DayNumber(FieldText(calls, columns.date)); });
+    return (firstDay_ == 0 || day_ >= firstDay_) && (lastDay_ == 0 || day_ <= lastDay_);
+}
+
+bool RecordFilters::KeepsTime(const ado::Recordset& calls, const CallColumns& columns) const {
+    if (!byTime_) return true;
+    const std::string_view time = FieldText(calls, columns.time);
+    if (timeRule_ == TimeRule::Schedule) return WithinSchedule(time);
+    return TestOrEnter([&] {
+        const std::int32_t t = TimeNo(time);
+        return (!from_ || t > *from_) && (!to_ || t < *to_);
+    });
+}
+
+// The two nested tests of a schedule: past the start, the end decides; at or before
+// the start only a schedule without one goes on to the end.
+bool RecordFilters::WithinSchedule(std::string_view time) const {
+    return TestOrEnter([&] {
+        const std::int32_t t = time.empty() ? 0 : TimeNo(time);
+        const bool beforeEnd = !to_ || t < *to_;
+        if (!from_ || t > *from_) return beforeEnd;
+        return startsEmpty_ && beforeEnd;
+    });
+}
+
+// Only calls before the opening time stay. The second test, on closing, adds nothing to
+// the first and is part of the rule all the same.
+bool RecordFilters::KeepsHours(const ado::Recordset& calls, const CallColumns& columns) const {
+    if (!byHours_ || !columns.time) return true;
+    const std::string_view time = FieldText(calls, columns.time);
+    const bool beforeOpening = CompareDigits(time, opens_) < 0;
+    return beforeOpening && (CompareDigits(time, closes_) > 0 || beforeOpening);
+}
+
+}  // namespace tallix

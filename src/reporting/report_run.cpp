@@ -1,0 +1,159 @@
+#include "reporting/report_run.h"
+
+#include <algorithm>
+#include <string>
+#include <system_error>
+
+#include "costing/tariff.h"
+#include "foundation/ado/recordset.h"
+#include "foundation/attempt.h"
+#include "foundation/database.h"
+#include "foundation/text_conversion.h"
+#include "reporting/query_builder.h"
+#include "reporting/report_columns.h"
+
+namespace tallix {
+
+namespace {
+
+constexpr std::string_view kPageName = "rpt.tmp";
+constexpr std::string_view kCommaTextName = "rpt.csv";
+constexpr std::string_view kWorkingFiles[] = {kCommaTextName, kPageName, "rptcov.tmp", "rptbac.tmp"};
+
+PageShape ShapeOf(const RunDescription& description, bool coloured) {
+    if (description.commaText || description.rules.commaTextOnly) return PageShape::CommaText;
+    return coloured ? PageShape::Coloured : PageShape::Plain;
+}
+
+std::string_view CurrencyOf(const RunRules& rules, const Session& session) {
+    return rules.fixedCurrency.empty() ? std::string_view(session.Currency) : rules.fixedCurrency;
+}
+
+}  // namespace
+
+std::filesystem::path PageFile(const Application& application) {
+    return application.tempFolder / kPageName;
+}
+
+std::filesystem::path CommaTextFile(const Application& application) {
+    return application.tempFolder / kCommaTextName;
+}
+
+ReportRun::ReportRun(Application& application, ReportFlags& flags, RunProgress& progress)
+    : application_(application), flags_(flags), progress_(progress) {}
+
+RunOutcome ReportRun::Make(const RunDescription& description) {
+    DeleteWorkingFiles();
+    settings_ = ReadReportSettings(application_.settings);
+    ReadKeys(description);
+    Attempt([&] { OpenDatabase(application_.session); });
+    site_ = ReadFirstSite(application_.session, settings_.numbers);
+    const RunOutcome outcome = WritePage(description);
+    CloseDatabase(application_.session);
+    return outcome;
+}
+
+void ReportRun::DeleteWorkingFiles() const {
+    std::error_code ignored;
+    for (const std::string_view name : kWorkingFiles) {
+        std::filesystem::remove(application_.tempFolder / name, ignored);
+    }
+}
+
+void ReportRun::ReadKeys(const RunDescription& description) {
+    const IniFile report(description.reportFile);
+    flags_.Read(report);
+    options_ = ReadReportOptions(report);
+}
+
+RunOutcome ReportRun::WritePage(const RunDescription& description) {
+    const PageDescription pageDescription = DescribePage(description);
+    Page page(PageFile(application_), pageDescription);
+    page.WriteHead();
+    if (description.rules.writesTitle && !options_.title.empty())
+        page.WriteTitle(TitleLine(description.inputs));
+    page.WriteColumnHeads(HeadsOf(flags_, settings_.numbers));
+
+    ado::Recordset calls;
+    Attempt([&] { OpenCalls(description, calls); });
+    const bool isEmpty = TestOrEnter([&] { return calls.RecordCount() == 0; });
+    if (isEmpty && description.rules.empty == EmptyResult::Stop) return RunOutcome::NoData;
+    page.WriteTotals(WriteRows(description, calls, page));
+    page.WriteEnd("");
+    page.Close();
+    return RunOutcome::Complete;
+}
+
+PageDescription ReportRun::DescribePage(const RunDescription& description) const {
+    return {.shape = ShapeOf(description, settings_.coloured),
+            .settings = settings_,
+            .rules = description.rules,
+            .reportName = description.reportName,
+            .applicationFolder = application_.folder.string(),
+            .docsLocation = application_.session.DocsLocation,
+            .version = application_.version,
+            .generated = application_.clock.Now(),
+            .addressLines = site_.addressLines};
+}
+
+// The title names what the report was asked for; the site's entry stands in for a
+// field that was left empty.
+std::string ReportRun::TitleLine(const RunInputs& inputs) const {
+    const bool ofAccount = options_.account && !options_.extension;
+    const std::string& field = ofAccount ? inputs.account : inputs.extension;
+    return options_.title + " " + (field.empty() ? inputs.site : field);
+}
+
+void ReportRun::OpenCalls(const RunDescription& description, ado::Recordset& calls) {
+    const QueryInputs query = {.flags = flags_,
+                               .options = options_,
+                               .inputs = description.inputs,
+                               .rules = description.rules.query,
+                               .isMitel5000 = site_.isMitel5000};
+    const std::string statement = BuildQuery(application_.session, query);
+    calls.Open(statement, OpenConnection(application_.session));
+}
+
+PageTotals ReportRun::WriteRows(const RunDescription& description, ado::Recordset& calls, Page& page) {
+    const std::string currency(CurrencyOf(description.rules, application_.session));
+    recordsWritten_ = 0;
+    Tariff tariff(application_.session);
+    const CallColumns columns(calls);
+    RowResolver rows(
+        {.session = application_.session,
+         .flags = flags_,
+         .settings = settings_,
+         .site = site_,
+         .tariff = tariff,
+         .currency = currency,
+         .dropsShortNumbers = CountsDialledNumbers(flags_, options_) && flags_[DataKey::DestNum]},
+        columns);
+    RecordFilters filters(description, flags_.Hours(), settings_.timeOpen, settings_.timeClosed);
+    std::int64_t bound = calls.IsOpen() ? calls.RecordCount() : 0;
+    if (description.rules.honoursTop && options_.top != 0) bound = options_.top;
+    WalkRecords(calls, bound, columns, filters, rows, page);
+    return {.records = recordsWritten_,
+            .showsCost = flags_.Cost(),
+            .cost = currency + TotalText(rows.TotalPence())};
+}
+
+// `bound` counts the records looked at, kept or not, save those that a count of
+// dialled numbers drops. Rounds past the last record would do nothing.
+void ReportRun::WalkRecords(ado::Recordset& calls, std::int64_t bound, const CallColumns& columns,
+                            RecordFilters& filters, RowResolver& rows, Page& page) {
+    std::int64_t record = 1;
+    const std::int64_t fetched = calls.IsOpen() ? calls.RecordCount() : 0;
+    for (std::int64_t row = 0; row < fetched && record <= bound; ++row, ++record, calls.MoveNext()) {
+        progress_.Record(record, bound);
+        if (!filters.Keeps(calls, columns)) continue;
+        if (rows.IsDropped(calls)) {
+            page.FlipShading();
+            --record;
+            continue;
+        }
+        page.WriteRow(rows.Resolve(calls));
+        ++recordsWritten_;
+    }
+}
+
+}  // namespace tallix

@@ -1,0 +1,78 @@
+// The one report pipeline: keys -> statement -> records -> cells -> page. A preset run
+// at the screen and a scheduled run differ by their RunDescription and by nothing else.
+//
+//     ReportRun run(application, flags, progress);
+//     if (run.Make(description) == RunOutcome::NoData) ...
+//
+// The run is in continue-on-error mode throughout: what fails is passed over, and no
+// message is shown. The page is left in PageFile().
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+
+#include "foundation/application.h"
+#include "reporting/catalogue.h"
+#include "reporting/page_rendering.h"
+#include "reporting/record_filters.h"
+#include "reporting/row_resolution.h"
+#include "reporting/run_description.h"
+
+namespace tallix {
+
+/// Hears of each record before any filter sees it.
+class RunProgress {
+public:
+    virtual ~RunProgress() = default;
+
+    /// `record` counts from 1 to `bound`.
+    virtual void Record(std::int64_t record, std::int64_t bound) = 0;
+};
+
+/// For runs that nobody watches.
+class NoProgress : public RunProgress {
+public:
+    void Record(std::int64_t, std::int64_t) override {}
+};
+
+enum class RunOutcome {
+    Complete,
+    NoData,  ///< the statement gave no records or was refused; the page has only its head
+};
+
+/// The working files of a run, in the folder for them.
+std::filesystem::path PageFile(const Application& application);       ///< rpt.tmp
+std::filesystem::path CommaTextFile(const Application& application);  ///< rpt.csv
+
+class ReportRun {
+public:
+    /// `flags` are the process's report switches; all arguments must outlive the run.
+    ReportRun(Application& application, ReportFlags& flags, RunProgress& progress);
+
+    /// Makes the page. Opens the session's database and closes it again.
+    RunOutcome Make(const RunDescription& description);
+
+    /// The first site, as the latest run read it; scheduled mail goes to its address.
+    const Site& FirstSite() const { return site_; }
+
+private:
+    void DeleteWorkingFiles() const;
+    void ReadKeys(const RunDescription& description);
+    RunOutcome WritePage(const RunDescription& description);
+    PageDescription DescribePage(const RunDescription& description) const;
+    std::string TitleLine(const RunInputs& inputs) const;
+    void OpenCalls(const RunDescription& description, ado::Recordset& calls);
+    PageTotals WriteRows(const RunDescription& description, ado::Recordset& calls, Page& page);
+    void WalkRecords(ado::Recordset& calls, std::int64_t bound, const CallColumns& columns,
+                     RecordFilters& filters, RowResolver& rows, Page& page);
+
+    Application& application_;
+    ReportFlags& flags_;
+    RunProgress& progress_;
+    ReportOptions options_;
+    ReportSettings settings_;
+    Site site_;
+    std::int32_t recordsWritten_ = 0;
+};
+
+}  // namespace tallix

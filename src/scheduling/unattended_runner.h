@@ -1,0 +1,15 @@
+// Runs one scheduled report with nobody at the screen: always comma text, delivered to
+// a folder or by mail. Nothing is shown, asked or logged; every failure is silent.
+#pragma once
+
+#include "foundation/application.h"
+#include "reporting/catalogue.h"
+#include "scheduling/scheduled_report.h"
+
+namespace tallix {
+
+/// Makes the report and delivers it. A target file that exists is left as it is and the
+/// result stays behind in the working files, where the next run removes it.
+void RunScheduledReport(Application& application, ReportFlags& flags, const ScheduledReport& schedule);
+
+}  // namespace tallix
