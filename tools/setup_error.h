@@ -1,0 +1,13 @@
+// What ends a set-up, told in one line.
+#pragma once
+
+#include <stdexcept>
+
+namespace tallix {
+
+class SetupError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+}  // namespace tallix
