@@ -6,8 +6,10 @@
 #include <memory>
 #include <string_view>
 
+#include "custody/automated_backup.h"
 #include "foundation/application.h"
 #include "platform/paths.h"
+#include "scheduling/unattended_runner.h"
 #include "shell/splash_window.h"
 #include "ui/form_names.h"
 #include "ui/forms.h"
@@ -82,7 +84,11 @@ int Run(QApplication& toolkit, const std::string& commandLine) {
                                     clock,
                                     events};
     tallix::ui::Forms forms;
-    const tallix::UnattendedWork work{};
+    tallix::ReportFlags flags;
+    const tallix::UnattendedWork work = {[&](const tallix::ScheduledReport& report) {
+                                             tallix::RunScheduledReport(application, flags, report);
+                                         },
+                                         [&] { tallix::WriteAutomatedBackup(application); }};
     forms.Register(tallix::ui::kSplashForm, [&] {
         return std::make_unique<tallix::SplashWindow>(forms, application, commandLine, work, StepInterval());
     });

@@ -2,16 +2,13 @@
 
 #include <algorithm>
 
-#include "foundation/ini_file.h"
 #include "foundation/text_conversion.h"
-#include "platform/paths.h"
 
 namespace tallix {
 namespace {
 
 constexpr std::string_view kDefinitionEnding = ".SSR";
 constexpr std::string_view kBackupWord = "Backup";
-constexpr std::string_view kSection = "General";
 
 std::string_view WithoutLeadingBlanks(std::string_view text) {
     return text.substr(std::min(text.find_first_not_of(' '), text.size()));
@@ -35,12 +32,6 @@ RunRequest DecideRun(std::string_view commandLine) {
     if (path.ends_with(kDefinitionEnding)) return {RunKind::ScheduledReport, std::string(path)};
     if (commandLine == kBackupWord) return {RunKind::Backup, ""};
     return {RunKind::Nothing, ""};
-}
-
-ScheduledRun ReadScheduledRun(const std::string& pathText) {
-    const IniFile definition(ToNativePath(pathText));
-    return {definition.Read(kSection, "Report"), definition.Read(kSection, "User"),
-            definition.Read(kSection, "Output"), definition.Read(kSection, "OutputLocation"), pathText};
 }
 
 }  // namespace tallix

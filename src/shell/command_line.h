@@ -22,17 +22,4 @@ struct RunRequest {
 /// when its last four characters are ".SSR" in upper case.
 RunRequest DecideRun(std::string_view commandLine);
 
-/// What a definition tells the runner of scheduled reports. Keys that are absent, or
-/// all of them where the file is, come as empty texts.
-struct ScheduledRun {
-    std::string report;
-    std::string user;
-    std::string output;
-    std::string outputLocation;
-    std::string ssrPath;  ///< the path as told on the command line
-};
-
-/// Reads section "General" of a definition.
-ScheduledRun ReadScheduledRun(const std::string& pathText);
-
 }  // namespace tallix

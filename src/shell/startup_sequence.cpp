@@ -119,7 +119,9 @@ void StartupSequence::OpenLogin() {
 }
 
 void StartupSequence::RunUnattended(const RunRequest& request) {
-    if (request.kind == RunKind::ScheduledReport) work_.runReport(ReadScheduledRun(request.pathText));
+    if (request.kind == RunKind::ScheduledReport) {
+        work_.runReport(ReadScheduledReport(ToNativePath(request.pathText)));
+    }
     if (request.kind == RunKind::Backup) work_.dump();
 }
 

@@ -11,6 +11,7 @@
 #include <string_view>
 
 #include "foundation/application.h"
+#include "scheduling/scheduled_report.h"
 #include "shell/command_line.h"
 
 namespace tallix {
@@ -38,7 +39,7 @@ public:
 
 /// The work of runs with nobody at the screen. Each routine returns when it is done.
 struct UnattendedWork {
-    std::function<void(const ScheduledRun&)> runReport;
+    std::function<void(const ScheduledReport&)> runReport;
     std::function<void()> dump;
 };
 

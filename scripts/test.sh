@@ -1,0 +1,10 @@
+#!/bin/sh
+# Installs what is missing, builds, and runs every test. Arguments go to ctest, as in
+# scripts/test.sh -L unit
+set -eu
+cd "$(dirname "$0")/.."
+
+scripts/deps.sh
+cmake --preset release
+cmake --build --preset release --parallel "$(nproc)"
+ctest --preset release --parallel "$(nproc)" "$@"
