@@ -1,6 +1,7 @@
 // One routine sends every mail of the system.
 #pragma once
 
+#include <chrono>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -9,7 +10,7 @@ namespace tallix {
 
 struct Mail {
     std::string from;
-    std::string to;
+    std::string to;  ///< one address, shown as its own display name
     std::string subject;
     std::string body;
     std::vector<std::filesystem::path> attachments;  ///< files that do not exist are skipped
@@ -19,13 +20,18 @@ struct MailServer {
     std::string host;
     int port = 25;
     bool authenticate = true;
-    std::string user;
+    std::string user;  ///< may be empty with authentication on
     std::string password;
     bool ssl = false;  ///< carried along; the mail goes out the same either way
 };
 
-/// Sends the mail, within 30 seconds. Returns whether the server took it; callers of
-/// the system report nothing either way.
-bool SendMail(const Mail& mail, const MailServer& server);
+/// How long a send may take in all; a third of it is given to reaching the server.
+inline constexpr std::chrono::seconds kMailLimit{30};
+
+/// Sends the mail in plain SMTP and waits for it, `limit` at most. Returns whether the
+/// server took it; callers of the system report nothing either way. Texts are UTF-8;
+/// control characters in addresses, subject and file names are dropped, so that none
+/// can start a header or a command of its own. Never throws for a mail or a server.
+bool SendMail(const Mail& mail, const MailServer& server, std::chrono::milliseconds limit = kMailLimit);
 
 }  // namespace tallix

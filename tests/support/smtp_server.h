@@ -1,0 +1,54 @@
+// A real mail server on loopback for tests: it takes any mail and keeps it to be looked
+// at. Needs Debian's python3-aiosmtpd.
+#pragma once
+
+#include <sys/types.h>
+
+#include <filesystem>
+#include <map>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace tallix::test {
+
+struct ReceivedMail {
+    std::string from;  ///< of the envelope, as `to`
+    std::string to;
+    std::string user;  ///< who signed in; empty for nobody
+    std::string raw;
+    std::string body;                                              ///< decoded, as are the headers
+    std::map<std::string, std::string> headers;                    ///< by name as sent
+    std::vector<std::pair<std::string, std::string>> attachments;  ///< name and bytes
+};
+
+class SmtpServer {
+public:
+    struct Account {
+        std::string user;
+        std::string password;
+    };
+
+    /// Starts the server; with an account it takes no mail from others. Throws
+    /// std::runtime_error when it does not start.
+    explicit SmtpServer(const std::optional<Account>& account = std::nullopt);
+
+    /// Stops it by its process id.
+    ~SmtpServer();
+    SmtpServer(const SmtpServer&) = delete;
+    SmtpServer& operator=(const SmtpServer&) = delete;
+
+    int Port() const { return port_; }
+
+    /// The mails taken so far, first to last.
+    std::vector<ReceivedMail> Mails() const;
+
+private:
+    std::filesystem::path folder_;
+    pid_t process_ = -1;
+    int input_ = -1;  ///< the server ends when this closes
+    int port_ = 0;
+};
+
+}  // namespace tallix::test

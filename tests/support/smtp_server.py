@@ -1,0 +1,84 @@
+"""A mail server on loopback that keeps what it is sent.
+
+    smtp_server.py FOLDER [--user NAME --password TEXT]
+
+Prints its port, then serves until standard input ends, so that it never outlives the
+test that started it. Each mail becomes a folder FOLDER/1, FOLDER/2, ... with the files
+raw, from, to, user, body, header.NAME for each header (decoded), and for attachments
+attachment.N.name and attachment.N. The file "complete" comes last.
+"""
+import argparse
+import asyncio
+import email
+import email.policy
+import logging
+import pathlib
+import sys
+import warnings
+
+from aiosmtpd.smtp import SMTP, AuthResult
+
+
+class Keeper:
+    def __init__(self, folder):
+        self.folder = folder
+        self.count = 0
+
+    async def handle_DATA(self, server, session, envelope):
+        self.count += 1
+        mail = self.folder / str(self.count)
+        mail.mkdir()
+        user = session.auth_data.login.decode() if session.authenticated else ""
+        self.keep(mail, envelope, user)
+        (mail / "complete").touch()
+        return "250 OK"
+
+    @staticmethod
+    def keep(mail, envelope, user):
+        (mail / "raw").write_bytes(envelope.original_content)
+        (mail / "from").write_text(envelope.mail_from)
+        (mail / "to").write_text("\n".join(envelope.rcpt_tos))
+        (mail / "user").write_text(user)
+        message = email.message_from_bytes(envelope.original_content, policy=email.policy.default)
+        for name, value in message.items():
+            (mail / f"header.{name}").write_text(str(value))
+        body = message.get_body(("plain",))
+        (mail / "body").write_text(body.get_content().replace("\r\n", "\n") if body else "")
+        for number, part in enumerate(message.iter_attachments(), 1):
+            (mail / f"attachment.{number}.name").write_text(part.get_filename() or "")
+            (mail / f"attachment.{number}").write_bytes(part.get_payload(decode=True))
+
+
+def account_settings(user, password):
+    if user is None:
+        return {}
+
+    def check(server, session, envelope, mechanism, data):
+        known = (user.encode(), password.encode())
+        return AuthResult(success=(data.login, data.password) == known, handled=False, auth_data=data)
+
+    return {"authenticator": check, "auth_required": True, "auth_require_tls": False}
+
+
+async def serve(options):
+    loop = asyncio.get_running_loop()
+    settings = account_settings(options.user, options.password)
+    keeper = Keeper(options.folder)
+    server = await loop.create_server(lambda: SMTP(keeper, loop=loop, **settings), "127.0.0.1", 0)
+    print(server.sockets[0].getsockname()[1], flush=True)
+    await loop.run_in_executor(None, sys.stdin.read)
+    server.close()
+
+
+def main():
+    # It warns that passwords go over the wire unprotected, which is what is wanted here.
+    warnings.simplefilter("ignore")
+    logging.disable(logging.WARNING)
+    arguments = argparse.ArgumentParser()
+    arguments.add_argument("folder", type=pathlib.Path)
+    arguments.add_argument("--user")
+    arguments.add_argument("--password", default="")
+    asyncio.run(serve(arguments.parse_args()))
+
+
+main()
