@@ -30,6 +30,6 @@ picture() {
 
 "$program" &
 splash=$!
-sleep 4.6
+sleep "${TALLIX_WAIT:-4.6}"
 picture splash
 wait "$splash"

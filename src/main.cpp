@@ -33,14 +33,20 @@ bool HasDisplay() {
     return !Environment("DISPLAY").empty() || !Environment("WAYLAND_DISPLAY").empty();
 }
 
+// What the toolkit remarks on its surroundings is of no use to a scheduled run, whose
+// every line on standard error somebody may get by mail.
+void KeepSevereMessages(QtMsgType type, const QMessageLogContext&, const QString& text) {
+    if (type == QtCriticalMsg || type == QtFatalMsg) std::cerr << text.toStdString() << std::endl;
+}
+
 // A scheduled run may have no display, or one that no longer answers; the toolkit
 // would end the process for either.
-void ChoosePlatform(bool unattended) {
-    if (!unattended) return;
+void PrepareUnattended() {
     const char* platforms = "offscreen";
     if (!Environment("DISPLAY").empty()) platforms = "xcb;offscreen";
     if (!Environment("WAYLAND_DISPLAY").empty()) platforms = "wayland;xcb;offscreen";
     setenv("QT_QPA_PLATFORM", platforms, 0);
+    qInstallMessageHandler(KeepSevereMessages);
 }
 
 // Somebody can see and answer a message box.
@@ -105,7 +111,7 @@ int main(int argumentCount, char** arguments) {
         std::cerr << kProgram << ": there is no display to open windows on" << std::endl;
         return EXIT_FAILURE;
     }
-    ChoosePlatform(unattended);
+    if (unattended) PrepareUnattended();
     const auto onFailure = [&](const std::exception& failure) { ReportFailure(failure, unattended); };
     tallix::ui::GuardedApplication toolkit(argumentCount, arguments, onFailure);
     try {

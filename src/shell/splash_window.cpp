@@ -15,6 +15,7 @@ namespace {
 
 constexpr int kWidth = 56 * ui::kGrid;
 constexpr std::size_t kTickColour = 0;
+constexpr double kDotRadius = ui::kGrid / 4.0;
 
 }  // namespace
 
@@ -30,11 +31,12 @@ SplashWindow::SplashWindow(ui::Forms& forms, Application& application, const std
     version_->setObjectName("Version");
     ui::MakeQuiet(*version_);
     auto* rows = new QVBoxLayout(this);
-    rows->setContentsMargins(ui::kMargin * 2, ui::kMargin * 2, ui::kMargin * 2, ui::kMargin);
-    rows->setSpacing(ui::kMargin);
+    rows->setContentsMargins(ui::kMargin * 2, ui::kMargin * 2, ui::kMargin * 2, ui::kMargin + ui::kSpacing);
+    rows->setSpacing(0);
     rows->addLayout(TitleRow());
-    rows->addSpacing(ui::kSpacing);
+    rows->addSpacing(ui::kMargin * 2);
     rows->addLayout(TickRow());
+    rows->addSpacing(ui::kSpacing * 2);
     rows->addLayout(TextRow());
     timer_.setInterval(interval);
     timer_.setSingleShot(true);  // started anew after each step, so that none runs inside another
@@ -45,6 +47,7 @@ QLayout* SplashWindow::TitleRow() {
     auto* title = new QLabel("Tallix", this);
     ui::MakeHeading(*title);
     auto* subtitle = new QLabel("Reports Tool", this);
+    ui::MakeSubheading(*subtitle);
     auto* names = new QVBoxLayout;
     names->setSpacing(0);
     names->addStretch();
@@ -93,12 +96,19 @@ void SplashWindow::Advance() {
     if (!sequence_.HasEnded()) timer_.start();
 }
 
-// A hairline round the splash, which has no frame of the desktop's.
+// A hairline round the splash, which has no frame of the desktop's, and a dot where a
+// tick is still to come.
 void SplashWindow::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), palette().base());
     painter.setPen(palette().mid().color());
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(palette().mid());
+    for (const ui::TickMark* tick : ticks_) {
+        painter.drawEllipse(QRectF(tick->geometry()).center(), kDotRadius, kDotRadius);
+    }
 }
 
 void SplashWindow::ShowVersion(const std::string& text) {

@@ -28,9 +28,10 @@ QMessageBox::StandardButtons ButtonsOf(MessageButtons buttons) {
     return buttons == MessageButtons::YesNo ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok;
 }
 
-Answer AnswerOf(int button) {
-    if (button == QMessageBox::Yes) return Answer::Yes;
-    return button == QMessageBox::No ? Answer::No : Answer::Ok;
+// A question that is closed without a button counts as No.
+Answer AnswerOf(int button, MessageButtons buttons) {
+    if (buttons == MessageButtons::Ok) return Answer::Ok;
+    return button == QMessageBox::Yes ? Answer::Yes : Answer::No;
 }
 
 QString FilterOf(const FileQuestion& question) {
@@ -49,7 +50,7 @@ Answer MessagePrompts::Show(const Message& message) {
                     QString::fromStdString(message.text), ButtonsOf(message.buttons),
                     QApplication::activeWindow());
     box.setTextFormat(Qt::PlainText);
-    return AnswerOf(box.exec());
+    return AnswerOf(box.exec(), message.buttons);
 }
 
 std::optional<std::filesystem::path> MessagePrompts::AskOpenFile(const FileQuestion& question) {

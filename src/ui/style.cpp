@@ -11,8 +11,9 @@ constexpr char kTextRole[] = "textRole";
 
 // Labels carry their role as a property, so that the sheet stays in one place.
 constexpr char kSheet[] = R"(
-    QLabel[textRole="heading"] { font-size: 20pt; font-weight: 600; }
-    QLabel[textRole="quiet"] { color: palette(dark); }
+    QLabel[textRole="heading"] { font-size: 22pt; font-weight: 600; }
+    QLabel[textRole="subheading"] { font-size: 12pt; color: palette(shadow); }
+    QLabel[textRole="quiet"] { color: palette(shadow); }
     QPushButton { min-height: 24px; padding: 2px 16px; }
     QLineEdit, QComboBox { min-height: 24px; }
 )";
@@ -26,6 +27,10 @@ void ApplyStyle(QApplication& application) {
 
 void MakeHeading(QLabel& label) {
     label.setProperty(kTextRole, "heading");
+}
+
+void MakeSubheading(QLabel& label) {
+    label.setProperty(kTextRole, "subheading");
 }
 
 void MakeQuiet(QLabel& label) {

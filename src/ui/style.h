@@ -23,8 +23,9 @@ inline constexpr std::array<QRgb, 6> kEntryColours = {qRgb(2, 176, 230),  qRgb(2
 /// Applies the widget style and the style sheet of the program.
 void ApplyStyle(QApplication& application);
 
-/// The two kinds of text that stand out from the rest.
+/// The kinds of text that differ from plain labels.
 void MakeHeading(QLabel& label);
+void MakeSubheading(QLabel& label);
 void MakeQuiet(QLabel& label);
 
 }  // namespace tallix::ui

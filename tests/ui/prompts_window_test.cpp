@@ -1,0 +1,78 @@
+#include <gmock/gmock.h>
+
+#include <QAbstractButton>
+#include <QElapsedTimer>
+#include <QMessageBox>
+#include <thread>
+
+#include "support/window_test.h"
+#include "ui/message_prompts.h"
+#include "ui/qt_events.h"
+
+namespace tallix::ui {
+namespace {
+
+class MessagePromptsTest : public test::WindowTest {
+protected:
+    /// Shows the message and presses a button; an empty one stands for Escape.
+    Answer Press(const Message& message, QMessageBox::StandardButton button) {
+        Later([&, button] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            ASSERT_NE(box, nullptr);
+            title = box->windowTitle().toStdString();
+            text = box->text().toStdString();
+            icon = box->icon();
+            buttons = box->standardButtons();
+            if (button == QMessageBox::NoButton) return box->reject();
+            box->button(button)->click();
+        });
+        return MessagePrompts().Show(message);
+    }
+
+    std::string title;
+    std::string text;
+    QMessageBox::Icon icon = QMessageBox::NoIcon;
+    QMessageBox::StandardButtons buttons;
+};
+
+TEST_F(MessagePromptsTest, AMessageBoxShowsTheMessageToTheLetter) {
+    const Answer answer = Press({"fTopKey", "<b>5 & 6</b>", MessageIcon::Exclamation}, QMessageBox::Ok);
+
+    EXPECT_EQ(answer, Answer::Ok);
+    EXPECT_EQ(title, "fTopKey");
+    EXPECT_EQ(text, "<b>5 & 6</b>");
+    EXPECT_EQ(icon, QMessageBox::Warning);
+    EXPECT_EQ(buttons, QMessageBox::Ok);
+}
+
+TEST_F(MessagePromptsTest, AQuestionIsAnsweredByItsButtonsAndEscapeIsNo) {
+    const Message question = {"Delete Report?", "Sure?", MessageIcon::Question, MessageButtons::YesNo};
+    EXPECT_EQ(Press(question, QMessageBox::Yes), Answer::Yes);
+    EXPECT_EQ(Press(question, QMessageBox::No), Answer::No);
+    EXPECT_EQ(Press(question, QMessageBox::NoButton), Answer::No);
+}
+
+class QtEventsTest : public test::WindowTest {};
+
+TEST_F(QtEventsTest, ACallAfterAPauseServesAtOnce) {
+    QtEvents events;
+    bool served = false;
+    Later([&] { served = true; });
+    events.Serve();
+    EXPECT_TRUE(served);
+}
+
+TEST_F(QtEventsTest, CallsInQuickSuccessionServeSeldom) {
+    QtEvents events;
+    int served = 0;
+    QTimer everyTime;
+    everyTime.callOnTimeout([&] { ++served; });
+    everyTime.start(0);
+    QElapsedTimer watch;
+    for (watch.start(); watch.elapsed() < 300;) events.Serve();
+    EXPECT_GE(served, 2);
+    EXPECT_LE(served, 20);
+}
+
+}  // namespace
+}  // namespace tallix::ui
