@@ -114,35 +114,37 @@ void ReportRun::OpenCalls(const RunDescription& description, ado::Recordset& cal
     calls.Open(statement, OpenConnection(application_.session));
 }
 
+// A set that the server refused has no rows to write.
 PageTotals ReportRun::WriteRows(const RunDescription& description, ado::Recordset& calls, Page& page) {
     const std::string currency(CurrencyOf(description.rules, application_.session));
     recordsWritten_ = 0;
-    Tariff tariff(application_.session);
-    const CallColumns columns(calls);
-    RowResolver rows(
-        {.session = application_.session,
-         .flags = flags_,
-         .settings = settings_,
-         .site = site_,
-         .tariff = tariff,
-         .currency = currency,
-         .dropsShortNumbers = CountsDialledNumbers(flags_, options_) && flags_[DataKey::DestNum]},
-        columns);
-    RecordFilters filters(description, flags_.Hours(), settings_.timeOpen, settings_.timeClosed);
-    std::int64_t bound = calls.IsOpen() ? calls.RecordCount() : 0;
-    if (description.rules.honoursTop && options_.top != 0) bound = options_.top;
-    WalkRecords(calls, bound, columns, filters, rows, page);
-    return {.records = recordsWritten_,
-            .showsCost = flags_.Cost(),
-            .cost = currency + TotalText(rows.TotalPence())};
+    std::int32_t pence = 0;
+    if (calls.IsOpen()) {
+        Tariff tariff(application_.session);
+        const RowContext context = {
+            .session = application_.session,
+            .flags = flags_,
+            .settings = settings_,
+            .site = site_,
+            .tariff = tariff,
+            .currency = currency,
+            .dropsShortNumbers = CountsDialledNumbers(flags_, options_) && flags_[DataKey::DestNum]};
+        RowResolver rows(context, CallColumns(calls));
+        WalkRecords(description, calls, rows, page);
+        pence = rows.TotalPence();
+    }
+    return {.records = recordsWritten_, .showsCost = flags_.Cost(), .cost = currency + TotalText(pence)};
 }
 
-// `bound` counts the records looked at, kept or not, save those that a count of
-// dialled numbers drops. Rounds past the last record would do nothing.
-void ReportRun::WalkRecords(ado::Recordset& calls, std::int64_t bound, const CallColumns& columns,
-                            RecordFilters& filters, RowResolver& rows, Page& page) {
+// `Top` bounds the records looked at, kept or not, save those that a count of dialled
+// numbers drops. Rounds past the last record would do nothing.
+void ReportRun::WalkRecords(const RunDescription& description, ado::Recordset& calls, RowResolver& rows,
+                            Page& page) {
+    const CallColumns columns(calls);
+    RecordFilters filters(description, flags_.Hours(), settings_.timeOpen, settings_.timeClosed);
+    const std::int64_t fetched = calls.RecordCount();
+    const std::int64_t bound = description.rules.honoursTop && options_.top != 0 ? options_.top : fetched;
     std::int64_t record = 1;
-    const std::int64_t fetched = calls.IsOpen() ? calls.RecordCount() : 0;
     for (std::int64_t row = 0; row < fetched && record <= bound; ++row, ++record, calls.MoveNext()) {
         progress_.Record(record, bound);
         if (!filters.Keeps(calls, columns)) continue;

@@ -63,8 +63,7 @@ private:
     std::string TitleLine(const RunInputs& inputs) const;
     void OpenCalls(const RunDescription& description, ado::Recordset& calls);
     PageTotals WriteRows(const RunDescription& description, ado::Recordset& calls, Page& page);
-    void WalkRecords(ado::Recordset& calls, std::int64_t bound, const CallColumns& columns,
-                     RecordFilters& filters, RowResolver& rows, Page& page);
+    void WalkRecords(const RunDescription& description, ado::Recordset& calls, RowResolver& rows, Page& page);
 
     Application& application_;
     ReportFlags& flags_;

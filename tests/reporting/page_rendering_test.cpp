@@ -1,0 +1,114 @@
+// Whole pages against the files in golden/, which hold UTF-8 and "\n" for the eye; the
+// program writes Windows-1252 and CR LF.
+#include "reporting/page_rendering.h"
+
+#include <gtest/gtest.h>
+
+#include "foundation/code_page.h"
+#include "reporting/report_run.h"
+#include "support/test_application.h"
+
+namespace tallix {
+namespace {
+
+using test::ReadBytes;
+using test::ReadLines;
+using test::TestApplication;
+
+std::string Golden(const std::string& name, const std::filesystem::path& folder) {
+    const std::filesystem::path file =
+        std::filesystem::path(TALLIX_SOURCE_DIR) / "tests" / "reporting" / "golden" / name;
+    EXPECT_TRUE(std::filesystem::exists(file)) << file;
+    const std::string text = Replace(ReadBytes(file), "{folder}", folder.string());
+    return ToAnsi(Replace(text, "\n", "\r\n"));
+}
+
+class PageTest : public ::testing::Test {
+protected:
+    void Run(const RunInputs& inputs, bool commaText) {
+        ReportRun run(test.application, flags, progress);
+        run.Make({.reportName = "Golden",
+                  .reportFile = PresetReportFile(test.application.folder, "Golden"),
+                  .inputs = inputs,
+                  .commaText = commaText,
+                  .rules = kPresetRules});
+    }
+
+    TestApplication test;
+    ReportFlags flags;
+    NoProgress progress;
+};
+
+TEST_F(PageTest, HasOneOfThreeShapes) {
+    test.Insert("tblsite", {{"ID", "001"},
+                            {"Name", "Head Office"},
+                            {"Addy1", "1 High Street"},
+                            {"Addy2", ""},
+                            {"Addy3", ""},
+                            {"Postcode", "NT1 1AA"}});
+    test.WriteReport("Golden", {{"Date", "True"}, {"DestNum", "True"}},
+                     {{"Title", "Calls at"}, {"Cost", "True"}});
+    test.InsertCall();
+    test.InsertCall({{"Internal", "1"}, {"DestNum", "202"}});
+    test.InsertCall({{"Date", "06/03/2021"}});
+    test.settings.Write("rptTC", "002001118");
+    test.settings.Write("rptTHC", "180003000");
+    test.settings.Write("rptTDC", "254254170");
+    test.settings.Write("rptTBC", "no colour");
+    struct Case {
+        const char* golden;
+        const char* v1Reports;
+        const char* alignment;
+        bool commaText;
+    };
+    const Case cases[] = {{"plain.html", "0", "L", false},
+                          {"coloured.html", "1", "middle", false},
+                          {"comma.csv", "0", "R", true},
+                          {"comma.csv", "1", "R", true}};
+    for (const Case& c : cases) {
+        test.settings.Write("V1Reports", c.v1Reports);
+        test.settings.Write("ReportAlign", c.alignment);
+        Run({.site = "ALL"}, c.commaText);
+        EXPECT_EQ(ReadBytes(PageFile(test.application)), Golden(c.golden, test.application.folder))
+            << c.golden << " with V1Reports " << c.v1Reports;
+    }
+}
+
+TEST_F(PageTest, RepeatsTheHeadsForEachPrintedSheet) {
+    constexpr int kRows = 140;
+    test.Execute("INSERT INTO tblphonedata(Site, DestNum) VALUES ('001', '1')" + [] {
+        std::string more;
+        for (int i = 1; i < kRows; ++i) more += ", ('001', '1')";
+        return more;
+    }());
+    struct Case {
+        const char* v1Reports;
+        const char* date;
+        std::string repeated;
+    };
+    const Case cases[] = {
+        {"0", "True", ""},
+        {"1", "True",
+         R"(<TR align="center" bgcolor="#010203"><TD><font color="white"><B>Date:</B></FONT></TD>)"
+         R"(<TD><font color="white"><B>Site:</B></FONT></TD>)"},
+        {"1", "False", R"(<TD><font color="white"><B>Site:</B></FONT></TD>)"},
+    };
+    test.settings.Write("rptTHC", "001002003");
+    for (const Case& c : cases) {
+        test.settings.Write("V1Reports", c.v1Reports);
+        test.WriteReport("Golden", {{"Site", "True"}, {"Date", c.date}}, {});
+        Run({}, false);
+        int rows = 0;
+        std::vector<int> sheets;
+        for (const std::string& line : ReadLines(PageFile(test.application))) {
+            if (line.starts_with("</TABLE>") && rows > 0) break;
+            if (line.starts_with("<TR align=\"Center\"")) ++rows;
+            if (line == c.repeated && rows > 0) sheets.push_back(rows);
+        }
+        EXPECT_EQ(rows, kRows);
+        EXPECT_EQ(sheets, (std::vector<int>{62, 137})) << c.v1Reports << c.date;
+    }
+}
+
+}  // namespace
+}  // namespace tallix

@@ -1,0 +1,128 @@
+#include "support/test_application.h"
+
+#include <fmt/format.h>
+
+#include <fstream>
+#include <sstream>
+
+#include "foundation/ado/recordset.h"
+#include "foundation/database.h"
+#include "foundation/schema.h"
+#include "reporting/catalogue.h"
+
+namespace tallix::test {
+
+namespace {
+
+DatabaseAddress EmbeddedIn(const TempFolder& folder) {
+    const std::filesystem::path file = folder.Write("tallix.db", "");
+    return {"1", "sqlite:" + file.string(), "", ""};
+}
+
+const TestApplication::Row kCall = {
+    {"Date", "05/03/2021"},     {"Time", "10:15:00"}, {"Duration", "00:02:30"},
+    {"Extension", "201"},       {"NumRings", "3"},    {"OrigNum", "201"},
+    {"DestNum", "01632960123"}, {"Internal", "0"},    {"Error", "0"},
+    {"Supervision", "0"},       {"Speedcall", "0"},   {"Forward", "0"},
+    {"Trunk", "T001"},          {"Account", "7"},     {"Site", "001"},
+};
+
+struct KeyList {
+    std::vector<std::string> keys;
+    std::string fallback;
+};
+
+std::string Keys(const KeyList& list, const TestApplication::Row& values) {
+    std::string text;
+    for (const std::string& key : list.keys) {
+        const auto value = values.find(key);
+        if (value != values.end() && value->second == "-") continue;
+        text += key + "=" + (value == values.end() ? list.fallback : value->second) + "\r\n";
+    }
+    return text;
+}
+
+const KeyList kSwitches = {
+    {"Date", "Duration", "Extension", "Account", "Site", "Group", "Time", "Cost", "Hours"}, "False"};
+const KeyList kTexts = {{"Title", "Where", "Sum", "Top"}, ""};
+
+}  // namespace
+
+std::vector<std::string> ReadLines(const std::filesystem::path& file) {
+    std::vector<std::string> lines;
+    std::istringstream text(ReadBytes(file));
+    for (std::string line; std::getline(text, line);) {
+        if (!line.empty() && line.back() == '\r') line.pop_back();
+        lines.push_back(line);
+    }
+    return lines;
+}
+
+TestApplication::TestApplication() : TestApplication(DatabaseAddress{}) {}
+
+TestApplication::TestApplication(const DatabaseAddress& address)
+    : settings(folder_.Path() / "settings", folder_.Path() / "settings", prompts),
+      application{.folder = folder_.Path() / "ReportsTool",
+                  .tempFolder = folder_.Path() / "temp",
+                  .version = {1, 4, 6},
+                  .settings = settings,
+                  .prompts = prompts,
+                  .clock = clock,
+                  .events = events} {
+    for (const char* name :
+         {"settings", "temp", "ReportsTool/Reports/Standard", "ReportsTool/Company Docs"}) {
+        std::filesystem::create_directories(folder_.Path() / name);
+    }
+    const DatabaseAddress used = address.DBIP.empty() ? EmbeddedIn(folder_) : address;
+    Session& session = application.session;
+    session.DBType = used.DBType;
+    session.DBIP = used.DBIP;
+    session.SQLUser = used.SQLUser;
+    session.SQLPass = used.SQLPass;
+    session.StrQuote = StringQuote(used.DBType);
+    session.Currency = "£";
+    session.CurrentUser = "Ann";
+    session.ReportsLocation = application.folder.string();
+    session.DocsLocation = application.folder.string() + "\\Company Docs";
+    if (!address.DBIP.empty()) return;
+    OpenDatabase(session);
+    LayDownSchema(OpenConnection(session), std::filesystem::path(TALLIX_SOURCE_DIR) / "data" / "schema");
+    CloseDatabase(session);
+}
+
+void TestApplication::Execute(std::string_view statement) {
+    ado::Connection connection;
+    connection.ConnectionString = ConnectionText(application.session);
+    connection.Open();
+    connection.Execute(statement);
+}
+
+void TestApplication::Insert(const std::string& table, const Row& row) {
+    ado::Connection connection;
+    connection.ConnectionString = ConnectionText(application.session);
+    connection.Open();
+    ado::Recordset rows;
+    rows.Open("select * from " + table, connection);
+    rows.AddNew();
+    for (const auto& [column, value] : row) rows.Collect(column, value);
+    rows.Update();
+}
+
+void TestApplication::InsertCall(const Row& changes) {
+    Row call = changes;
+    call.insert(kCall.begin(), kCall.end());
+    Insert("tblphonedata", call);
+}
+
+std::filesystem::path TestApplication::WriteReport(const std::string& name, const Row& data,
+                                                   const Row& options) {
+    KeyList columns = {{}, "False"};
+    for (std::size_t i = 0; i < kDataKeys; ++i) columns.keys.emplace_back(NameOf(static_cast<DataKey>(i)));
+    const std::filesystem::path file = PresetReportFile(application.folder, name);
+    std::filesystem::create_directories(file.parent_path());
+    std::ofstream(file, std::ios::binary) << "[Data]\r\n" + Keys(columns, data) + "[Options]\r\n" +
+                                                 Keys(kSwitches, options) + Keys(kTexts, options);
+    return file;
+}
+
+}  // namespace tallix::test

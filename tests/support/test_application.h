@@ -1,0 +1,66 @@
+// A whole application in a folder of its own: settings, working files, and an empty
+// database with every table. The embedded engine unless a test names another.
+//
+//     TestApplication test;
+//     test.Execute("INSERT INTO tblextensions(ExtensionNo, Name) VALUES ('201', 'Ann')");
+//     ReportRun run(test.application, flags, progress);
+#pragma once
+
+#include <filesystem>
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "foundation/application.h"
+#include "support/fixed_clock.h"
+#include "support/scripted_prompts.h"
+#include "support/temp_folder.h"
+
+namespace tallix::test {
+
+/// How a session reaches its database.
+struct DatabaseAddress {
+    std::string DBType = "1";
+    std::string DBIP;
+    std::string SQLUser;
+    std::string SQLPass;
+};
+
+/// The lines of a file without their CR LF.
+std::vector<std::string> ReadLines(const std::filesystem::path& file);
+
+class TestApplication {
+public:
+    /// On an embedded database of its own, or on the one given, which has its tables.
+    TestApplication();
+    explicit TestApplication(const DatabaseAddress& address);
+
+    /// Runs a statement on a connection of its own.
+    void Execute(std::string_view statement);
+
+    /// Adds a row; values go in as they are.
+    using Row = std::map<std::string, std::string>;
+    void Insert(const std::string& table, const Row& row);
+
+    /// Adds a call: an outgoing one of 201 to 01632960123, but for what `changes` says.
+    void InsertCall(const Row& changes = {});
+
+    /// Writes a preset report file. Keys that are not named are False or empty; a key
+    /// whose value is "-" is left out of the file.
+    std::filesystem::path WriteReport(const std::string& name, const Row& data, const Row& options);
+
+    std::filesystem::path Folder() const { return folder_.Path(); }
+
+private:
+    TempFolder folder_;
+
+public:
+    ScriptedPrompts prompts;
+    FixedClock clock;
+    NoEvents events;
+    SettingsStore settings;
+    Application application;
+};
+
+}  // namespace tallix::test
