@@ -1,7 +1,8 @@
 // Ini files with the semantics of the platform's profile files: sections and keys
 // match without regard to case, the first of two equal keys wins, blanks around
 // key and value and one pair of quotes round the value are dropped, lines that
-// begin with ";" are comments. Lines are read as foundation/code_page.h tells.
+// begin with ";" are comments. Of two sections of one name the first one counts.
+// Lines are read as foundation/code_page.h tells, and written as UTF-8.
 #pragma once
 
 #include <filesystem>
@@ -20,6 +21,9 @@ class IniFile {
 public:
     explicit IniFile(const std::filesystem::path& file);
 
+    /// The keys of a text that lies in memory.
+    static IniFile FromText(std::string_view text);
+
     /// The key's text cut to kLongestIniValue characters; empty where it is absent.
     std::string Read(std::string_view section, std::string_view key) const;
 
@@ -27,6 +31,9 @@ public:
     std::optional<std::string> Find(std::string_view section, std::string_view key) const;
 
 private:
+    IniFile() = default;
+    void Load(std::string_view text);
+
     struct Entry {
         std::string section;
         std::string key;
@@ -38,9 +45,14 @@ private:
 /// Reads one key: the text, cut to kLongestIniValue characters, or the empty string.
 std::string ReadIniKey(std::string_view section, std::string_view key, const std::filesystem::path& file);
 
+/// The text with one key set and all other lines as they are. A value ends at its
+/// first line break, as it would when read; section and key have none.
+std::string WithIniKey(std::string_view text, std::string_view section, std::string_view key,
+                       std::string_view value);
+
 /// Writes one key, making the file, the section and the key as needed and leaving all
 /// other lines as they are. The new file replaces the old one whole. Returns whether
-/// it was written.
+/// it was written; a section or a key with a line break is not.
 bool WriteIniKey(std::string_view section, std::string_view key, std::string_view value,
                  const std::filesystem::path& file);
 

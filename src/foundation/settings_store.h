@@ -26,13 +26,18 @@ public:
     /// `prompts` must outlive the store.
     SettingsStore(std::filesystem::path machineFolder, std::filesystem::path userFolder, Prompts& prompts);
 
-    /// Reads a value into `result`, which holds `defaultText` after every failure.
-    void fReadValue(std::string_view root, std::string_view path, std::string_view name, std::string_view type,
-                    std::string_view defaultText, std::string& result) const;
+    /// Reads a value into `result`, which holds `defaultText` after every failure. Type
+    /// "S" is a text, any other a Boolean, which reads as "True" or "False". A text out
+    /// of an ini file is read into a buffer as long as the default: it is cut to one
+    /// character less, so that an empty default gives an empty text. A root that is
+    /// neither shows one message.
+    void fReadValue(std::string_view root, std::string_view path, std::string_view name,
+                    std::string_view type, std::string_view defaultText, std::string& result) const;
 
-    /// Writes a value, making its key as needed. A failure shows one message.
-    void fWriteValue(std::string_view root, std::string_view path, std::string_view name, std::string_view type,
-                     std::string_view value) const;
+    /// Writes a value, making its key as needed. A failure of any cause shows one
+    /// message, behind that of an unknown root.
+    void fWriteValue(std::string_view root, std::string_view path, std::string_view name,
+                     std::string_view type, std::string_view value) const;
 
     /// The forms that nearly all callers use: a text under kApplicationKey.
     std::string Read(std::string_view name) const;
@@ -43,6 +48,8 @@ private:
 
     RootKind fTopKey(std::string_view root) const;
     std::filesystem::path HiveFile(std::string_view root) const;
+    bool WriteHive(std::string_view root, std::string_view path, std::string_view name, std::string_view type,
+                   std::string_view value) const;
 
     std::filesystem::path machineFolder_;
     std::filesystem::path userFolder_;

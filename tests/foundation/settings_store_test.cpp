@@ -1,0 +1,203 @@
+#include "foundation/settings_store.h"
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+
+#include "support/scripted_prompts.h"
+#include "support/temp_folder.h"
+
+namespace tallix {
+namespace {
+
+using test::ReadBytes;
+
+class SettingsStoreTest : public ::testing::Test {
+protected:
+    std::string ReadAs(std::string_view root, std::string_view path, std::string_view name,
+                       std::string_view type, std::string_view defaultText = "") {
+        std::string result = "left over";
+        settings_.fReadValue(root, path, name, type, defaultText, result);
+        return result;
+    }
+
+    std::vector<std::string> TakeTitles() {
+        std::vector<std::string> titles;
+        for (const Message& message : prompts_.messages) titles.push_back(message.title);
+        prompts_.messages.clear();
+        return titles;
+    }
+
+    /// Runs `body` in a process of its own and returns its id.
+    template <typename Body>
+    pid_t Fork(Body body) {
+        const pid_t child = fork();
+        if (child != 0) return child;
+        body();
+        _exit(prompts_.messages.empty() ? 0 : 1);
+    }
+
+    static int WaitFor(pid_t child) {
+        int status = 0;
+        waitpid(child, &status, 0);
+        return status;
+    }
+
+    test::TempFolder folder_;
+    test::ScriptedPrompts prompts_;
+    SettingsStore settings_{folder_.Path() / "machine", folder_.Path() / "user", prompts_};
+    std::filesystem::path hive_ = folder_.Path() / "machine/HKLM.reg";
+};
+
+TEST_F(SettingsStoreTest, KeepsEveryTextAsItWasWritten) {
+    const std::string texts[] = {"10.0.0.5", "",         "a\"b\\c\\",   "two\r\nlines",
+                                 "£ Ω 𝄞",    " blanks ", "[x];\"y\"=z", std::string(5000, 'x')};
+    for (const std::string& text : texts) {
+        settings_.Write("Name \"with\\ all", text);
+        EXPECT_EQ(settings_.Read("NAME \"WITH\\ ALL"), text);
+    }
+    EXPECT_EQ(settings_.Read("Absent"), "");
+    EXPECT_TRUE(prompts_.messages.empty());
+    struct stat state {};
+    ASSERT_EQ(stat(hive_.c_str(), &state), 0);
+    EXPECT_EQ(state.st_mode & 0777U, 0640U);
+}
+
+TEST_F(SettingsStoreTest, EachRootHasItsHive) {
+    for (const char* root : {"HKLM", "hkcu", "HKU", "HKDD", "hkcc", "HKCR"}) {
+        settings_.fWriteValue(root, "Some\\Path", "v", "s", root);
+    }
+    EXPECT_EQ(ReadBytes(hive_), "[Some\\Path]\n\"v\"=\"HKLM\"\n");
+    EXPECT_EQ(ReadBytes(folder_.Path() / "user/HKCU.reg"), "[Some\\Path]\n\"v\"=\"hkcu\"\n");
+    EXPECT_EQ(ReadAs("Hkcr", "some\\PATH", "V", "S"), "HKCR");
+    EXPECT_TRUE(TakeTitles().empty());
+}
+
+TEST_F(SettingsStoreTest, DamagedLinesAreNeitherReadNorLost) {
+    const std::string damaged =
+        "\"Above\"=\"all\"\n; \"DBIP\"=\"comment\"\n[" + std::string(kApplicationKey) +
+        "]\n\"DBIP\"=\"unclosed\n\"DBIP\" \"no sign\"\nDBIP=bare\n\"DBIP\"=\"a\" junk\n\"DBIP\"=hex:1\n"
+        "\"DBIP\"=hex:01,\n\"DBIP\"=\"end\\\"\n\"Currency\"=\"\xA3\"\n\xFF\xFE wrong bytes\n[Half\n"
+        "\"DBIP\"=\"of nobody\"\n[" +
+        std::string(kApplicationKey) + "]\n\"Later\" = \"in C:\\Temp\" \n";
+    folder_.Write("machine/HKLM.reg", damaged);
+    EXPECT_EQ(settings_.Read("DBIP"), "");
+    EXPECT_EQ(settings_.Read("Above"), "");
+    EXPECT_EQ(settings_.Read("Currency"), "£");
+    EXPECT_EQ(settings_.Read("Later"), "in C:\\Temp");
+    settings_.Write("DBIP", "10.0.0.5");
+    settings_.Write("Later", "x");
+    std::string expected = damaged;
+    expected.insert(expected.find("[Half"), "\"DBIP\"=\"10.0.0.5\"\n");
+    const std::string later = "\"Later\" = \"in C:\\Temp\" ";
+    expected.replace(expected.find(later), later.size(), "\"Later\"=\"x\"");
+    EXPECT_EQ(ReadBytes(hive_), expected);
+}
+
+TEST_F(SettingsStoreTest, BooleansAreTwoBytes) {
+    settings_.fWriteValue("HKLM", "P", "on", "B", "True");
+    settings_.fWriteValue("HKLM", "P", "off", "B", "0");
+    settings_.fWriteValue("HKLM", "P", "text", "S", "True");
+    EXPECT_EQ(ReadBytes(hive_), "[P]\n\"on\"=hex:01,00\n\"off\"=hex:00,00\n\"text\"=\"True\"\n");
+    EXPECT_EQ(ReadAs("HKLM", "P", "on", "B"), "True");
+    EXPECT_EQ(ReadAs("HKLM", "P", "off", "B", "True"), "False");
+    EXPECT_EQ(ReadAs("HKLM", "P", "text", "B", "kept"), "kept");
+    EXPECT_TRUE(TakeTitles().empty());
+    settings_.fWriteValue("HKLM", "P", "on", "B", "perhaps");
+    EXPECT_EQ(TakeTitles(), std::vector<std::string>{"fWriteValue"});
+}
+
+TEST_F(SettingsStoreTest, IniRootsReadIntoABufferOfTheDefaultsLength) {
+    const std::string ini = folder_.Write("site.ini", "[S]\nk=value\nyes=12abc\nno=0\nword=True\nempty=\n");
+    EXPECT_EQ(ReadAs(ini, "S", "k", "S"), "");
+    EXPECT_EQ(ReadAs(ini, "S", "k", "S", "££££"), "val");
+    EXPECT_EQ(ReadAs(ini, "S", "absent", "S", "££££"), "£££");
+    EXPECT_EQ(ReadAs(ini, "S", "yes", "B"), "True");
+    EXPECT_EQ(ReadAs(ini, "S", "no", "B"), "False");
+    EXPECT_EQ(ReadAs(ini, "S", "word", "B"), "False");
+    EXPECT_EQ(ReadAs(ini, "S", "empty", "B", "kept"), "kept");
+    settings_.fWriteValue(ini, "S", "k", "S", "new");
+    EXPECT_TRUE(ReadBytes(ini).starts_with("[S]\nk=new\nyes="));
+    EXPECT_TRUE(TakeTitles().empty());
+    settings_.fWriteValue(ini, "S", "k", "B", "True");
+    EXPECT_EQ(TakeTitles(), std::vector<std::string>{"fWriteValue"});
+}
+
+TEST_F(SettingsStoreTest, FailuresAreToldInTheirWords) {
+    EXPECT_EQ(ReadAs((folder_.Path() / "absent.ini").string(), "S", "k", "S", "kept"), "kept");
+    settings_.fWriteValue("HKXX", "S", "k", "S", "v");
+    EXPECT_EQ(ReadAs("", "S", "k", "S"), "");
+    ASSERT_EQ(prompts_.messages.size(), 4U);
+    EXPECT_EQ(prompts_.messages[1].title, "fTopKey");
+    EXPECT_EQ(prompts_.messages[1].text, "Unable to decode registry key or find .ini file.");
+    EXPECT_EQ(prompts_.messages[2].title, "fWriteValue");
+    EXPECT_EQ(prompts_.messages[2].text, "Unable to write registry or .ini file value.");
+    for (const Message& message : prompts_.messages) EXPECT_EQ(message.icon, MessageIcon::Exclamation);
+    TakeTitles();
+    settings_.fWriteValue("HKLM", "a\n[b]", "k", "S", "v");
+    EXPECT_EQ(TakeTitles(), std::vector<std::string>{"fWriteValue"});
+}
+
+TEST_F(SettingsStoreTest, WritersAtTheSameTimeLoseNothing) {
+    constexpr int kWriters = 3;
+    constexpr int kValues = 40;
+    std::vector<pid_t> writers;
+    for (int writer = 0; writer < kWriters; ++writer) {
+        writers.push_back(Fork([&] {
+            for (int value = 0; value < kValues; ++value) {
+                settings_.Write(std::to_string(writer) + "_" + std::to_string(value), "kept");
+            }
+        }));
+    }
+    for (const pid_t writer : writers) EXPECT_EQ(WaitFor(writer), 0);
+    for (int value = 0; value < kWriters * kValues; ++value) {
+        const std::string name = std::to_string(value / kValues) + "_" + std::to_string(value % kValues);
+        EXPECT_EQ(settings_.Read(name), "kept") << name;
+    }
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(hive_.parent_path()), {}), 1);
+}
+
+TEST_F(SettingsStoreTest, AKilledWriterLeavesAWholeHive) {
+    settings_.Write("Before", "1");
+    const std::string first(100'000, 'a');
+    const std::string second(100'000, 'b');
+    settings_.Write("Value", first);
+    for (int round = 0; round < 20; ++round) {
+        const pid_t writer = Fork([&] {
+            while (true) {
+                settings_.Write("Value", second);
+                settings_.Write("Value", first);
+            }
+        });
+        usleep(static_cast<useconds_t>(1000 + 700 * round));
+        kill(writer, SIGKILL);
+        WaitFor(writer);
+        const std::string value = settings_.Read("Value");
+        EXPECT_TRUE(value == first || value == second);
+        EXPECT_EQ(settings_.Read("Before"), "1");
+    }
+    settings_.Write("After", "2");
+    EXPECT_EQ(settings_.Read("After"), "2") << "the lock of a killed writer is free";
+    EXPECT_TRUE(TakeTitles().empty());
+}
+
+TEST_F(SettingsStoreTest, AFullDiskLeavesTheOldHive) {
+    settings_.Write("Value", "old");
+    const std::string before = ReadBytes(hive_);
+    const int status = WaitFor(Fork([&] {
+        std::signal(SIGXFSZ, SIG_IGN);
+        const rlimit limit{16, 16};
+        setrlimit(RLIMIT_FSIZE, &limit);
+        settings_.Write("Value", "new");
+    }));
+    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 1) << "the failed write was told";
+    EXPECT_EQ(ReadBytes(hive_), before);
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(hive_.parent_path()), {}), 1);
+}
+
+}  // namespace
+}  // namespace tallix
