@@ -1,0 +1,102 @@
+#include "platform/paths.h"
+
+#include <fcntl.h>
+#include <pwd.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdlib>
+#include <stdexcept>
+#include <system_error>
+
+namespace tallix {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* kMachineSettings = "/etc/tallix";
+constexpr mode_t kPrivate = 0700;
+constexpr mode_t kOthersMayAct = 0077;
+
+/// An environment variable as a path; empty where it is missing.
+fs::path FromEnvironment(const char* name) {
+    const char* value = std::getenv(name);
+    return value == nullptr ? fs::path() : fs::path(value);
+}
+
+fs::path WithoutSlashBehind(const fs::path& folder) {
+    const fs::path plain = fs::absolute(folder).lexically_normal();
+    return plain.has_filename() || plain == plain.root_path() ? plain : plain.parent_path();
+}
+
+fs::path HomeFolder() {
+    const fs::path home = FromEnvironment("HOME");
+    if (!home.empty()) return home;
+    const passwd* account = getpwuid(geteuid());
+    return account == nullptr ? fs::path("/") : fs::path(account->pw_dir);
+}
+
+/// The folder may have been laid there by somebody else, to read or to bend what the
+/// program writes; a symbolic link is such a bend.
+void RequireOwnFolder(const fs::path& folder) {
+    struct stat state {};
+    const bool own =
+        lstat(folder.c_str(), &state) == 0 && S_ISDIR(state.st_mode) && state.st_uid == geteuid();
+    if (!own) throw std::runtime_error("the folder " + folder.string() + " belongs to somebody else");
+    const bool open = (state.st_mode & kOthersMayAct) != 0;
+    if (open && chmod(folder.c_str(), kPrivate) != 0) {
+        throw std::runtime_error("the folder " + folder.string() + " is open to others");
+    }
+}
+
+fs::path PrivateTempFolder() {
+    const fs::path folder = fs::temp_directory_path() / ("tallix-" + std::to_string(geteuid()));
+    if (mkdir(folder.c_str(), kPrivate) != 0 && errno != EEXIST) {
+        throw std::system_error(errno, std::generic_category(), "the folder " + folder.string());
+    }
+    RequireOwnFolder(folder);
+    return folder;
+}
+
+}  // namespace
+
+fs::path ToNativePath(std::string_view stored) {
+    std::string native(stored);
+    std::replace(native.begin(), native.end(), '\\', '/');
+    return native;
+}
+
+fs::path ApplicationFolder() {
+    const fs::path home = FromEnvironment("TALLIX_HOME");
+    return WithoutSlashBehind(home.empty() ? fs::read_symlink("/proc/self/exe").parent_path() : home);
+}
+
+fs::path TempFolder() {
+    const fs::path temp = FromEnvironment("Temp");
+    return temp.empty() ? PrivateTempFolder() : temp;
+}
+
+fs::path MachineSettingsFolder() {
+    const fs::path registry = FromEnvironment("TALLIX_REGISTRY");
+    return registry.empty() ? fs::path(kMachineSettings) : registry;
+}
+
+fs::path UserSettingsFolder() {
+    const fs::path registry = FromEnvironment("TALLIX_REGISTRY");
+    if (!registry.empty()) return registry;
+    const fs::path config = FromEnvironment("XDG_CONFIG_HOME");
+    return (config.is_absolute() ? config : HomeFolder() / ".config") / "tallix";
+}
+
+std::string JoinCommandLine(int argumentCount, const char* const* arguments) {
+    std::string line;
+    for (int index = 1; index < argumentCount; ++index) {
+        if (index > 1) line += ' ';
+        line += arguments[index];
+    }
+    return line;
+}
+
+}  // namespace tallix
