@@ -63,7 +63,10 @@ public:
     /// The value in the current row, the pending one of an AddNew included. Views live
     /// until the set is closed or written through. Throws DatabaseError when the column
     /// is absent, the set closed, or no row current (past the end, empty).
-    Value At(Column column) const;
+    Value At(Column column) const {
+        const bool plain = column && result_ && !changes_ && row_ >= 0 && row_ < result_->rows.Rows();
+        return plain ? result_->rows.At(row_, column.index_) : ChangedCell(column);
+    }
 
     /// The same as text, where NULL reads as the empty text.
     std::string_view Text(Column column) const;
@@ -72,11 +75,13 @@ public:
     Value Item(std::string_view name) const;
     std::string_view Text(std::string_view name) const;
 
-    /// Moving past the last row or before the first leaves no row current.
+    /// Moving past the last row or before the first leaves no row current. What was set
+    /// and not stored is dropped.
     void MoveNext() noexcept;
     void MovePrevious() noexcept;
 
-    /// Starts a new row. Collect fills it, Update stores it.
+    /// Starts a new row. Collect fills it, Update stores it; the row that was current
+    /// is then current again. Columns that are not set take the server's default.
     void AddNew();
 
     /// Sets a column of the new or the current row; nothing for NULL. Reaches the
@@ -87,24 +92,35 @@ public:
     /// then dropped.
     void Update();
 
-    /// Deletes the current row from its table.
+    /// Deletes the current row from its table. The set goes on counting it and keeps its
+    /// values. Throws DatabaseError.
     void Delete();
 
     /// A second set over the same rows, with a place of its own, standing on the first.
     Recordset Clone() const;
 
 private:
-    struct Edit;
+    struct Changes;
+    using Values = std::map<std::size_t, std::optional<std::string>>;  ///< by the place of their column
 
-    std::size_t Place(Column column) const;
-    std::string RowCondition() const;
+    Column Require(std::string_view name) const;
+    Value ChangedCell(Column column) const;
+    void Move(std::int64_t step) noexcept;
+    void RequireOpen() const;
+    void RequireRow() const;
     const std::string& Table();
+    const std::vector<std::size_t>& KeyPlaces();
+    std::string RowCondition();
+    void Insert(const Values& values);
+    void UpdateRow(Values values);
 
     std::shared_ptr<const Result> result_;
     Connection* connection_ = nullptr;
-    std::string table_;
+    std::string statement_;
+    std::string table_;                   ///< in its server's quotes, once something was written
+    std::vector<std::size_t> keyPlaces_;  ///< the columns that tell a row, likewise
     std::int64_t row_ = 0;
-    std::unique_ptr<Edit> edit_;
+    std::unique_ptr<Changes> changes_;  ///< absent while nothing was set
 };
 
 }  // namespace tallix::ado

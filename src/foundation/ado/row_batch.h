@@ -18,7 +18,8 @@ public:
     /// `connection` must be open and outlive the batch.
     RowBatch(Connection& connection, std::string table, std::vector<std::string> columns);
 
-    /// Takes one row, a value a column; nothing for NULL.
+    /// Takes one row, a value a column; nothing for NULL. Throws DatabaseError when the
+    /// connection is closed.
     void Add(const std::vector<Value>& values);
 
     /// Sends what is waiting. To be called at the end: the destructor sends nothing.
@@ -28,12 +29,13 @@ public:
     std::int64_t Refused() const { return refused_; }
 
 private:
-    std::string Insert(std::string_view rows) const;
+    std::string_view Row(std::size_t index) const;
+    void SendOneByOne();
 
     Connection& connection_;
-    std::string head_;
-    std::vector<std::string> waiting_;  ///< each row in its brackets, ready to send
-    std::size_t waitingBytes_ = 0;
+    std::string head_;                 ///< INSERT INTO ... VALUES
+    std::string rows_;                 ///< those waiting, each in its brackets, joined by commas
+    std::vector<std::size_t> starts_;  ///< where each of them begins in rows_
     std::int64_t refused_ = 0;
 };
 
