@@ -6,8 +6,6 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
-#include <fstream>
-
 #include "support/smtp_server.h"
 
 namespace tallix {
@@ -17,7 +15,6 @@ using std::chrono::steady_clock;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
-using ::testing::Not;
 using ::testing::Pair;
 using ::testing::SizeIs;
 
@@ -49,27 +46,14 @@ private:
     int port_ = 0;
 };
 
-class MailFiles : public ::testing::Test {
-protected:
-    MailFiles() { std::filesystem::create_directories(folder_); }
-    ~MailFiles() override { std::filesystem::remove_all(folder_); }
-
-    std::filesystem::path Write(const std::string& name, const std::string& bytes) {
-        std::ofstream(folder_ / name, std::ios::binary) << bytes;
-        return folder_ / name;
-    }
-
-    std::filesystem::path folder_ =
-        std::filesystem::temp_directory_path() / ("tallix-mail-" + std::to_string(getpid()));
-};
-
-TEST_F(MailFiles, AttachmentsArriveByteForByteAndMissingOnesAreLeftOut) {
+TEST(MailSystem, AttachmentsArriveByteForByteAndMissingOnesAreLeftOut) {
+    const test::TempFolder folder;
     const test::SmtpServer server;
     std::string bytes(200000, '\0');
     for (std::size_t i = 0; i < bytes.size(); ++i) bytes[i] = static_cast<char>(i * 31 % 251);
     Mail mail = kMail;
-    mail.attachments = {Write("rpt.csv", bytes), folder_ / "missing.csv", folder_,
-                        Write("r\xC3\xA9sum\xC3\xA9.csv", "")};
+    mail.attachments = {folder.Write("rpt.csv", bytes), folder.Path() / "missing.csv", folder.Path(),
+                        folder.Write("r\xC3\xA9sum\xC3\xA9.csv", "")};
     ASSERT_TRUE(SendMail(mail, On(server)));
     const auto mails = server.Mails();
     ASSERT_THAT(mails, SizeIs(1));
@@ -77,7 +61,7 @@ TEST_F(MailFiles, AttachmentsArriveByteForByteAndMissingOnesAreLeftOut) {
                 ElementsAre(Pair("rpt.csv", bytes), Pair("r\xC3\xA9sum\xC3\xA9.csv", "")));
 }
 
-TEST_F(MailFiles, HeadersNameBothSidesAndLinesEndAsOnTheWire) {
+TEST(MailSystem, HeadersNameBothSidesAndLinesEndAsOnTheWire) {
     const test::SmtpServer server;
     Mail mail = kMail;
     mail.body = "First\n.dot\n\n.\nM\xC3\xBCller " + std::string(2000, 'x');

@@ -8,8 +8,6 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
-#include <fstream>
-#include <iterator>
 #include <stdexcept>
 
 namespace tallix::test {
@@ -18,17 +16,6 @@ namespace {
 /// The system's own interpreter: others do not see Debian's packages.
 constexpr const char* kPython = "/usr/bin/python3";
 constexpr std::string_view kHeaderPrefix = "header.";
-
-std::string ReadAll(const std::filesystem::path& file) {
-    std::ifstream stream(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
-
-std::filesystem::path MakeFolder() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "tallix-smtp-XXXXXX").string();
-    if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("No folder for the mail server");
-    return pattern;
-}
 
 std::array<int, 2> MakePipe() {
     std::array<int, 2> ends{};
@@ -49,31 +36,31 @@ std::vector<std::string> CommandLine(const std::filesystem::path& folder,
 }
 
 ReceivedMail ReadMail(const std::filesystem::path& folder) {
-    ReceivedMail mail{ReadAll(folder / "from"),
-                      ReadAll(folder / "to"),
-                      ReadAll(folder / "user"),
-                      ReadAll(folder / "raw"),
-                      ReadAll(folder / "body"),
+    ReceivedMail mail{ReadBytes(folder / "from"),
+                      ReadBytes(folder / "to"),
+                      ReadBytes(folder / "user"),
+                      ReadBytes(folder / "raw"),
+                      ReadBytes(folder / "body"),
                       {},
                       {}};
     for (const auto& entry : std::filesystem::directory_iterator(folder)) {
         const std::string name = entry.path().filename().string();
         if (name.starts_with(kHeaderPrefix))
-            mail.headers[name.substr(kHeaderPrefix.size())] = ReadAll(entry.path());
+            mail.headers[name.substr(kHeaderPrefix.size())] = ReadBytes(entry.path());
     }
     for (int number = 1;; ++number) {
         const std::filesystem::path file = folder / ("attachment." + std::to_string(number));
         if (!std::filesystem::exists(file)) return mail;
-        mail.attachments.emplace_back(ReadAll(file.string() + ".name"), ReadAll(file));
+        mail.attachments.emplace_back(ReadBytes(file.string() + ".name"), ReadBytes(file));
     }
 }
 
 }  // namespace
 
-SmtpServer::SmtpServer(const std::optional<Account>& account) : folder_(MakeFolder()) {
+SmtpServer::SmtpServer(const std::optional<Account>& account) {
     const auto input = MakePipe();
     const auto output = MakePipe();
-    std::vector<std::string> words = CommandLine(folder_, account);
+    std::vector<std::string> words = CommandLine(folder_.Path(), account);
     std::vector<char*> arguments;
     arguments.reserve(words.size() + 1);
     for (std::string& word : words) arguments.push_back(word.data());
@@ -100,14 +87,12 @@ SmtpServer::~SmtpServer() {
     close(input_);
     kill(process_, SIGTERM);
     waitpid(process_, nullptr, 0);
-    std::error_code ignored;
-    std::filesystem::remove_all(folder_, ignored);
 }
 
 std::vector<ReceivedMail> SmtpServer::Mails() const {
     std::vector<ReceivedMail> mails;
     for (int number = 1;; ++number) {
-        const std::filesystem::path folder = folder_ / std::to_string(number);
+        const std::filesystem::path folder = folder_.Path() / std::to_string(number);
         if (!std::filesystem::exists(folder / "complete")) return mails;
         mails.push_back(ReadMail(folder));
     }

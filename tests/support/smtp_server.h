@@ -4,12 +4,13 @@
 
 #include <sys/types.h>
 
-#include <filesystem>
 #include <map>
 #include <optional>
 #include <string>
 #include <utility>
 #include <vector>
+
+#include "support/temp_folder.h"
 
 namespace tallix::test {
 
@@ -45,7 +46,7 @@ public:
     std::vector<ReceivedMail> Mails() const;
 
 private:
-    std::filesystem::path folder_;
+    TempFolder folder_;
     pid_t process_ = -1;
     int input_ = -1;  ///< the server ends when this closes
     int port_ = 0;
