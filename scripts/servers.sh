@@ -53,7 +53,7 @@ GRANT ALL ON *.* TO '$USER_NAME'@'%';
 SQL
   setsid mariadbd --no-defaults "${account[@]}" --datadir="$dir/mariadb" --bind-address=127.0.0.1 --port="$port" \
     --socket="$dir/mariadb.sock" --pid-file="$dir/mariadb.pid" --init-file="$dir/mariadb.sql" --skip-name-resolve \
-    --innodb-flush-log-at-trx-commit=0 --innodb-doublewrite=0 --skip-log-bin --innodb-buffer-pool-size=512M \
+    --innodb-flush-log-at-trx-commit=0 --innodb-doublewrite=0 --innodb-flush-method=nosync --sync-frm=0 --skip-log-bin --innodb-buffer-pool-size=512M \
     --max-allowed-packet=64M >"$dir/mariadb.log" 2>&1 </dev/null &
   local n
   for ((n = 0; n < WAIT_SECONDS * 10; ++n)); do

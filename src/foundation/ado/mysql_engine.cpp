@@ -123,8 +123,7 @@ std::unique_ptr<Engine> OpenMySql(const ConnectionParts& parts) {
     if (mysql_real_connect(connection.get(), parts.host.c_str(), parts.user.c_str(), parts.password.c_str(),
                            parts.database.c_str(), static_cast<unsigned int>(parts.port), nullptr,
                            CLIENT_FOUND_ROWS) == nullptr) {
-        throw DatabaseError(fmt::format("No connection to the MySQL server at {}: {}", parts.host,
-                                        mysql_error(connection.get())));
+        throw DatabaseError(mysql_error(connection.get()));
     }
     return std::make_unique<MySqlEngine>(std::move(connection));
 }

@@ -218,13 +218,9 @@ OdbcEngine::OdbcEngine(const ConnectionParts& parts)
     const std::string text = DriverText(parts, driver, traits_);
     connection_.Check(
         SQLSetConnectAttr(connection_.Get(), SQL_ATTR_LOGIN_TIMEOUT, Number(kConnectSeconds), 0));
-    const SQLRETURN code =
-        SQLDriverConnect(connection_.Get(), nullptr, Characters(text), static_cast<SQLSMALLINT>(text.size()),
-                         nullptr, 0, nullptr, SQL_DRIVER_NOPROMPT);
-    if (!Succeeded(code)) {
-        throw DatabaseError(fmt::format("No connection through ODBC ({}) to the server at {}: {}", driver,
-                                        parts.host, Diagnosis(SQL_HANDLE_DBC, connection_.Get())));
-    }
+    connection_.Check(SQLDriverConnect(connection_.Get(), nullptr, Characters(text),
+                                       static_cast<SQLSMALLINT>(text.size()), nullptr, 0, nullptr,
+                                       SQL_DRIVER_NOPROMPT));
     if (!traits_.settings.empty()) Execute(std::string(traits_.settings));
 }
 

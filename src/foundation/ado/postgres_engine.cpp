@@ -122,6 +122,7 @@ private:
     ResultHandle Send(const std::string& statement);
     Result Copied();
     RowHandle NextRow(std::string_view& row);
+    void Require(const PGresult& result) const;
     [[noreturn]] void Refused() const { throw DatabaseError(Trimmed(PQerrorMessage(connection_.get()))); }
 
     ConnectionHandle connection_;
@@ -134,10 +135,15 @@ ResultHandle PostgresEngine::Send(const std::string& statement) {
     return result;
 }
 
+void PostgresEngine::Require(const PGresult& result) const {
+    const ExecStatusType status = PQresultStatus(&result);
+    if (status == PGRES_EMPTY_QUERY) throw DatabaseError("The statement is empty");
+    if (status != PGRES_COMMAND_OK && status != PGRES_TUPLES_OK) Refused();
+}
+
 std::int64_t PostgresEngine::Execute(const std::string& statement) {
     const ResultHandle result = Send(statement);
-    const ExecStatusType status = PQresultStatus(result.get());
-    if (status != PGRES_COMMAND_OK && status != PGRES_TUPLES_OK && status != PGRES_EMPTY_QUERY) Refused();
+    Require(*result);
     return std::strtoll(PQcmdTuples(result.get()), nullptr, 10);
 }
 
@@ -149,8 +155,7 @@ Result PostgresEngine::Query(const std::string& statement) {
     if (PQresultStatus(copy.get()) == PGRES_COPY_OUT) return Copied();
 
     const ResultHandle rows = Send(statement);
-    const ExecStatusType status = PQresultStatus(rows.get());
-    if (status != PGRES_TUPLES_OK && status != PGRES_COMMAND_OK && status != PGRES_EMPTY_QUERY) Refused();
+    Require(*rows);
     return Plain(*rows);
 }
 
@@ -221,8 +226,7 @@ std::unique_ptr<Engine> OpenPostgres(const ConnectionParts& parts) {
                                   nullptr};
     ConnectionHandle connection(PQconnectdbParams(keys, values, 0));
     if (PQstatus(connection.get()) != CONNECTION_OK) {
-        throw DatabaseError(fmt::format("No connection to the PostgreSQL server at {}: {}", parts.host,
-                                        Trimmed(PQerrorMessage(connection.get()))));
+        throw DatabaseError(Trimmed(PQerrorMessage(connection.get())));
     }
     PQsetNoticeProcessor(
         connection.get(), [](void*, const char*) {}, nullptr);

@@ -1,0 +1,177 @@
+#include "support/test_servers.h"
+
+#include <fcntl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <sstream>
+#include <stdexcept>
+
+#include <fmt/format.h>
+
+#include "foundation/database.h"
+#include "foundation/schema.h"
+#include "support/run_program.h"
+#include "support/temp_folder.h"
+
+namespace tallix::test {
+
+namespace {
+
+constexpr const char* kScript = TALLIX_SOURCE_DIR "/scripts/servers.sh";
+constexpr const char* kSchemaFolder = TALLIX_SOURCE_DIR "/data/schema";
+
+/// The ANSI driver by its file, so that the machine's list of drivers does not matter.
+constexpr const char* kPostgresDriver = "/usr/lib/x86_64-linux-gnu/odbc/psqlodbca.so";
+
+/// The running servers. A shell that reads from a pipe stops them when the pipe closes,
+/// which it does with this process whatever ends it.
+class Servers {
+public:
+    Servers();
+    ~Servers();
+    Servers(const Servers&) = delete;
+    Servers& operator=(const Servers&) = delete;
+
+    /// A value of the file that the script writes.
+    std::string operator[](const std::string& name) const { return values_.at(name); }
+
+private:
+    void Watch();
+
+    TempFolder folder_;
+    std::string data_ = folder_.Path() / "servers";
+    std::map<std::string, std::string> values_;
+    int pipe_ = -1;
+    pid_t watcher_ = -1;
+};
+
+Servers::Servers() {
+    // PostgreSQL, which root runs under another account, must be able to get in.
+    using std::filesystem::perms;
+    std::filesystem::permissions(folder_.Path(), perms::owner_all | perms::group_exec | perms::others_exec);
+    Watch();
+    const ProgramRun run = RunProgram("/bin/bash", {kScript, "start", data_});
+    if (run.status != 0) throw std::runtime_error("The database servers do not start: " + run.err);
+    std::istringstream lines(ReadBytes(std::filesystem::path(data_) / "env"));
+    for (std::string line; std::getline(lines, line);) {
+        const std::size_t equals = line.find('=');
+        values_[line.substr(0, equals)] = line.substr(equals + 1);
+    }
+}
+
+Servers::~Servers() {
+    close(pipe_);
+    waitpid(watcher_, nullptr, 0);
+}
+
+void Servers::Watch() {
+    std::array<int, 2> ends{};
+    if (pipe2(ends.data(), O_CLOEXEC) != 0) throw std::runtime_error("no pipe");
+    pipe_ = ends[1];
+    const std::string command =
+        fmt::format("exec >/dev/null 2>&1; read -r line; exec '{}' stop '{}'", kScript, data_);
+    watcher_ = fork();
+    if (watcher_ == 0) {
+        setsid();
+        dup2(ends[0], STDIN_FILENO);
+        execl("/bin/sh", "sh", "-c", command.c_str(), nullptr);
+        _exit(1);
+    }
+    close(ends[0]);
+}
+
+const Servers& RunningServers() {
+    static const Servers servers;
+    return servers;
+}
+
+TestEngine SqliteEngine() {
+    static const TempFolder folder;
+    return {"sqlite", "1", fmt::format("sqlite:{}/tallix.db", folder.Path().string()), "", "", ""};
+}
+
+TestEngine ServerEngine(std::string name, std::string dbType, const std::string& address) {
+    const Servers& servers = RunningServers();
+    return {std::move(name),        std::move(dbType),          servers[address],
+            servers["SERVER_USER"], servers["SERVER_PASSWORD"], ""};
+}
+
+TestEngine MakeEngine(std::string_view name) {
+    if (name == "sqlite") return SqliteEngine();
+    if (name == "mariadb") return ServerEngine("mariadb", "1", "MARIADB_ADDRESS");
+    TestEngine engine = ServerEngine(std::string(name), "3", "POSTGRES_ADDRESS");
+    if (name == "odbc") {
+        engine.dbType.clear();
+        engine.connectionText = fmt::format("DRIVER={{{}}};SERVER={};DATABASE=tallix;UID={};PWD={}",
+                                            kPostgresDriver, engine.address, engine.user, engine.password);
+    }
+    return engine;
+}
+
+// Dropping and making tables costs MariaDB a second or two; taking their rows does not.
+void EmptyMariaDb(ado::Engine& server) {
+    const ado::Result tables = server.Query(
+        "SELECT table_name, auto_increment > 1 FROM information_schema.tables WHERE table_schema = "
+        "DATABASE()");
+    for (std::int64_t row = 0; row < tables.rows.Rows(); ++row) {
+        const std::string table(tables.rows.At(row, 0).value_or(""));
+        server.Execute("DELETE FROM " + table);
+        if (tables.rows.At(row, 1) == "1") server.Execute("ALTER TABLE " + table + " AUTO_INCREMENT = 1");
+    }
+}
+
+void Empty(const TestEngine& engine) {
+    if (engine.name == "sqlite") {
+        const std::string file = engine.address.substr(std::string_view("sqlite:").size());
+        for (const char* part : {"", "-wal", "-shm"}) std::filesystem::remove(file + part);
+        std::ofstream{file};
+        return;
+    }
+    const std::unique_ptr<ado::Connection> connection = Connect(engine);
+    if (engine.name == "mariadb") return EmptyMariaDb(connection->Server());
+    connection->Server().Execute("DROP SCHEMA public CASCADE");
+    connection->Server().Execute("CREATE SCHEMA public");
+}
+
+}  // namespace
+
+const TestEngine& EngineNamed(std::string_view name) {
+    static std::map<std::string, TestEngine, std::less<>> engines;
+    const auto known = engines.find(name);
+    if (known != engines.end()) return known->second;
+    TestEngine engine = MakeEngine(name);
+    if (!engine.dbType.empty()) {
+        Session session;
+        UseEngine(engine, session);
+        engine.connectionText = ConnectionText(session);
+    }
+    return engines.emplace(name, std::move(engine)).first->second;
+}
+
+std::unique_ptr<ado::Connection> Connect(const TestEngine& engine) {
+    auto connection = std::make_unique<ado::Connection>();
+    connection->ConnectionString = engine.connectionText;
+    connection->Open();
+    return connection;
+}
+
+std::unique_ptr<ado::Connection> FreshDatabase(const TestEngine& engine) {
+    Empty(engine);
+    std::unique_ptr<ado::Connection> connection = Connect(engine);
+    LayDownSchema(*connection, kSchemaFolder);
+    return connection;
+}
+
+void UseEngine(const TestEngine& engine, Session& session) {
+    session.DBType = engine.dbType;
+    session.DBIP = engine.address;
+    session.SQLUser = engine.user;
+    session.SQLPass = engine.password;
+    session.StrQuote = StringQuote(engine.dbType);
+}
+
+}  // namespace tallix::test

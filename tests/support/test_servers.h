@@ -1,0 +1,55 @@
+// The database engines that can be run here, for tests that must hold on every one:
+//
+//     class Reports : public testing::TestWithParam<const char*> {};
+//     TEST_P(Reports, AreTheSame) {
+//         const TestEngine& engine = EngineNamed(GetParam());
+//         const auto connection = FreshDatabase(engine);   // open, all tables, no rows
+//         Session session;
+//         UseEngine(engine, session);                      // then OpenDatabase(session)
+//         TestApplication test({engine.dbType, engine.address, engine.user, engine.password});
+//     }
+//     INSTANTIATE_TEST_SUITE_P(Engines, Reports, testing::ValuesIn(kSessionEngines));
+//
+// The servers start with the first engine that needs them, once a process, and stop when
+// the process ends, however it ends. Every engine has one database, which its tests share
+// one after the other.
+#pragma once
+
+#include <array>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "foundation/ado/connection.h"
+#include "foundation/session.h"
+
+namespace tallix::test {
+
+/// The engines that a session can be opened on; "odbc" is reached by its connection text
+/// alone (PostgreSQL through its own ODBC driver).
+inline constexpr std::array kSessionEngines{"sqlite", "mariadb", "postgres"};
+inline constexpr std::array kAllEngines{"sqlite", "mariadb", "postgres", "odbc"};
+
+struct TestEngine {
+    std::string name;
+    std::string dbType;   ///< empty for "odbc"
+    std::string address;  ///< what DBIP holds
+    std::string user;
+    std::string password;
+    std::string connectionText;
+};
+
+/// Throws std::runtime_error when the servers do not start.
+const TestEngine& EngineNamed(std::string_view name);
+
+/// An open connection to the engine's database, emptied: every table, no rows, keys given
+/// from 1 on.
+std::unique_ptr<ado::Connection> FreshDatabase(const TestEngine& engine);
+
+/// One more connection to it, as it is.
+std::unique_ptr<ado::Connection> Connect(const TestEngine& engine);
+
+/// Sets the session's dialect, address, account and quotes.
+void UseEngine(const TestEngine& engine, Session& session);
+
+}  // namespace tallix::test
