@@ -23,7 +23,7 @@ struct ReferenceTable {
 // Reports ask the table of areas for its provider, which is the area itself.
 const std::vector<ReferenceTable>& ReferenceTables() {
     static const std::vector<ReferenceTable> tables = {
-        {"tblareaproviders", "areaproviders.csv", {"Area", "Provider"}},
+        {"tblareaproviders", "areaproviders.csv", {"Area"}},
         {"tblcommproviders", "commproviders.csv", {"Provider"}},
         {"tblintcodes", "intcodes.csv", {"Country"}},
     };

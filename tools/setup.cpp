@@ -3,12 +3,14 @@
 #include <fmt/format.h>
 
 #include <filesystem>
+#include <fstream>
 #include <ostream>
 #include <string>
 #include <vector>
 
 #include "administrator_account.h"
 #include "demo_data.h"
+#include "foundation/ado/connection_text.h"
 #include "foundation/database.h"
 #include "foundation/prompts.h"
 #include "foundation/schema.h"
@@ -16,6 +18,7 @@
 #include "platform/paths.h"
 #include "reference_data.h"
 #include "settings_seed.h"
+#include "setup_error.h"
 
 namespace tallix {
 namespace {
@@ -26,17 +29,48 @@ public:
     Answer Show(const Message&) override { return Answer::Ok; }
 };
 
-// An embedded database is first read by its first statement, which therefore belongs
-// to reaching it.
-void Reach(const DatabaseChoice& choice, Session& session, std::ostream& out) {
+Session SessionFor(const DatabaseChoice& choice) {
+    Session session;
     session.DBType = choice.type;
     session.DBIP = choice.address;
     session.SQLUser = choice.user;
     session.SQLPass = choice.password;
     session.StrQuote = StringQuote(choice.type);
+    return session;
+}
+
+// The embedded engine opens a file that exists; an empty one is an empty database. One
+// that was made here goes again, unless it is kept.
+class DatabaseFile {
+public:
+    explicit DatabaseFile(const DatabaseChoice& choice) {
+        const ado::ConnectionParts parts = ado::ReadConnectionText(ConnectionText(SessionFor(choice)));
+        if (parts.server != ado::Server::Sqlite || parts.file.empty()) return;
+        if (std::filesystem::exists(parts.file)) return;
+        if (!std::ofstream(parts.file)) {
+            throw SetupError(fmt::format("the database file cannot be made: {}", parts.file));
+        }
+        made_ = parts.file;
+    }
+    ~DatabaseFile() {
+        std::error_code ignored;
+        if (!made_.empty()) std::filesystem::remove(made_, ignored);
+    }
+    DatabaseFile(const DatabaseFile&) = delete;
+    DatabaseFile& operator=(const DatabaseFile&) = delete;
+
+    void Keep() { made_.clear(); }
+
+private:
+    std::filesystem::path made_;
+};
+
+// The embedded database is first read by its first statement, which therefore belongs
+// to reaching it.
+void Reach(Session& session, std::ostream& out) {
     OpenDatabase(session);
     OpenConnection(session).Fetch("SELECT 1 AS Answer");
-    out << fmt::format("Database: {} reached\n", choice.address);
+    out << fmt::format("Database: {} reached\n", session.DBIP);
 }
 
 void LayDownTables(ado::Connection& connection, const std::filesystem::path& folder, std::ostream& out) {
@@ -45,21 +79,28 @@ void LayDownTables(ado::Connection& connection, const std::filesystem::path& fol
     if (made.empty()) out << "Tables: all there already\n";
 }
 
-}  // namespace
-
-void SetUp(const SetupOptions& options, std::ostream& out) {
+// What the database holds, once it was reached and is remembered.
+void FillDatabase(const SetupOptions& options, Session& session, std::ostream& out) {
     const std::filesystem::path folder = ApplicationFolder();
-    QuietPrompts prompts;
-    const SettingsStore settings(MachineSettingsFolder(), UserSettingsFolder(), prompts);
-    const DatabaseChoice choice = ChooseDatabase(options, settings, folder);
-    Session session;
-    Reach(choice, session, out);
-    SeedSettings(choice, settings, out);
     ado::Connection& connection = OpenConnection(session);
     LayDownTables(connection, folder / "schema", out);
     FillReferenceData(connection, folder / "reference", out);
     EnsureAdministrator(session, options.adminPassword, out);
     if (options.demoCalls) AddDemonstration(connection, *options.demoCalls, options.seed, out);
+}
+
+}  // namespace
+
+void SetUp(const SetupOptions& options, std::ostream& out) {
+    QuietPrompts prompts;
+    const SettingsStore settings(MachineSettingsFolder(), UserSettingsFolder(), prompts);
+    const DatabaseChoice choice = ChooseDatabase(options, settings, ApplicationFolder());
+    DatabaseFile file(choice);  // outlives the connection to it
+    Session session = SessionFor(choice);
+    Reach(session, out);
+    SeedSettings(choice, settings, out);
+    file.Keep();
+    FillDatabase(options, session, out);
     CloseDatabase(session);
 }
 

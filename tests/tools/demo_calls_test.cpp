@@ -1,0 +1,149 @@
+#include "demo_calls.h"
+
+#include <gmock/gmock.h>
+
+#include <map>
+#include <regex>
+#include <set>
+#include <tuple>
+
+#include "foundation/text_conversion.h"
+
+namespace tallix {
+namespace {
+
+using testing::AllOf;
+using testing::Gt;
+using testing::Lt;
+
+std::vector<Call> Generate(std::uint64_t count, std::uint64_t seed) {
+    CallGenerator generator(count, seed);
+    std::vector<Call> calls;
+    for (Call call; generator.Next(call);) calls.push_back(call);
+    return calls;
+}
+
+std::string Line(const Call& call) {
+    std::string line;
+    for (const std::string& text :
+         {call.date, call.time, call.duration, call.extension, call.numRings, call.origNum, call.destNum,
+          call.internal, call.forward, call.trunk, call.account, call.site}) {
+        line += text + '|';
+    }
+    return line;
+}
+
+bool IsOutgoing(const Call& call) {
+    return call.internal == "0" && call.extension == call.origNum;
+}
+bool IsIncoming(const Call& call) {
+    return call.internal == "0" && call.extension == call.destNum;
+}
+
+// Written down once: a change of a single draw would change every later call, and with
+// it every figure that was ever taken from demonstration data.
+TEST(CallGenerator, GivesTheSameCallsForASeedOnEveryPlatform) {
+    const std::vector<Call> calls = Generate(3000, 1);
+    EXPECT_EQ(Line(calls.front()), "01/07/2019|07:21:03|00:00:48|6009|0|6009|661791|0|0|T002||003|");
+    EXPECT_EQ(Line(calls.back()), "30/06/2024|13:10:42|00:01:50|6011|0|6011|661202|0|0|T001||003|");
+    EXPECT_NE(Line(Generate(3000, 2).front()), Line(calls.front()));
+}
+
+TEST(CallGenerator, GivesTheCallsAskedForInOrderOfTimeWithoutTies) {
+    for (const std::uint64_t count : {0U, 1U, 7U, 5000U}) {
+        const std::vector<Call> calls = Generate(count, 5);
+        ASSERT_EQ(calls.size(), count);
+        std::set<std::tuple<std::string, std::string, std::string>> seen;
+        std::tuple<int, int> last;
+        for (const Call& call : calls) {
+            const std::tuple<int, int> moment{DayNumber(call.date), TimeNo(call.time)};
+            EXPECT_LE(last, moment);
+            last = moment;
+            EXPECT_TRUE(seen.emplace(call.date, call.time, call.site).second) << Line(call);
+        }
+        if (count < 5000) continue;
+        EXPECT_EQ(calls.front().date.substr(6), "2019");
+        EXPECT_EQ(calls.back().date.substr(6), "2024");
+    }
+}
+
+// Most seconds of a busy morning are taken then.
+TEST(CallGenerator, EndsForTheGreatestCount) {
+    CallGenerator generator(kMostCalls, 3);
+    Call call;
+    std::set<std::string> seen;
+    while (generator.Next(call) && call.date.starts_with("01/07")) {
+        EXPECT_TRUE(seen.insert(call.time + call.site).second);
+    }
+    EXPECT_GT(seen.size(), 10000U);
+}
+
+TEST(CallGenerator, ShapesEachCallByItsDirection) {
+    std::map<std::string, std::size_t> siteOf;
+    for (const DemoExtension& extension : DemoExtensions()) siteOf[extension.number] = extension.site;
+    const std::regex time("([01]\\d|2[0-3])(:[0-5]\\d){2}");
+    const std::regex outside("\\d{3}|\\d{6}|\\d{10,13}");
+    for (const Call& call : Generate(5000, 9)) {
+        SCOPED_TRACE(Line(call));
+        EXPECT_TRUE(std::regex_match(call.time, time) && std::regex_match(call.duration, time));
+        ASSERT_TRUE(siteOf.contains(call.extension));
+        EXPECT_EQ(call.site, DemoSites()[siteOf[call.extension]].id);
+        EXPECT_EQ(call.trunk.empty(), call.internal == "1");
+        EXPECT_NE(call.origNum, call.destNum);
+        if (call.internal == "1") {
+            EXPECT_EQ(call.origNum, call.extension);
+            EXPECT_TRUE(siteOf.contains(call.destNum) || call.destNum.ends_with("99"));
+        } else {
+            EXPECT_NE(IsOutgoing(call), IsIncoming(call));
+            const std::string& number = IsOutgoing(call) ? call.destNum : call.origNum;
+            EXPECT_TRUE(std::regex_match(number, outside) || (number.empty() && IsIncoming(call)));
+        }
+    }
+}
+
+TEST(CallGenerator, ResemblesTheYearsOfACompany) {
+    const std::vector<Call> calls = Generate(20000, 4);
+    std::map<std::string, int> counts;
+    std::set<std::string> dialled;
+    for (const Call& call : calls) {
+        counts[IsOutgoing(call) ? "outgoing" : IsIncoming(call) ? "incoming" : "internal"]++;
+        counts[call.duration == "00:00:00" ? "unanswered" : "answered"]++;
+        const int hour = TimeNo(call.time) / 10000;
+        if (hour < 6 || hour > 20) counts["night"]++;
+        if (IsOutgoing(call)) {
+            counts[call.destNum.size() == 6 ? "local" : "away"]++;
+            if (call.destNum == "999" || call.destNum == "112") counts["emergency"]++;
+            if (call.destNum.starts_with("09")) counts["premium"]++;
+            dialled.insert(call.destNum);
+        }
+        if (call.forward == "1") counts["forwarded"]++;
+        if (!call.account.empty()) counts["account"]++;
+    }
+    EXPECT_THAT(counts["outgoing"], AllOf(Gt(10600), Lt(11400)));
+    EXPECT_THAT(counts["incoming"], AllOf(Gt(6600), Lt(7400)));
+    EXPECT_THAT(counts["local"], AllOf(Gt(3300), Lt(3950)));
+    EXPECT_THAT(counts["unanswered"], AllOf(Gt(1500), Lt(2800)));
+    EXPECT_THAT(counts["night"], AllOf(Gt(20), Lt(600)));
+    EXPECT_THAT(counts["emergency"], AllOf(Gt(0), Lt(25)));
+    EXPECT_THAT(counts["premium"], AllOf(Gt(15), Lt(120)));
+    EXPECT_THAT(counts["forwarded"], AllOf(Gt(300), Lt(700)));
+    EXPECT_THAT(counts["account"], AllOf(Gt(2000), Lt(2900)));
+    EXPECT_THAT(dialled.size(), AllOf(Gt(3000U), Lt(9000U))) << "some numbers are dialled again and again";
+}
+
+// A tariff row is claimed by the first digits that tell it from all others.
+TEST(NumberRanges, CanBeToldApartByTheTariff) {
+    std::vector<std::string> prefixes;
+    for (const NumberRange& range : NumberRanges()) prefixes.push_back(Replace(range.prefix, " ", ""));
+    for (const DemoSite& site : DemoSites()) {
+        for (const std::string_view exchange : site.exchanges) prefixes.emplace_back(exchange);
+    }
+    for (const std::string& one : prefixes) {
+        int beginning = 0;
+        for (const std::string& other : prefixes) beginning += other.starts_with(one) ? 1 : 0;
+        EXPECT_EQ(beginning, 1) << one;
+    }
+}
+
+}  // namespace
+}  // namespace tallix

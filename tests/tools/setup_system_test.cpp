@@ -1,0 +1,184 @@
+// Tallix_Setup from outside, on the embedded database.
+#include <gmock/gmock.h>
+
+#include <algorithm>
+
+#include "demo_company.h"
+#include "foundation/ado/recordset.h"
+#include "foundation/encryption_tools.h"
+#include "support/run_program.h"
+#include "support/temp_folder.h"
+
+namespace tallix {
+namespace {
+
+using test::ProgramRun;
+using testing::HasSubstr;
+
+// A fresh installation: the application folder with its data, and no settings.
+class SetupSystem : public testing::Test {
+protected:
+    SetupSystem() {
+        for (const char* folder : {"schema", "reference"}) {
+            std::filesystem::create_directory_symlink(
+                std::filesystem::path(TALLIX_SOURCE_DIR) / "data" / folder, Home() / folder);
+        }
+    }
+
+    const std::filesystem::path& Home() const { return folder_.Path(); }
+    std::filesystem::path Hive() const { return Home() / "settings" / "HKLM.reg"; }
+
+    ProgramRun Run(const std::vector<std::string>& arguments,
+                   const std::string& registry = "settings") const {
+        return test::RunProgram(TALLIX_SETUP_PROGRAM, arguments,
+                                {{"TALLIX_HOME", Home()}, {"TALLIX_REGISTRY", Home() / registry}});
+    }
+
+    /// All rows of a statement, a line each.
+    std::string Rows(const std::string& statement, const std::string& file = "tallix.db") const {
+        ado::Connection connection;
+        connection.ConnectionString =
+            "DRIVER={MySQL ODBC 5.1 Driver};SERVER=sqlite:" + (Home() / file).string() +
+            ";DATABASE=TALLIX;UID=Tallix;PWD=norvadat;OPTION=165932";
+        connection.Open();
+        ado::Recordset set;
+        set.Open(statement, connection);
+        std::string rows;
+        for (std::int64_t i = 1; i <= set.RecordCount(); ++i, set.MoveNext()) {
+            for (const std::string& name : set.ColumnNames()) rows += std::string(set.Text(name)) + '|';
+            rows += '\n';
+        }
+        return rows;
+    }
+
+    test::TempFolder folder_;
+};
+
+// Failed, and told why in one line.
+void ExpectFailure(const ProgramRun& run, const std::string& why) {
+    EXPECT_NE(run.status, 0);
+    EXPECT_EQ(std::count(run.err.begin(), run.err.end(), '\n'), 1) << run.err;
+    EXPECT_THAT(run.err, HasSubstr("Tallix_Setup: "));
+    EXPECT_THAT(run.err, HasSubstr(why));
+}
+
+TEST_F(SetupSystem, LaysDownAllThatTheProgramNeeds) {
+    const ProgramRun run = Run({"--admin-password", "Größe 9", "--demo", "500", "--seed", "6"});
+    ASSERT_EQ(run.status, 0) << run.err;
+    EXPECT_EQ(run.err, "");
+    const std::string hive = test::ReadBytes(Hive());
+    for (const char* line :
+         {"\"DBType\"=\"1\"", "\"SQLUser\"=\"Tallix\"", "\"SQLPass\"=\"norvadat\"", "\"rptTC\"=\"002001118\"",
+          "\"rptTHC\"=\"180003000\"", "\"rptTDC\"=\"254254170\"", "\"rptTBC\"=\"162196091\""}) {
+        EXPECT_THAT(hive, HasSubstr(line));
+    }
+    EXPECT_THAT(hive, HasSubstr("sqlite:" + (Home() / "tallix.db").string()));
+    EXPECT_EQ(Rows("SELECT Username, Password, AccessType, GroupID FROM tblusers"),
+              EncipherForStorage("Administrator") + '|' + EncipherForStorage("Größe 9") + '|' +
+                  EncipherForStorage(std::string(42, '1')) + "|0|\n");
+    EXPECT_EQ(Rows("SELECT COUNT(*) FROM tblphonedata"), "500|\n");
+    EXPECT_EQ(Rows("SELECT ID, Area, VM FROM tblsite"), "001|01604|299|\n002|01522|599|\n003|01392|6099|\n");
+    EXPECT_EQ(Rows("SELECT Name FROM tblextensions WHERE ExtensionNo = \"6011\""), "André Lefèvre|\n");
+    EXPECT_EQ(Rows("SELECT COUNT(*) FROM tblareaproviders WHERE Provider <> Area"), "0|\n");
+    EXPECT_THAT(Rows("SELECT Code, Area FROM tblareaproviders"), HasSubstr("01604|Northampton|\n"));
+    EXPECT_THAT(Rows("SELECT Number, Cost, CostID FROM tblcosts"), HasSubstr("0906|60.00|99|\n"));
+    EXPECT_THAT(Rows("SELECT Number, Cost, CostID FROM tblcosts"), testing::EndsWith("Default|1.20|21|\n"));
+}
+
+// Reports follow the map to the key of the name.
+TEST_F(SetupSystem, MapsGroupsByTheKeysOfTheirNames) {
+    ASSERT_EQ(Run({"--demo", "0"}).status, 0);
+    for (const DemoGroup& group : DemoGroups()) {
+        std::string members;
+        for (const int member : group.members) members += DemoExtensions()[member].number + "|\n";
+        EXPECT_EQ(
+            Rows("SELECT Extension FROM tblgroupmap WHERE GroupID = (SELECT ID FROM tblgroupnames WHERE "
+                 "Name = \"" +
+                 std::string(group.name) + "\")"),
+            members);
+    }
+}
+
+// The most called of the address book are among the numbers dialled.
+TEST_F(SetupSystem, NamesNumbersThatAreCalled) {
+    ASSERT_EQ(Run({"--demo", "3000"}).status, 0);
+    EXPECT_NE(Rows("SELECT COUNT(*) FROM tblphonedata WHERE DestNum IN (SELECT Number FROM tbladdressbook)"),
+              "0|\n");
+}
+
+TEST_F(SetupSystem, ChangesNothingTheSecondTime) {
+    const ProgramRun first = Run({"--demo", "40"});
+    ASSERT_EQ(first.status, 0) << first.err;
+    EXPECT_THAT(first.out, HasSubstr("Administrator: made with all rights and the password "));
+    const auto everything = [&] {
+        std::string rows = test::ReadBytes(Hive());
+        for (const char* table :
+             {"tblphonedata", "tblusers", "tblsite", "tblextensions", "tblgroupnames", "tblgroupmap",
+              "tblcosts", "tbladdressbook", "tblareaproviders", "tblcommproviders", "tblintcodes"}) {
+            rows += Rows(std::string("SELECT * FROM ") + table);
+        }
+        return rows;
+    };
+    const std::string before = everything();
+    const ProgramRun second =
+        Run({"--demo", "90", "--seed", "3", "--admin-password", "other", "--user", "other"});
+    EXPECT_EQ(second.status, 0) << second.err;
+    EXPECT_EQ(everything(), before);
+    EXPECT_THAT(second.out, HasSubstr("Demonstration: 40 calls there already, nothing added\n"));
+    std::istringstream lines(second.out);
+    std::string line;
+    std::getline(lines, line);  // the database that was reached
+    while (std::getline(lines, line)) EXPECT_THAT(line, HasSubstr("there already"));
+}
+
+TEST_F(SetupSystem, KeepsToTheStoredAddressAndToWhatTablesHold) {
+    ASSERT_EQ(Run({"--address", "sqlite:" + (Home() / "other.db").string()}).status, 0);
+    const ProgramRun run = Run({"--demo", "10"});
+    EXPECT_EQ(run.status, 0) << run.err;
+    EXPECT_FALSE(std::filesystem::exists(Home() / "tallix.db"));
+    EXPECT_EQ(Rows("SELECT COUNT(*) FROM tblphonedata", "other.db"), "10|\n");
+}
+
+TEST_F(SetupSystem, StoresNoAddressThatItDidNotReach) {
+    folder_.Write("text.db", "This file is a letter and no database at all.\n");
+    const struct {
+        std::vector<std::string> arguments;
+        std::string why;
+    } cases[] = {
+        {{"--address", "sqlite:/nowhere/at/all.db"}, "/nowhere/at/all.db"},
+        {{"--address", "sqlite:" + (Home() / "text.db").string()}, "text.db"},
+        {{"--address", "sqlite:"}, "database file"},
+        {{"--address", "127.0.0.1:1"}, "127.0.0.1"},
+        {{"--type", "3", "--address", "127.0.0.1:1"}, "127.0.0.1"},
+        {{"--type", "2", "--address", "127.0.0.1:1"}, ""},
+        {{"--bogus"}, "\"--bogus\""},
+    };
+    for (const auto& [arguments, why] : cases) {
+        SCOPED_TRACE(arguments.back());
+        ExpectFailure(Run(arguments), why);
+        EXPECT_FALSE(std::filesystem::exists(Hive()));
+    }
+}
+
+TEST_F(SetupSystem, TellsWhatIsMissingOrCannotBeWritten) {
+    folder_.Write("file", "");
+    ExpectFailure(Run({}, "file"), "setting DBType cannot be written");
+    EXPECT_FALSE(std::filesystem::exists(Home() / "tallix.db"));
+    folder_.Write("reference.broken/areaproviders.csv", "Code,Area\n0113;Leeds\n");
+    std::filesystem::remove(Home() / "reference");
+    ExpectFailure(Run({}), "reference data cannot be read: ");
+    std::filesystem::rename(Home() / "reference.broken", Home() / "reference");
+    ExpectFailure(Run({}), "no code and name: 0113;Leeds");
+    std::filesystem::remove(Home() / "schema");
+    ExpectFailure(Run({}), "schema");
+}
+
+TEST_F(SetupSystem, ShowsItsOptionsAndTouchesNothing) {
+    const ProgramRun run = Run({"--help"});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_THAT(run.out, HasSubstr("[--admin-password TEXT] [--demo CALLS] [--seed N]"));
+    EXPECT_FALSE(std::filesystem::exists(Home() / "tallix.db"));
+}
+
+}  // namespace
+}  // namespace tallix
