@@ -13,7 +13,7 @@ export TALLIX_REGISTRY="${TALLIX_REGISTRY:-$dist/settings}"
 
 build_and_install() {
     scripts/deps.sh
-    cmake --preset release
+    cmake --preset release --log-level=NOTICE
     cmake --build --preset release --parallel "$(nproc)" --target Tallix_Reports Tallix_Setup
     cmake --install build/release --prefix "$dist" >/dev/null
 }

@@ -5,6 +5,6 @@ set -eu
 cd "$(dirname "$0")/.."
 
 scripts/deps.sh
-cmake --preset release
+cmake --preset release --log-level=NOTICE
 cmake --build --preset release --parallel "$(nproc)"
 ctest --preset release --parallel "$(nproc)" "$@"

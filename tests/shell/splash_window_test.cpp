@@ -1,7 +1,6 @@
 #include "shell/splash_window.h"
 
 #include <gmock/gmock.h>
-#include <unistd.h>
 
 #include <QLabel>
 #include <QRegularExpression>
@@ -9,6 +8,7 @@
 
 #include "support/fixed_clock.h"
 #include "support/scripted_prompts.h"
+#include "support/temp_folder.h"
 #include "support/window_test.h"
 #include "ui/form_names.h"
 
@@ -22,7 +22,6 @@ protected:
         std::filesystem::create_directories(root_ / "Company Docs");
         settings_.Write("DBIP", "10.0.0.5");
     }
-    ~SplashWindowTest() override { std::filesystem::remove_all(root_); }
 
     SplashWindow* LoadSplash(const std::string& commandLine) {
         forms.Register(ui::kSplashForm, [this, commandLine] {
@@ -41,8 +40,8 @@ protected:
 
     static constexpr std::chrono::milliseconds kQuickStep{5};
 
-    std::filesystem::path root_ =
-        std::filesystem::path(testing::TempDir()) / ("tallix_splash_" + std::to_string(getpid()));
+    test::TempFolder folder_;
+    const std::filesystem::path root_ = folder_.Path();
     test::ScriptedPrompts prompts_;
     test::FixedClock clock_;
     NoEvents events_;

@@ -2,15 +2,14 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <filesystem>
-#include <fstream>
 #include <stdexcept>
 #include <vector>
 
 #include "support/fixed_clock.h"
 #include "support/scripted_prompts.h"
+#include "support/temp_folder.h"
 
 namespace tallix {
 namespace {
@@ -43,7 +42,6 @@ protected:
         }
         settings_.Write("DBIP", "10.0.0.5");
     }
-    ~StartupSequenceTest() override { std::filesystem::remove_all(root_); }
 
     /// Runs a whole sequence, with more ticks than it needs.
     void Start(const std::string& commandLine) {
@@ -67,8 +65,8 @@ protected:
         return {last, diary_.lines.end()};
     }
 
-    std::filesystem::path root_ =
-        std::filesystem::path(testing::TempDir()) / ("tallix_startup_" + std::to_string(getpid()));
+    test::TempFolder folder_;
+    const std::filesystem::path root_ = folder_.Path();
     test::ScriptedPrompts prompts_;
     test::FixedClock clock_;
     Diary diary_;
@@ -103,8 +101,7 @@ TEST_F(StartupSequenceTest, TheVersionIsStoredAtEveryStart) {
 }
 
 TEST_F(StartupSequenceTest, UnattendedRunsStayHiddenAndEndByThemselves) {
-    const std::string path = (root_ / "Daily Calls.SSR").string();
-    std::ofstream(path) << "[General]\nUser=Anna\n";
+    const std::string path = folder_.Write("Daily Calls.SSR", "[General]\nUser=Anna\n").string();
     const std::vector<std::pair<std::string, std::vector<std::string>>> runs = {
         {'"' + path + '"', {"4 Loading UI...", "report for Anna", "serve", "unload"}},
         {root_.string() + "\\Daily Calls.SSR", {"4 Loading UI...", "report for Anna", "serve", "unload"}},
