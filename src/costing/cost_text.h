@@ -18,12 +18,14 @@ struct UnitCost {
 /// with a point, so costs are meant to be typed with exactly two decimals.
 void ReadUnitCost(std::string_view text, UnitCost& cost);
 
-/// The text of a priced call, in pounds and pence. Amounts of seven digits and more
-/// have no text of their own: `text` keeps what it held.
+/// The text of a priced call, in pounds and pence, by the number of characters in the
+/// amount's decimal form (a minus sign is one of them): 5 is "0.05", 12345 is "123.45".
+/// Six characters give the first, ",." and the last two: 123456 is "1,.56". Longer
+/// amounts have no text of their own: `text` keeps what it held.
 void WriteAmount(std::int32_t pence, std::string& text);
 
-/// The total of a report: "0.05", "123.45", "12,345.67". Digits beyond the eighth from
-/// the right are dropped.
+/// The total of a report: "0.05", "123.45", "12,345.67". Characters beyond the eighth
+/// from the right are dropped, a minus sign among them.
 std::string TotalText(std::int32_t pence);
 
 }  // namespace tallix

@@ -2,14 +2,11 @@
 // prices a number.
 #pragma once
 
-#include <cstddef>
 #include <optional>
-#include <string>
 #include <string_view>
-#include <unordered_map>
-#include <vector>
 
 #include "costing/cost_text.h"
+#include "foundation/prefix_table.h"
 #include "foundation/session.h"
 
 namespace tallix {
@@ -17,17 +14,23 @@ namespace tallix {
 class Tariff {
 public:
     /// Reads the table over the session's open connection. A table that cannot be read
-    /// gives an empty tariff.
+    /// gives an empty tariff. `session` must outlive the tariff and stay connected: odd
+    /// numbers are looked up by the server.
     explicit Tariff(Session& session);
 
     /// The cost of the "Default" row; zero where there is none.
     const UnitCost& Standard() const { return standard_; }
 
     /// The cost text of the one row whose number begins with the first three or more
-    /// characters of `number`; nothing when none does or when rows stay tied to the
-    /// number's end. This narrows a prefix and is no longest match. The view lives as
-    /// long as the tariff.
+    /// characters of `number`; nothing when none does or when rows stay tied. The prefix
+    /// must be decided before the number's end: its last character is never looked at, so
+    /// that numbers of three characters and less have no match. This narrows a prefix and
+    /// is no longest match. The view lives as long as the tariff.
     std::optional<std::string_view> Match(std::string_view number);
+
+private:
+    PrefixLookup costs_;
+    UnitCost standard_;
 };
 
 }  // namespace tallix

@@ -1,0 +1,60 @@
+#include "costing/cost_computation.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "foundation/ado/recordset.h"
+#include "foundation/database.h"
+#include "support/test_application.h"
+
+namespace tallix {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::Pair;
+
+std::vector<std::pair<std::string, std::string>> StoredCosts(Session& session) {
+    OpenDatabase(session);
+    ado::Recordset rows;
+    rows.Open("SELECT * FROM tblcostcount ORDER BY DataID", OpenConnection(session));
+    std::vector<std::pair<std::string, std::string>> costs;
+    for (std::int64_t i = 1; i <= rows.RecordCount(); ++i, rows.MoveNext()) {
+        costs.emplace_back(rows.Text("DataID"), rows.Text("Cost"));
+    }
+    CloseDatabase(session);
+    return costs;
+}
+
+TEST(CostComputation, EveryOutsideCallWithADurationGetsOneRowAndOldOnesGo) {
+    test::TestApplication test;
+    test.Execute("INSERT INTO tblcosts(Number, Cost) VALUES ('Default', '2.00'), ('0845', '5.00')");
+    test.Execute("INSERT INTO tblcostcount(DataID, Cost) VALUES ('99', '7.77')");
+    test.InsertCall({{"ID", "1"}, {"Duration", "00:02:30"}, {"DestNum", "0845123"}});
+    test.InsertCall({{"ID", "2"}, {"Duration", "00:00:00"}});
+    test.InsertCall({{"ID", "3"}, {"Internal", "1"}});
+    test.InsertCall({{"ID", "4"}, {"Duration", "00:01:00"}, {"DestNum", "O'Neill \"x\""}});
+    test.Execute("INSERT INTO tblphonedata(ID, Internal, Duration) VALUES (5, '0', '00:10:00')");
+    EXPECT_EQ(ComputeCosts(test.application), 3);
+    EXPECT_EQ(test.application.session.DBConn, nullptr);
+    EXPECT_THAT(StoredCosts(test.application.session),
+                ElementsAre(Pair("1", "0.15"), Pair("4", "0.02"), Pair("5", "0.20")));
+
+    test.settings.Write("Billing", "S");
+    ComputeCosts(test.application);
+    EXPECT_THAT(StoredCosts(test.application.session),
+                ElementsAre(Pair("1", "7.50"), Pair("4", "1.20"), Pair("5", "12.00")));
+}
+
+TEST(CostComputation, FailuresOfTheDatabaseArePassedOver) {
+    test::TestApplication test;
+    test.InsertCall();
+    test.Execute("DROP TABLE tblcostcount");
+    EXPECT_EQ(ComputeCosts(test.application), 1);
+    test.Execute("DROP TABLE tblphonedata");
+    EXPECT_EQ(ComputeCosts(test.application), 0);
+    test.application.session.DBType = "";
+    EXPECT_EQ(ComputeCosts(test.application), 0);
+}
+
+}  // namespace
+}  // namespace tallix
