@@ -37,9 +37,13 @@ struct DriverTraits {
     bool wide;                  ///< takes statements as UTF-16; the driver manager would garble UTF-8
 };
 
+constexpr std::string_view kPostgresSettings =
+    "SET client_encoding TO 'UTF8'; SET synchronize_seqscans TO off; SET max_parallel_workers_per_gather TO "
+    "0";
+
 constexpr std::array kDrivers{
-    DriverTraits{"psqlodbca", Server::Postgres, "", "SET client_encoding TO 'UTF8'", false},
-    DriverTraits{"postgresql ansi", Server::Postgres, "", "SET client_encoding TO 'UTF8'", false},
+    DriverTraits{"psqlodbca", Server::Postgres, "", kPostgresSettings, false},
+    DriverTraits{"postgresql ansi", Server::Postgres, "", kPostgresSettings, false},
     DriverTraits{"", Server::SqlServer, "TDS_Version=7.4;ClientCharset=UTF-8;", "", true},
 };
 
@@ -62,7 +66,8 @@ std::string Diagnosis(SQLSMALLINT type, SQLHANDLE handle) {
     const SQLRETURN code = SQLGetDiagRec(type, handle, 1, state.data(), &native, text.data(),
                                          static_cast<SQLSMALLINT>(text.size()), &length);
     if (!Succeeded(code)) return "the driver gives no reason";
-    return reinterpret_cast<const char*>(text.data());
+    const std::string_view message = reinterpret_cast<const char*>(text.data());
+    return std::string(message.substr(0, message.find_last_not_of(" \n") + 1));
 }
 
 /// An ODBC handle, freed with the object.
