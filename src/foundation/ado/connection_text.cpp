@@ -92,9 +92,10 @@ void ReadAddress(std::string_view address, ConnectionParts& parts) {
 ConnectionParts ReadConnectionText(std::string_view text) {
     const Entries entries = ReadEntries(text);
     const std::string driver = Entry(entries, "DRIVER");
-    const std::string provider = driver.empty() ? Entry(entries, "PROVIDER") : driver;
-    const std::optional<Server> server = ServerOf(provider);
-    if (!server) throw DatabaseError("No database driver is known by the name \"" + provider + "\"");
+    const std::string provider = Entry(entries, "PROVIDER");
+    const std::optional<Server> server = ServerOf(driver.empty() ? provider : driver);
+    if (!server && driver.empty())
+        throw DatabaseError("No database provider is known by the name \"" + provider + "\"");
 
     ConnectionParts parts;
     parts.database = Entry(entries, "DATABASE");
@@ -103,10 +104,11 @@ ConnectionParts ReadConnectionText(std::string_view text) {
     const std::string address = Entry(entries, "SERVER");
     if (LowerCase(address).starts_with(kEmbeddedAddress)) {
         parts.file = address.substr(kEmbeddedAddress.size());
-    } else {
-        parts.server = *server;
-        ReadAddress(address, parts);
+        return parts;
     }
+    parts.server = server.value_or(Server::SqlServer);
+    if (!server) parts.driver = driver;
+    ReadAddress(address, parts);
     return parts;
 }
 

@@ -20,8 +20,9 @@ struct ConnectionParts {
 };
 
 /// Reads "DRIVER={MySQL ODBC 5.1 Driver};SERVER=...;..." and its kin. SERVER is
-/// "host", "host:port" or "sqlite:/path/to/file". Throws DatabaseError for a text
-/// that names no known driver or provider.
+/// "host", "host:port" or "sqlite:/path/to/file". A driver that no native engine serves
+/// is taken over by its name, for ODBC. Throws DatabaseError for a text that names neither
+/// a driver nor a known provider.
 ConnectionParts ReadConnectionText(std::string_view text);
 
 }  // namespace tallix::ado

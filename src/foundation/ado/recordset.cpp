@@ -144,11 +144,11 @@ void Recordset::Collect(std::string_view name, Value value) {
 void Recordset::Update() {
     RequireOpen();
     if (!changes_) return;
-    Values values = std::exchange(changes_->pending, {});
+    const Values values = std::exchange(changes_->pending, {});
     if (std::exchange(changes_->adding, false)) {
         Insert(values);
     } else if (!values.empty()) {
-        UpdateRow(std::move(values));
+        UpdateRow(values);
     }
 }
 
@@ -168,7 +168,7 @@ void Recordset::Insert(const Values& values) {
     server.Execute(statement);
 }
 
-void Recordset::UpdateRow(Values values) {
+void Recordset::UpdateRow(const Values& values) {
     const auto assignment = [this](const auto& value) {
         const Server server = connection_->Server().Kind();
         return QuoteIdentifier(result_->columns[value.first], server) + " = " +
@@ -177,7 +177,7 @@ void Recordset::UpdateRow(Values values) {
     connection_->Server().Execute("UPDATE " + Table() + " SET " + Joined(values, ", ", assignment) +
                                   " WHERE " + RowCondition());
     Values& stored = changes_->stored[row_];
-    for (auto& [column, value] : values) stored[column] = std::move(value);
+    for (const auto& [column, value] : values) stored[column] = value;
 }
 
 void Recordset::Delete() {

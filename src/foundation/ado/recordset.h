@@ -112,7 +112,7 @@ private:
     const std::vector<std::size_t>& KeyPlaces();
     std::string RowCondition();
     void Insert(const Values& values);
-    void UpdateRow(Values values);
+    void UpdateRow(const Values& values);
 
     std::shared_ptr<const Result> result_;
     Connection* connection_ = nullptr;

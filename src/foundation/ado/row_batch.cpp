@@ -10,11 +10,11 @@ namespace {
 // A statement beyond these sizes is not faster, only larger. Servers take at least 1 MB;
 // SQL Server takes 1000 rows at most.
 constexpr std::size_t kRowsAStatement = 500;
-constexpr std::size_t kBytesAStatement = 256 * 1024;
+constexpr std::size_t kBytesAStatement = std::size_t{256} * 1024;
 
 }  // namespace
 
-RowBatch::RowBatch(Connection& connection, std::string table, std::vector<std::string> columns)
+RowBatch::RowBatch(Connection& connection, std::string_view table, const std::vector<std::string>& columns)
     : connection_(connection) {
     const Server server = connection.Server().Kind();
     head_ = "INSERT INTO " + QuoteIdentifier(table, server) + " (";

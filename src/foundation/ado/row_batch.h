@@ -16,7 +16,7 @@ namespace tallix::ado {
 class RowBatch {
 public:
     /// `connection` must be open and outlive the batch.
-    RowBatch(Connection& connection, std::string table, std::vector<std::string> columns);
+    RowBatch(Connection& connection, std::string_view table, const std::vector<std::string>& columns);
 
     /// Takes one row, a value a column; nothing for NULL. Throws DatabaseError when the
     /// connection is closed.

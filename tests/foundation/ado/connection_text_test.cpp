@@ -39,10 +39,12 @@ TEST(ReadConnectionText, ReadsAddresses) {
         ReadConnectionText("DRIVER={MySQL ODBC 5.1 Driver};SERVER=sqlite:/a b/t.db;DATABASE=TALLIX");
     EXPECT_EQ(embedded.server, Server::Sqlite);
     EXPECT_EQ(embedded.file, "/a b/t.db");
+    EXPECT_EQ(embedded.driver, "");
+    EXPECT_EQ(ReadConnectionText("DRIVER={Other};SERVER=db").driver, "Other");
 }
 
 TEST(ReadConnectionText, RefusesTextsThatNameNoKnownServer) {
-    for (const char* text : {"", "SERVER=db", "DRIVER={Other};SERVER=db", "DRIVER={", "=;;="}) {
+    for (const char* text : {"", "SERVER=db", "PROVIDER=Other;SERVER=db", "DRIVER={", "=;;="}) {
         EXPECT_THROW(ReadConnectionText(text), DatabaseError) << text;
     }
 }
