@@ -149,6 +149,13 @@ void AddCalls(ado::Connection& connection, CallGenerator& generator) {
     FinishBatch(batch, "tblphonedata");
 }
 
+// PostgreSQL puts a row wherever a page has room for it. Laid out by their keys, calls
+// come back in the order in which they were made, as the other servers give them.
+void LayOutByKey(ado::Connection& connection) {
+    if (connection.Server().Kind() != ado::Server::Postgres) return;
+    connection.Execute("CLUSTER tblphonedata USING tblphonedata_pkey");
+}
+
 }  // namespace
 
 void AddDemonstration(ado::Connection& connection, std::uint64_t calls, std::uint64_t seed,
@@ -166,6 +173,7 @@ void AddDemonstration(ado::Connection& connection, std::uint64_t calls, std::uin
     }
     AddWhereEmpty(connection, GroupMapRows(connection), out);
     AddCalls(connection, generator);
+    LayOutByKey(connection);
     transaction.Commit();
     out << fmt::format("tblphonedata: {} calls added\n", calls);
 }

@@ -14,14 +14,14 @@ inline constexpr std::string_view kAll = "ALL";
 
 /// The filter values of a run, as texts; an empty text is no filter.
 struct RunInputs {
-    std::string extension;
-    std::string account;
-    std::string site;   ///< "ALL" or a site id
-    std::string group;  ///< "ALL" or a group name
-    std::string startDate;
-    std::string endDate;
-    std::string timeFrom;
-    std::string timeTo;
+    std::string extension{};
+    std::string account{};
+    std::string site{};   ///< "ALL" or a site id
+    std::string group{};  ///< "ALL" or a group name
+    std::string startDate{};
+    std::string endDate{};
+    std::string timeFrom{};
+    std::string timeTo{};
 };
 
 enum class QueryRules { Preset, Unattended };
@@ -78,7 +78,7 @@ inline constexpr RunRules kUnattendedRules = {
 struct RunDescription {
     std::string reportName;            ///< in titles and in the log
     std::filesystem::path reportFile;  ///< the file of keys
-    RunInputs inputs;
+    RunInputs inputs{};
     bool commaText = false;  ///< for an application that opens comma text
     const RunRules& rules;
 };

@@ -1,0 +1,176 @@
+#include "jobs.h"
+
+#include <fmt/format.h>
+
+#include <QApplication>
+#include <QLabel>
+#include <QProgressBar>
+#include <QVBoxLayout>
+#include <fstream>
+
+#include "costing/cost_computation.h"
+#include "custody/automated_backup.h"
+#include "floors.h"
+#include "foundation/database.h"
+#include "reporting/report_run.h"
+#include "ui/qt_events.h"
+
+namespace tallix::bench {
+
+namespace {
+
+constexpr const char* kAllCalls = "SELECT * FROM tblphonedata";
+
+// A progress panel as a window shows it: bar and text follow every record, events are
+// served at every record.
+class ShownProgress : public RunProgress {
+public:
+    ShownProgress() {
+        auto* layout = new QVBoxLayout(&panel_);
+        layout->addWidget(&text_);
+        layout->addWidget(&bar_);
+        panel_.show();
+    }
+    ~ShownProgress() override {
+        text_.setParent(nullptr);
+        bar_.setParent(nullptr);
+    }
+
+    void Record(std::int64_t record, std::int64_t bound) override {
+        if (record == 1) bar_.setMaximum(static_cast<int>(bound));
+        record_ = record;
+        if (const auto now = std::chrono::steady_clock::now(); now - painted_ > kPaint) {
+            painted_ = now;
+            bar_.setValue(static_cast<int>(record));
+            text_.setText(QString("Processing Record %1 Of %2").arg(record).arg(bound));
+        }
+        events_.Serve();
+    }
+
+private:
+    static constexpr std::chrono::milliseconds kPaint{50};
+
+    QWidget panel_;
+    QLabel text_;
+    QProgressBar bar_;
+    ui::QtEvents events_;
+    std::int64_t record_ = 0;
+    std::chrono::steady_clock::time_point painted_{};
+};
+
+void WriteReport(World& world, const std::string& name, const std::string& columns,
+                 const std::string& options) {
+    const std::filesystem::path file = PresetReportFile(world.application.folder, name);
+    std::filesystem::create_directories(file.parent_path());
+    std::ofstream(file) << "[Data]\n" << columns << "[Options]\n" << options;
+}
+
+// Runs a report over all calls and returns the size of its page.
+std::int64_t RunReport(World& world, const std::string& columns, const std::string& options,
+                       const RunRules& rules, RunProgress& progress) {
+    WriteReport(world, "Bench", columns, options);
+    ReportFlags flags;
+    ReportRun(world.application, flags, progress)
+        .Make({.reportName = "Bench",
+               .reportFile = PresetReportFile(world.application.folder, "Bench"),
+               .rules = rules});
+    return static_cast<std::int64_t>(std::filesystem::file_size(PageFile(world.application)));
+}
+
+const std::string kPlainColumns =
+    "Date=True\nTime=True\nExtension=True\nDuration=True\nNumRings=True\nOrigNum=True\nDestNum=True\nTrunk="
+    "True\n"
+    "Account=True\nSite=True\n";
+const std::string kAllColumns = kPlainColumns + "Name=True\nForward=True\nArea=True\n";
+const std::string kWithCost = "Cost=True\n";
+
+std::int64_t PlainReport(World& world) {
+    NoProgress nobody;
+    return RunReport(world, kPlainColumns, "", kUnattendedRules, nobody);
+}
+
+std::int64_t FullReport(World& world, const std::string& costCompute) {
+    world.application.settings.Write("Providers", "2");
+    world.application.settings.Write("CostCompute", costCompute);
+    NoProgress nobody;
+    return RunReport(world, kAllColumns, kWithCost, kUnattendedRules, nobody);
+}
+
+std::int64_t PresetPage(World& world) {
+    for (const char* colour : {"rptTC", "rptTHC", "rptTDC", "rptTBC"}) {
+        world.application.settings.Write(colour, "002001118");
+    }
+    world.application.settings.Write("V1Reports", "1");
+    world.application.settings.Write("Providers", "2");
+    world.application.settings.Write("CostCompute", "1");
+    int none = 0;
+    QApplication toolkit(none, nullptr);
+    ShownProgress progress;
+    return RunReport(world, kAllColumns, kWithCost, kPresetRules, progress);
+}
+
+std::int64_t Costs(World& world) {
+    ComputeCosts(world.application);
+    return 0;
+}
+
+std::int64_t Dump(World& world) {
+    WriteAutomatedBackup(world.application);
+    return static_cast<std::int64_t>(
+        std::filesystem::file_size(world.application.folder / kAutomatedBackupName));
+}
+
+void FetchAndWrite(World& world, std::int64_t bytes) {
+    OpenBareClient(world.Parts())->Fetch(kAllCalls);
+    WriteBytes((world.application.tempFolder / "floor").string(), bytes);
+}
+
+// The same rows with the stored costs beside them, which the report needs as well.
+void FetchBothAndWrite(World& world, std::int64_t bytes) {
+    OpenBareClient(world.Parts())->Fetch("SELECT * FROM tblcostcount");
+    FetchAndWrite(world, bytes);
+}
+
+void SendCosts(World& world, std::int64_t) {
+    OpenDatabase(world.application.session);
+    ado::Recordset costs;
+    costs.Open("SELECT * FROM tblcostcount", OpenConnection(world.application.session));
+    const std::unique_ptr<BareClient> client = OpenBareClient(world.Parts());
+    client->Execute("DELETE FROM tblcostcount");
+    client->Fetch("SELECT * FROM tblphonedata WHERE Internal = '0'");
+    const ado::Column id = costs.Find("DataID");
+    const ado::Column cost = costs.Find("Cost");
+    for (std::int64_t i = 0; i < costs.RecordCount(); ++i, costs.MoveNext()) {
+        client->Execute(fmt::format("INSERT INTO tblcostcount(DataID, Cost) VALUES ({}, '{}')",
+                                    costs.Text(id), costs.Text(cost)));
+    }
+}
+
+}  // namespace
+
+std::vector<Job> Jobs() {
+    return {
+        {"compute costs", 1.5, Costs, SendCosts},
+        {"unattended report, plain columns", 1.5, PlainReport, FetchAndWrite, {}, true},
+        {"unattended report, name, area, country, stored cost",
+         2.5,
+         [](World& world) { return FullReport(world, "1"); },
+         FetchBothAndWrite,
+         {},
+         true},
+        {"unattended report, name, area, country, priced per row",
+         2.5,
+         [](World& world) { return FullReport(world, "0"); },
+         FetchAndWrite,
+         {},
+         true},
+        {"preset page, coloured, all columns, progress shown", 3, PresetPage, FetchBothAndWrite, {}, true},
+        {"dump", 1.5, Dump, FetchAndWrite},
+    };
+}
+
+std::int64_t TextOfAllCalls(World& world) {
+    return OpenBareClient(world.Parts())->Fetch(kAllCalls);
+}
+
+}  // namespace tallix::bench

@@ -1,0 +1,76 @@
+// Measures each job against its floor and prints a table in Markdown.
+//
+//   tallix_bench FOLDER CALLS [NAME DBTYPE ADDRESS USER PASSWORD]...
+#include <fmt/format.h>
+
+#include <cstdlib>
+#include <exception>
+#include <iostream>
+
+#include "jobs.h"
+#include "measure.h"
+#include "world.h"
+
+namespace {
+
+using namespace tallix::bench;
+
+constexpr int kFirstEngine = 3;
+constexpr int kWordsOfAnEngine = 5;
+constexpr double kBytesPerMegabyte = 1e6;
+
+void PrintHead() {
+    std::cout << "| Job | Engine | Seconds | Floor | Ratio | Limit | Peak MB | Text MB |\n"
+                 "|---|---|---:|---:|---:|---:|---:|---:|\n";
+}
+
+// Returns whether the job kept its limit.
+bool Run(const Job& job, World& world, const std::string& engine, std::int64_t text) {
+    if (job.prepare) job.prepare(world);
+    const Measured measured = Measure([&] { return job.run(world); });
+    const Measured floor = Measure([&] {
+        job.floor(world, measured.result);
+        return std::int64_t{0};
+    });
+    const double ratio = measured.seconds / floor.seconds;
+    std::cout << fmt::format(
+                     "| {} | {} | {:.2f} | {:.2f} | {:.2f} | {} | {:.0f} | {} |\n", job.name, engine,
+                     measured.seconds, floor.seconds, ratio, job.limit, measured.peakMegabytes,
+                     job.isReport ? fmt::format("{:.0f}", static_cast<double>(text) / kBytesPerMegabyte) : "")
+              << std::flush;
+    return ratio <= job.limit;
+}
+
+bool RunAll(const EngineAddress& engine, std::uint64_t calls, const std::filesystem::path& folder) {
+    Measure([&] {
+        World(engine, calls, folder);
+        return std::int64_t{0};
+    });
+    World world(engine, calls, folder);
+    const std::int64_t text = TextOfAllCalls(world);
+    bool kept = true;
+    for (const Job& job : Jobs()) kept = Run(job, world, engine.name, text) && kept;
+    return kept;
+}
+
+}  // namespace
+
+int main(int argumentCount, char** arguments) {
+    if (argumentCount < kFirstEngine + kWordsOfAnEngine) {
+        std::cerr << "usage: tallix_bench FOLDER CALLS [NAME DBTYPE ADDRESS USER PASSWORD]...\n";
+        return EXIT_FAILURE;
+    }
+    try {
+        const std::uint64_t calls = std::strtoull(arguments[2], nullptr, 10);
+        bool kept = true;
+        PrintHead();
+        for (int i = kFirstEngine; i + kWordsOfAnEngine <= argumentCount; i += kWordsOfAnEngine) {
+            char** words = arguments + i;
+            kept = RunAll({words[0], words[1], words[2], words[3], words[4]}, calls, arguments[1]) && kept;
+        }
+        return kept ? EXIT_SUCCESS : EXIT_FAILURE;
+    } catch (const std::exception& failure) {
+        std::cerr << "tallix_bench: " << failure.what() << std::endl;
+        return EXIT_FAILURE;
+    }
+}

@@ -1,0 +1,59 @@
+#include "world.h"
+
+#include <fstream>
+#include <sstream>
+
+#include "demo_data.h"
+#include "foundation/ado/connection.h"
+#include "foundation/database.h"
+#include "foundation/schema.h"
+#include "reference_data.h"
+
+namespace tallix::bench {
+
+namespace {
+
+constexpr std::uint64_t kSeed = 1;
+constexpr std::string_view kEmbedded = "sqlite:";
+const std::filesystem::path kData = std::filesystem::path(TALLIX_SOURCE_DIR) / "data";
+
+}  // namespace
+
+World::World(const EngineAddress& engine, std::uint64_t calls, const std::filesystem::path& folder)
+    : application{.folder = folder / engine.name,
+                  .tempFolder = folder / engine.name / "temp",
+                  .version = ProgramVersion(),
+                  .settings = settings_,
+                  .prompts = prompts_,
+                  .clock = clock_,
+                  .events = events_},
+      settings_(folder / engine.name, folder / engine.name, prompts_) {
+    std::filesystem::create_directories(application.tempFolder);
+    if (engine.address.starts_with(kEmbedded)) {
+        std::ofstream(engine.address.substr(kEmbedded.size()), std::ios::app);
+    }
+    Session& session = application.session;
+    session.DBType = engine.dbType;
+    session.DBIP = engine.address;
+    session.SQLUser = engine.user;
+    session.SQLPass = engine.password;
+    session.StrQuote = StringQuote(engine.dbType);
+    session.Currency = "£";
+    Fill(calls);
+}
+
+ado::ConnectionParts World::Parts() const {
+    return ado::ReadConnectionText(ConnectionText(application.session));
+}
+
+void World::Fill(std::uint64_t calls) {
+    OpenDatabase(application.session);
+    ado::Connection& connection = OpenConnection(application.session);
+    std::ostringstream said;
+    LayDownSchema(connection, kData / "schema");
+    FillReferenceData(connection, kData / "reference", said);
+    AddDemonstration(connection, calls, kSeed, said);
+    CloseDatabase(application.session);
+}
+
+}  // namespace tallix::bench

@@ -1,0 +1,41 @@
+// The company and its calls that the measurements run over, on one engine, and an
+// application that works on them.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <string>
+
+#include "foundation/ado/connection_text.h"
+#include "foundation/application.h"
+#include "ui/qt_events.h"
+
+namespace tallix::bench {
+
+struct EngineAddress {
+    std::string name;
+    std::string dbType;
+    std::string address;
+    std::string user;
+    std::string password;
+};
+
+class World {
+public:
+    /// Lays down tables, reference data and `calls` calls on the engine where it has none.
+    World(const EngineAddress& engine, std::uint64_t calls, const std::filesystem::path& folder);
+
+    Application application;
+
+    ado::ConnectionParts Parts() const;
+
+private:
+    void Fill(std::uint64_t calls);
+
+    UnattendedPrompts prompts_;
+    SystemClock clock_;
+    NoEvents events_;
+    SettingsStore settings_;
+};
+
+}  // namespace tallix::bench

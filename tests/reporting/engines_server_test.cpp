@@ -1,0 +1,124 @@
+// The same world of calls gives the same bytes on every engine: each shipped report, at
+// the screen and scheduled, and the dump.
+#include <gtest/gtest.h>
+
+#include <map>
+#include <sstream>
+
+#include "costing/cost_computation.h"
+#include "custody/automated_backup.h"
+#include "demo_data.h"
+#include "foundation/database.h"
+#include "reference_data.h"
+#include "reporting/report_run.h"
+#include "support/test_application.h"
+#include "support/test_servers.h"
+
+namespace tallix {
+namespace {
+
+using test::ReadBytes;
+using test::TestApplication;
+
+constexpr std::uint64_t kCalls = 4000;
+constexpr std::uint64_t kSeed = 7;
+
+const std::filesystem::path kData = std::filesystem::path(TALLIX_SOURCE_DIR) / "data";
+
+using Files = std::map<std::string, std::string>;
+
+void FillWorld(const test::TestEngine& engine) {
+    const std::unique_ptr<ado::Connection> connection = test::FreshDatabase(engine);
+    std::ostringstream said;
+    FillReferenceData(*connection, kData / "reference", said);
+    AddDemonstration(*connection, kCalls, kSeed, said);
+    connection->Execute("INSERT INTO tblrawdata(Data, SiteID) VALUES ('0105 10:15 201 T001   ', '001')");
+}
+
+const RunInputs kInputs = {.extension = "201",
+                           .account = "1001",
+                           .site = "001",
+                           .group = "Sales",
+                           .startDate = "01/02/2023",
+                           .endDate = "",
+                           .timeFrom = "09:00",
+                           .timeTo = "17:30"};
+
+RunInputs AllSites() {
+    RunInputs inputs = kInputs;
+    inputs.site = "ALL";
+    inputs.group = "ALL";
+    return inputs;
+}
+
+// Runs every shipped report in each of its ways and keeps the pages.
+void RunReports(TestApplication& test, const std::string& providers, const std::string& costs, Files& files) {
+    test.settings.Write("Providers", providers);
+    test.settings.Write("CostCompute", costs);
+    ReportFlags flags;
+    NoProgress progress;
+    for (const std::string& name : ListReports(PresetReportsFolder(kData))) {
+        const std::filesystem::path file = PresetReportFile(kData, name);
+        const RunDescription ways[] = {
+            {.reportName = name, .reportFile = file, .inputs = kInputs, .rules = kPresetRules},
+            {.reportName = name, .reportFile = file, .inputs = AllSites(), .rules = kPresetRules},
+            {.reportName = name, .reportFile = file, .inputs = AllSites(), .rules = kUnattendedRules},
+        };
+        int way = 0;
+        for (const RunDescription& description : ways) {
+            ReportRun(test.application, flags, progress).Make(description);
+            const std::string key = name + " " + std::to_string(++way) + " providers " + providers;
+            files[key] = Replace(ReadBytes(PageFile(test.application)), test.Folder().string(), "");
+        }
+    }
+}
+
+Files FilesOf(const std::string& engineName) {
+    const test::TestEngine& engine = test::EngineNamed(engineName);
+    FillWorld(engine);
+    TestApplication test({engine.dbType, engine.address, engine.user, engine.password});
+    Files files;
+    test.settings.Write("V1Reports", "1");
+    test.settings.Write("AreaCode", "1");
+    test.settings.Write("TimeOpen", "08:30");
+    test.settings.Write("TimeClosed", "17:30");
+    ComputeCosts(test.application);
+    RunReports(test, "1", "1", files);
+    RunReports(test, "2", "0", files);
+    WriteAutomatedBackup(test.application);
+    files["dump"] = ReadBytes(test.application.folder / kAutomatedBackupName);
+    return files;
+}
+
+std::size_t RowsOf(const std::string& page) {
+    std::size_t rows = 0;
+    for (std::size_t at = page.find('\n'); at != std::string::npos; at = page.find('\n', at + 1)) ++rows;
+    return rows;
+}
+
+// The first line in which two files differ, both ways; a page is too long to print.
+std::string FirstDifference(const std::string& expected, const std::string& actual) {
+    std::istringstream left(expected);
+    std::istringstream right(actual);
+    std::string ours;
+    std::string theirs;
+    while (std::getline(left, ours) && std::getline(right, theirs)) {
+        if (ours != theirs) return ours + " | " + theirs;
+    }
+    return expected == actual ? "" : "different lengths";
+}
+
+TEST(Engines, GiveTheSameReportsAndDumps) {
+    const Files expected = FilesOf("sqlite");
+    ASSERT_GT(RowsOf(expected.at("dump")), kCalls);
+    ASSERT_GT(RowsOf(expected.at("All Calls 2 providers 1")), kCalls / 8);
+    for (const char* name : {"mariadb", "postgres"}) {
+        const Files actual = FilesOf(name);
+        ASSERT_EQ(actual.size(), expected.size());
+        for (const auto& [key, bytes] : expected)
+            EXPECT_EQ(FirstDifference(bytes, actual.at(key)), "") << name << ": " << key;
+    }
+}
+
+}  // namespace
+}  // namespace tallix
