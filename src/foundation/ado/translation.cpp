@@ -32,6 +32,13 @@ struct Piece {
     std::string text;
 };
 
+// MariaDB escapes by a backslash whatever its mode says, and refuses an empty ESCAPE; MySQL
+// does neither. Naming the backslash serves both.
+std::string WithoutEscapes(const std::string& pattern) {
+    if (pattern.find('\\') == std::string::npos) return pattern;
+    return Replace(pattern, "\\", "\\\\") + " ESCAPE '\\'";
+}
+
 class Translation {
 public:
     Translation(std::string_view statement, Server server);
@@ -199,11 +206,22 @@ void Translation::CompareAsNumbers() {
 void Translation::KeepPatternsPlain() {
     for (std::size_t at = 1; at < pieces_.size(); ++at) {
         const TokenKind kind = At(at).kind;
-        if (!At(at - 1).Is("like") || (kind != TokenKind::DoubleQuoted && kind != TokenKind::Apostrophed))
-            continue;
+        const bool literal = kind == TokenKind::DoubleQuoted || kind == TokenKind::Apostrophed;
+        if (!At(at - 1).Is("like") || !literal || At(at + 1).Is("escape")) continue;
         std::string& pattern = pieces_[at].text;
-        if (server_ == Server::Postgres && !At(at + 1).Is("escape")) pattern += " ESCAPE ''";
-        if (server_ == Server::SqlServer) pattern = Replace(pattern, "[", "[[]");
+        switch (server_) {
+            case Server::Sqlite:
+                break;
+            case Server::Postgres:
+                pattern += " ESCAPE ''";
+                break;
+            case Server::SqlServer:
+                pattern = Replace(pattern, "[", "[[]");
+                break;
+            case Server::MySql:
+                pattern = WithoutEscapes(pattern);
+                break;
+        }
     }
 }
 

@@ -139,9 +139,12 @@ TEST(Translate, GivesEqualRowsOneOrder) {
 TEST(Translate, LeavesPatternsWithoutEscapeCharacter) {
     Check({
         {R"(SELECT * FROM tblcosts WHERE Number LIKE "0[1\%")",
-         R"(SELECT * FROM tblcosts WHERE Number LIKE '0[1\%')", nullptr,
+         R"(SELECT * FROM tblcosts WHERE Number LIKE '0[1\%')",
+         R"(SELECT * FROM tblcosts WHERE Number LIKE "0[1\\%" ESCAPE '\')",
          R"(SELECT * FROM tblcosts WHERE Number LIKE '0[1\%' ESCAPE '')",
          R"(SELECT * FROM tblcosts WHERE Number LIKE '0[[]1\%')"},
+        {"SELECT * FROM tblcosts WHERE Number LIKE '5%'", nullptr, nullptr,
+         "SELECT * FROM tblcosts WHERE Number LIKE '5%' ESCAPE ''", nullptr},
         {"SELECT * FROM tblcosts WHERE Number like '5!%' escape '!'", nullptr, nullptr, nullptr, nullptr},
     });
 }
