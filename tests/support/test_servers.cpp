@@ -128,7 +128,7 @@ void Empty(const TestEngine& engine) {
     if (engine.name == "sqlite") {
         const std::string file = engine.address.substr(std::string_view("sqlite:").size());
         for (const char* part : {"", "-wal", "-shm"}) std::filesystem::remove(file + part);
-        std::ofstream{file};
+        const std::ofstream made(file);
         return;
     }
     const std::unique_ptr<ado::Connection> connection = Connect(engine);

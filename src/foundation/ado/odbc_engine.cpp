@@ -98,8 +98,9 @@ SQLCHAR* Characters(const std::string& text) {
     return reinterpret_cast<SQLCHAR*>(const_cast<char*>(text.data()));
 }
 
+// ODBC takes the numbers of attributes in the place of a pointer.
 SQLPOINTER Number(std::size_t value) {
-    return reinterpret_cast<SQLPOINTER>(value);
+    return reinterpret_cast<SQLPOINTER>(value);  // NOLINT(performance-no-int-to-ptr)
 }
 
 /// The cells of one column in a block of rows.
@@ -226,7 +227,7 @@ OdbcEngine::OdbcEngine(const ConnectionParts& parts)
     connection_.Check(SQLDriverConnect(connection_.Get(), nullptr, Characters(text),
                                        static_cast<SQLSMALLINT>(text.size()), nullptr, 0, nullptr,
                                        SQL_DRIVER_NOPROMPT));
-    if (!traits_.settings.empty()) Execute(std::string(traits_.settings));
+    if (!traits_.settings.empty()) OdbcEngine::Execute(std::string(traits_.settings));
 }
 
 std::vector<SQLWCHAR> Utf16(std::string_view text) {
