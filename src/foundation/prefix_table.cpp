@@ -1,6 +1,7 @@
 #include "foundation/prefix_table.h"
 
 #include <algorithm>
+#include <bit>
 #include <numeric>
 
 #include "foundation/ado/recordset.h"
@@ -10,6 +11,8 @@
 
 namespace tallix {
 namespace {
+
+constexpr std::size_t kBitsPerByte = 8;
 
 bool IsPlainCharacter(char character) {
     return (character >= '0' && character <= '9') || character == '+' || character == '*' || character == '#';
@@ -39,11 +42,6 @@ std::size_t FirstNotBelow(const std::vector<std::uint64_t>& heads, std::uint64_t
         count -= half;
     }
     return from;
-}
-
-std::size_t CommonLength(std::string_view left, std::string_view right) {
-    const auto end = std::mismatch(left.begin(), left.end(), right.begin(), right.end());
-    return static_cast<std::size_t>(end.first - left.begin());
 }
 
 std::vector<std::pair<std::string, std::string>> ReadRows(Session& session, const std::string& table,
@@ -99,6 +97,16 @@ std::size_t PrefixTable::LowerBound(std::string_view text) const {
     return low;
 }
 
+std::size_t PrefixTable::CommonLength(std::size_t place, std::string_view number) const {
+    const std::uint64_t difference = heads_[place] ^ Head(number);
+    if (difference != 0) {
+        return std::min(static_cast<std::size_t>(std::countl_zero(difference)) / kBitsPerByte, number.size());
+    }
+    const std::string_view code = Code(place);
+    const auto end = std::mismatch(code.begin(), code.end(), number.begin(), number.end());
+    return static_cast<std::size_t>(end.first - code.begin());
+}
+
 PrefixTable::Match PrefixTable::Find(std::string_view prefix) const {
     const auto from = order_.begin() + static_cast<std::ptrdiff_t>(LowerBound(prefix));
     const auto to = std::partition_point(from, order_.end(),
@@ -117,7 +125,7 @@ std::optional<std::size_t> PrefixTable::Narrow(std::string_view number, PrefixLe
     const std::size_t from = place < 2 ? 0 : place - 2;
     const std::size_t to = std::min(place + 2, order_.size());
     for (std::size_t i = from; i < to; ++i) {
-        const std::size_t common = CommonLength(Code(i), number);
+        const std::size_t common = CommonLength(i, number);
         second = std::max(second, std::min(best, common));
         if (common > best) {
             best = common;

@@ -46,7 +46,7 @@ public:
 
     /// The shortest prefix of `number` within `lengths` (in bytes) that at most one row
     /// begins with decides: that row's place, or nothing when it has no row or when no
-    /// prefix decides. One binary search, whatever the lengths.
+    /// prefix decides. One binary search, whatever the lengths. `number` holds no byte 0.
     std::optional<std::size_t> Narrow(std::string_view number, PrefixLengths lengths) const;
 
     std::string_view Value(std::size_t row) const { return rows_[row].second; }
@@ -58,6 +58,7 @@ public:
 
 private:
     std::size_t LowerBound(std::string_view text) const;
+    std::size_t CommonLength(std::size_t place, std::string_view number) const;
     std::string_view Code(std::size_t place) const { return rows_[order_[place]].first; }
 
     std::vector<std::pair<std::string, std::string>> rows_;
