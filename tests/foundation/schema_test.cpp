@@ -1,0 +1,51 @@
+#include "foundation/schema.h"
+
+#include <gtest/gtest.h>
+
+#include <cctype>
+#include <map>
+#include <regex>
+#include <set>
+
+#include "support/temp_folder.h"
+
+namespace tallix {
+namespace {
+
+using Tables = std::map<std::string, std::set<std::string>>;
+
+/// Tables and their columns as a schema file names them, in lower case.
+Tables TablesOf(const std::string& file) {
+    std::string text = test::ReadBytes(std::filesystem::path(TALLIX_SOURCE_DIR "/data/schema") / file);
+    for (char& character : text)
+        character = static_cast<char>(std::tolower(static_cast<unsigned char>(character)));
+    static const std::regex kTable("create table (?:if not exists )?(\\w+) \\(");
+    static const std::regex kColumn("\n  [\\[\"`]?(\\w+)");
+    Tables tables;
+    for (const std::string& statement : SchemaStatements(text)) {
+        std::smatch table;
+        if (!std::regex_search(statement, table, kTable)) continue;
+        for (std::sregex_iterator column(statement.begin(), statement.end(), kColumn), end; column != end;
+             ++column) {
+            tables[table[1]].insert((*column)[1]);
+        }
+    }
+    return tables;
+}
+
+TEST(Schema, IsTheSameOnEveryServer) {
+    const Tables tables = TablesOf("sqlite.sql");
+    EXPECT_EQ(tables.size(), 19u);
+    EXPECT_EQ(tables.at("tblphonedata").size(), 16u);
+    EXPECT_TRUE(tables.at("tblsite").contains("3ptdatabase"));
+    for (const char* file : {"mysql.sql", "postgres.sql", "sqlserver.sql"})
+        EXPECT_EQ(TablesOf(file), tables) << file;
+}
+
+TEST(Schema, SplitsItsFilesAtBlankLines) {
+    const std::vector<std::string> statements{"CREATE a (\n  b;\n);\n", "c;\n"};
+    EXPECT_EQ(SchemaStatements("-- why\n\nCREATE a (\n-- what\n  b;\n);\n \n\nc;"), statements);
+}
+
+}  // namespace
+}  // namespace tallix
