@@ -32,7 +32,7 @@ fs::path WithoutSlashBehind(const fs::path& folder) {
 }
 
 fs::path HomeFolder() {
-    const fs::path home = FromEnvironment("HOME");
+    fs::path home = FromEnvironment("HOME");
     if (!home.empty()) return home;
     const passwd* account = getpwuid(geteuid());
     return account == nullptr ? fs::path("/") : fs::path(account->pw_dir);
@@ -52,7 +52,7 @@ void RequireOwnFolder(const fs::path& folder) {
 }
 
 fs::path PrivateTempFolder() {
-    const fs::path folder = fs::temp_directory_path() / ("tallix-" + std::to_string(geteuid()));
+    fs::path folder = fs::temp_directory_path() / ("tallix-" + std::to_string(geteuid()));
     if (mkdir(folder.c_str(), kPrivate) != 0 && errno != EEXIST) {
         throw std::system_error(errno, std::generic_category(), "the folder " + folder.string());
     }
@@ -84,7 +84,7 @@ fs::path MachineSettingsFolder() {
 }
 
 fs::path UserSettingsFolder() {
-    const fs::path registry = FromEnvironment("TALLIX_REGISTRY");
+    fs::path registry = FromEnvironment("TALLIX_REGISTRY");
     if (!registry.empty()) return registry;
     const fs::path config = FromEnvironment("XDG_CONFIG_HOME");
     return (config.is_absolute() ? config : HomeFolder() / ".config") / "tallix";

@@ -54,8 +54,8 @@ TEST(IniFile, CutsLongValuesByCharacters) {
     for (int count = 0; count < 300; ++count) pounds += "£";
     const test::TempFolder folder;
     folder.Write("a.ini", "[S]\nlong=" + pounds);
-    EXPECT_EQ(ReadIniKey("S", "long", folder.Path() / "a.ini"), pounds.substr(0, 254 * 2));
-    EXPECT_EQ(IniFile(folder.Path() / "a.ini").Read("S", "long"), pounds.substr(0, 254 * 2));
+    EXPECT_EQ(ReadIniKey("S", "long", folder.Path() / "a.ini"), pounds.substr(0, kLongestIniValue * 2));
+    EXPECT_EQ(IniFile(folder.Path() / "a.ini").Read("S", "long"), pounds.substr(0, kLongestIniValue * 2));
     EXPECT_EQ(ReadIniKey("S", "absent", folder.Path() / "a.ini"), "");
     EXPECT_EQ(ReadIniKey("S", "long", folder.Path() / "absent.ini"), "");
     EXPECT_EQ(ReadIniKey("S", "long", folder.Path()), "") << "a folder has no keys";

@@ -146,6 +146,7 @@ TEST_F(SettingsStoreTest, WritersAtTheSameTimeLoseNothing) {
     constexpr int kWriters = 3;
     constexpr int kValues = 40;
     std::vector<pid_t> writers;
+    writers.reserve(kWriters);
     for (int writer = 0; writer < kWriters; ++writer) {
         writers.push_back(Fork([&] {
             for (int value = 0; value < kValues; ++value) {

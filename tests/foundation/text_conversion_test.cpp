@@ -66,8 +66,8 @@ TEST(TextConversion, ReadsWholeNumbersHalfToEven) {
         {"0." + std::string(400, '0') + "1", 0},
         {std::string(400, '0') + "1", 1},
     };
-    for (const auto& [text, value] : cases) {
-        EXPECT_EQ(OrNothing([&] { return ToInteger32(text); }), value) << text;
+    for (const auto& each : cases) {
+        EXPECT_EQ(OrNothing([&] { return ToInteger32(each.text); }), each.value) << each.text;
     }
 }
 
