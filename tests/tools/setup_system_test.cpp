@@ -4,10 +4,8 @@
 #include <algorithm>
 
 #include "demo_company.h"
-#include "foundation/ado/recordset.h"
 #include "foundation/encryption_tools.h"
-#include "support/run_program.h"
-#include "support/temp_folder.h"
+#include "tools/setup_installation.h"
 
 namespace tallix {
 namespace {
@@ -15,43 +13,17 @@ namespace {
 using test::ProgramRun;
 using testing::HasSubstr;
 
-// A fresh installation: the application folder with its data, and no settings.
-class SetupSystem : public testing::Test {
+class SetupSystem : public testing::Test, protected test::SetupInstallation {
 protected:
-    SetupSystem() {
-        for (const char* folder : {"schema", "reference"}) {
-            std::filesystem::create_directory_symlink(
-                std::filesystem::path(TALLIX_SOURCE_DIR) / "data" / folder, Home() / folder);
-        }
-    }
-
-    const std::filesystem::path& Home() const { return folder_.Path(); }
-    std::filesystem::path Hive() const { return Home() / "settings" / "HKLM.reg"; }
-
-    ProgramRun Run(const std::vector<std::string>& arguments,
-                   const std::string& registry = "settings") const {
-        return test::RunProgram(TALLIX_SETUP_PROGRAM, arguments,
-                                {{"TALLIX_HOME", Home()}, {"TALLIX_REGISTRY", Home() / registry}});
-    }
-
-    /// All rows of a statement, a line each.
+    /// All rows of a statement on a database file of the application folder.
     std::string Rows(const std::string& statement, const std::string& file = "tallix.db") const {
         ado::Connection connection;
         connection.ConnectionString =
             "DRIVER={MySQL ODBC 5.1 Driver};SERVER=sqlite:" + (Home() / file).string() +
             ";DATABASE=TALLIX;UID=Tallix;PWD=norvadat;OPTION=165932";
         connection.Open();
-        ado::Recordset set;
-        set.Open(statement, connection);
-        std::string rows;
-        for (std::int64_t i = 1; i <= set.RecordCount(); ++i, set.MoveNext()) {
-            for (const std::string& name : set.ColumnNames()) rows += std::string(set.Text(name)) + '|';
-            rows += '\n';
-        }
-        return rows;
+        return test::AllRows(connection, statement);
     }
-
-    test::TempFolder folder_;
 };
 
 // Failed, and told why in one line.
@@ -63,7 +35,7 @@ void ExpectFailure(const ProgramRun& run, const std::string& why) {
 }
 
 TEST_F(SetupSystem, LaysDownAllThatTheProgramNeeds) {
-    const ProgramRun run = Run({"--admin-password", "Größe 9", "--demo", "500", "--seed", "6"});
+    const ProgramRun run = RunSetup({"--admin-password", "Größe 9", "--demo", "500", "--seed", "6"});
     ASSERT_EQ(run.status, 0) << run.err;
     EXPECT_EQ(run.err, "");
     const std::string hive = test::ReadBytes(Hive());
@@ -87,7 +59,7 @@ TEST_F(SetupSystem, LaysDownAllThatTheProgramNeeds) {
 
 // Reports follow the map to the key of the name.
 TEST_F(SetupSystem, MapsGroupsByTheKeysOfTheirNames) {
-    ASSERT_EQ(Run({"--demo", "0"}).status, 0);
+    ASSERT_EQ(RunSetup({"--demo", "0"}).status, 0);
     for (const DemoGroup& group : DemoGroups()) {
         std::string members;
         for (const int member : group.members) members += DemoExtensions()[member].number + "|\n";
@@ -101,13 +73,13 @@ TEST_F(SetupSystem, MapsGroupsByTheKeysOfTheirNames) {
 
 // The most called of the address book are among the numbers dialled.
 TEST_F(SetupSystem, NamesNumbersThatAreCalled) {
-    ASSERT_EQ(Run({"--demo", "3000"}).status, 0);
+    ASSERT_EQ(RunSetup({"--demo", "3000"}).status, 0);
     EXPECT_NE(Rows("SELECT COUNT(*) FROM tblphonedata WHERE DestNum IN (SELECT Number FROM tbladdressbook)"),
               "0|\n");
 }
 
 TEST_F(SetupSystem, ChangesNothingTheSecondTime) {
-    const ProgramRun first = Run({"--demo", "40"});
+    const ProgramRun first = RunSetup({"--demo", "40"});
     ASSERT_EQ(first.status, 0) << first.err;
     EXPECT_THAT(first.out, HasSubstr("Administrator: made with all rights and the password "));
     const auto everything = [&] {
@@ -121,7 +93,7 @@ TEST_F(SetupSystem, ChangesNothingTheSecondTime) {
     };
     const std::string before = everything();
     const ProgramRun second =
-        Run({"--demo", "90", "--seed", "3", "--admin-password", "other", "--user", "other"});
+        RunSetup({"--demo", "90", "--seed", "3", "--admin-password", "other", "--user", "other"});
     EXPECT_EQ(second.status, 0) << second.err;
     EXPECT_EQ(everything(), before);
     EXPECT_THAT(second.out, HasSubstr("Demonstration: 40 calls there already, nothing added\n"));
@@ -132,15 +104,15 @@ TEST_F(SetupSystem, ChangesNothingTheSecondTime) {
 }
 
 TEST_F(SetupSystem, KeepsToTheStoredAddressAndToWhatTablesHold) {
-    ASSERT_EQ(Run({"--address", "sqlite:" + (Home() / "other.db").string()}).status, 0);
-    const ProgramRun run = Run({"--demo", "10"});
+    ASSERT_EQ(RunSetup({"--address", "sqlite:" + (Home() / "other.db").string()}).status, 0);
+    const ProgramRun run = RunSetup({"--demo", "10"});
     EXPECT_EQ(run.status, 0) << run.err;
     EXPECT_FALSE(std::filesystem::exists(Home() / "tallix.db"));
     EXPECT_EQ(Rows("SELECT COUNT(*) FROM tblphonedata", "other.db"), "10|\n");
 }
 
 TEST_F(SetupSystem, StoresNoAddressThatItDidNotReach) {
-    folder_.Write("text.db", "This file is a letter and no database at all.\n");
+    Folder().Write("text.db", "This file is a letter and no database at all.\n");
     const struct {
         std::vector<std::string> arguments;
         std::string why;
@@ -155,26 +127,26 @@ TEST_F(SetupSystem, StoresNoAddressThatItDidNotReach) {
     };
     for (const auto& [arguments, why] : cases) {
         SCOPED_TRACE(arguments.back());
-        ExpectFailure(Run(arguments), why);
+        ExpectFailure(RunSetup(arguments), why);
         EXPECT_FALSE(std::filesystem::exists(Hive()));
     }
 }
 
 TEST_F(SetupSystem, TellsWhatIsMissingOrCannotBeWritten) {
-    folder_.Write("file", "");
-    ExpectFailure(Run({}, "file"), "setting DBType cannot be written");
+    Folder().Write("file", "");
+    ExpectFailure(RunSetup({}, "file"), "setting DBType cannot be written");
     EXPECT_FALSE(std::filesystem::exists(Home() / "tallix.db"));
-    folder_.Write("reference.broken/areaproviders.csv", "Code,Area\n0113;Leeds\n");
+    Folder().Write("reference.broken/areaproviders.csv", "Code,Area\n0113;Leeds\n");
     std::filesystem::remove(Home() / "reference");
-    ExpectFailure(Run({}), "reference data cannot be read: ");
+    ExpectFailure(RunSetup({}), "reference data cannot be read: ");
     std::filesystem::rename(Home() / "reference.broken", Home() / "reference");
-    ExpectFailure(Run({}), "no code and name: 0113;Leeds");
+    ExpectFailure(RunSetup({}), "no code and name: 0113;Leeds");
     std::filesystem::remove(Home() / "schema");
-    ExpectFailure(Run({}), "schema");
+    ExpectFailure(RunSetup({}), "schema");
 }
 
 TEST_F(SetupSystem, ShowsItsOptionsAndTouchesNothing) {
-    const ProgramRun run = Run({"--help"});
+    const ProgramRun run = RunSetup({"--help"});
     EXPECT_EQ(run.status, 0);
     EXPECT_THAT(run.out, HasSubstr("[--admin-password TEXT] [--demo CALLS] [--seed N]"));
     EXPECT_FALSE(std::filesystem::exists(Home() / "tallix.db"));

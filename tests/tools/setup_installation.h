@@ -1,0 +1,50 @@
+// A fresh installation for Tallix_Setup to work on: the application folder with its
+// data, and no settings.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "foundation/ado/recordset.h"
+#include "support/run_program.h"
+#include "support/temp_folder.h"
+
+namespace tallix::test {
+
+class SetupInstallation {
+public:
+    SetupInstallation() {
+        for (const char* data : {"schema", "reference"}) {
+            std::filesystem::create_directory_symlink(
+                std::filesystem::path(TALLIX_SOURCE_DIR) / "data" / data, Home() / data);
+        }
+    }
+
+    const TempFolder& Folder() const { return folder_; }
+    const std::filesystem::path& Home() const { return folder_.Path(); }
+    std::filesystem::path Hive() const { return Home() / "settings" / "HKLM.reg"; }
+
+    /// Runs the program. `registry` is the folder of the settings, in the application's.
+    ProgramRun RunSetup(const std::vector<std::string>& arguments,
+                        const std::string& registry = "settings") const {
+        return RunProgram(TALLIX_SETUP_PROGRAM, arguments,
+                          {{"TALLIX_HOME", Home()}, {"TALLIX_REGISTRY", Home() / registry}});
+    }
+
+private:
+    TempFolder folder_;
+};
+
+/// All rows of a statement, a line each, "|" behind every value.
+inline std::string AllRows(ado::Connection& connection, const std::string& statement) {
+    ado::Recordset set;
+    set.Open(statement, connection);
+    std::string rows;
+    for (std::int64_t i = 1; i <= set.RecordCount(); ++i, set.MoveNext()) {
+        for (const std::string& name : set.ColumnNames()) rows += std::string(set.Text(name)) + '|';
+        rows += '\n';
+    }
+    return rows;
+}
+
+}  // namespace tallix::test
