@@ -45,7 +45,7 @@ void PrepareUnattended() {
     const char* platforms = "offscreen";
     if (!Environment("DISPLAY").empty()) platforms = "xcb;offscreen";
     if (!Environment("WAYLAND_DISPLAY").empty()) platforms = "wayland;xcb;offscreen";
-    setenv("QT_QPA_PLATFORM", platforms, 0);
+    if (Environment("QT_QPA_PLATFORM").empty()) setenv("QT_QPA_PLATFORM", platforms, 1);
     qInstallMessageHandler(KeepSevereMessages);
 }
 

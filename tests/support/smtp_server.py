@@ -13,6 +13,7 @@ import email
 import email.policy
 import logging
 import pathlib
+import random
 import sys
 import warnings
 
@@ -60,11 +61,20 @@ def account_settings(user, password):
     return {"authenticator": check, "auth_required": True, "auth_require_tls": False}
 
 
+async def listen(loop, protocol):
+    # The setting that holds the port of the mail server is a 16-bit number with a sign.
+    while True:
+        try:
+            return await loop.create_server(protocol, "127.0.0.1", random.randint(20000, 32000))
+        except OSError:
+            pass
+
+
 async def serve(options):
     loop = asyncio.get_running_loop()
     settings = account_settings(options.user, options.password)
     keeper = Keeper(options.folder)
-    server = await loop.create_server(lambda: SMTP(keeper, loop=loop, **settings), "127.0.0.1", 0)
+    server = await listen(loop, lambda: SMTP(keeper, loop=loop, **settings))
     print(server.sockets[0].getsockname()[1], flush=True)
     await loop.run_in_executor(None, sys.stdin.read)
     server.close()

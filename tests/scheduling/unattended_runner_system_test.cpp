@@ -1,0 +1,174 @@
+// Scheduled reports and the dump as the operating system's scheduler runs them: the
+// built programs from outside, with no display.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <ctime>
+#include <fstream>
+
+#include "foundation/prompts.h"
+#include "foundation/settings_store.h"
+#include "support/run_program.h"
+#include "support/smtp_server.h"
+#include "support/temp_folder.h"
+#include "support/test_application.h"
+
+namespace tallix {
+namespace {
+
+using test::ReadBytes;
+using test::ReadLines;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::Pair;
+using ::testing::SizeIs;
+using ::testing::StartsWith;
+
+const std::filesystem::path kData = std::filesystem::path(TALLIX_SOURCE_DIR) / "data";
+
+// An application folder with the shipped reports and a company of 500 calls.
+class UnattendedRunTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        for (const char* folder : {"Reports/Scheduled", "Company Docs", "out", "temp"}) {
+            std::filesystem::create_directories(Home() / folder);
+        }
+        std::filesystem::create_directory_symlink(kData / "Reports" / "Standard",
+                                                  Home() / "Reports" / "Standard");
+        std::filesystem::create_directory_symlink(kData / "schema", Home() / "schema");
+        std::filesystem::create_directory_symlink(kData / "reference", Home() / "reference");
+        const test::ProgramRun setup =
+            test::RunProgram(TALLIX_SETUP_PROGRAM,
+                             {"--demo", "500", "--seed", "3", "--admin-password", "secret"}, Environment());
+        ASSERT_EQ(setup.status, 0) << setup.err;
+    }
+
+    std::filesystem::path Home() const { return folder_.Path(); }
+
+    std::vector<std::pair<std::string, std::string>> Environment() const {
+        return {{"TALLIX_HOME", Home()},   {"TALLIX_REGISTRY", Home() / "settings"},
+                {"Temp", Home() / "temp"}, {"TALLIX_STEP_MS", "5"},
+                {"QT_QPA_PLATFORM", ""},   {"DISPLAY", ""}};
+    }
+
+    test::ProgramRun Run(const std::string& commandLine) const {
+        return test::RunProgram(TALLIX_REPORTS_PROGRAM, {commandLine}, Environment());
+    }
+
+    // Writes a schedule of a report and runs it. A run that ends well says nothing.
+    void RunSchedule(const std::string& report, const std::string& keys) {
+        const std::filesystem::path file =
+            folder_.Write("Reports/Scheduled/My Task.SSR",
+                          ";Tallix - Scheduled Report\r\n;\r\n[General]\r\nReport=" + report +
+                              "\r\nUser=Administrator\r\n" + keys);
+        const test::ProgramRun run = Run("\"" + file.string() + "\"");
+        EXPECT_EQ(run.status, 0);
+        EXPECT_THAT(run.err, IsEmpty());
+        EXPECT_THAT(run.out, IsEmpty());
+    }
+
+    std::string ToFolder() const {
+        return "Output=File\r\nOutputLocation=" + (Home() / "out").string() + "\\\r\n";
+    }
+
+    std::filesystem::path Today() const {
+        const std::time_t now = std::time(nullptr);
+        char name[32];
+        std::strftime(name, sizeof name, "%d_%m_%Y.csv", std::localtime(&now));
+        return name;
+    }
+
+    void Set(const std::string& name, const std::string& value) {
+        UnattendedPrompts prompts;
+        SettingsStore(Home() / "settings", Home() / "settings", prompts).Write(name, value);
+    }
+
+    test::TempFolder folder_;
+};
+
+TEST_F(UnattendedRunTest, DeliversOneFileADayToAFolder) {
+    RunSchedule("Standard\\STD_All Calls.SRT", ToFolder());
+    const std::filesystem::path delivered = Home() / "out" / Today();
+    const std::vector<std::string> lines = ReadLines(delivered);
+    ASSERT_THAT(lines, SizeIs(5 + 500 + 2));
+    EXPECT_EQ(lines[0], "Tallix Reports - All Calls");
+    EXPECT_THAT(lines[1], StartsWith("Generated On: "));
+    EXPECT_THAT(lines[4], StartsWith("Date:,Time:,Extension:,"));
+    EXPECT_THAT(lines.back(), StartsWith("Total Number Of Records: 500"));
+    EXPECT_FALSE(std::filesystem::exists(Home() / "temp" / "rpt.tmp"));
+
+    const std::string first = ReadBytes(delivered);
+    RunSchedule("Standard\\STD_Outgoing Calls.SRT", ToFolder());
+    EXPECT_EQ(ReadBytes(delivered), first) << "the second run of a day is lost";
+    EXPECT_TRUE(std::filesystem::exists(Home() / "temp" / "rpt.tmp")) << "and stays behind";
+}
+
+TEST_F(UnattendedRunTest, TakesItsFiltersFromTheSchedule) {
+    RunSchedule("Standard\\STD_All Calls.SRT",
+                ToFolder() + "TimeS=09:00\r\nTimeF=12:00\r\nDate=01/01/1999\r\n");
+    const std::vector<std::string> lines = ReadLines(Home() / "out" / Today());
+    ASSERT_GT(lines.size(), 50u);
+    for (std::size_t i = 5; i + 2 < lines.size(); ++i) {
+        const std::string time = lines[i].substr(11, 8);
+        EXPECT_TRUE(time > "09:00:00" && time < "12:00:00") << lines[i];
+    }
+}
+
+TEST_F(UnattendedRunTest, MailsTheReportAndLeavesNothingBehind) {
+    const test::SmtpServer server(test::SmtpServer::Account{"reports", "pass word"});
+    for (const auto& [name, value] : {std::pair<std::string, std::string>{"SMTPServer", "127.0.0.1"},
+                                      {"SMTPPort", std::to_string(server.Port())},
+                                      {"SMTPUser", "reports"},
+                                      {"SMTPPass", "pass word"},
+                                      {"SMTPEmail", "tallix@example.test"}}) {
+        Set(name, value);
+    }
+    RunSchedule("Standard\\STD_Internal Calls.SRT", "Output=Email\r\n");
+    const auto mails = server.Mails();
+    ASSERT_THAT(mails, SizeIs(1));
+    EXPECT_EQ(mails[0].from, "tallix@example.test");
+    EXPECT_THAT(mails[0].headers.at("Subject"), StartsWith("Tallix Scheduled Report - "));
+    EXPECT_THAT(mails[0].body, HasSubstr("Attached is a CSV file containing the report data."));
+    EXPECT_THAT(mails[0].attachments,
+                ElementsAre(Pair(Today().string(), StartsWith("Tallix Reports - Internal Calls\r\n"))));
+    EXPECT_FALSE(std::filesystem::exists(Home() / Today()));
+
+    Set("SMTPAuth", "0");
+    RunSchedule("Standard\\STD_Internal Calls.SRT", "Output=Email\r\n");
+    EXPECT_THAT(server.Mails(), SizeIs(1)) << "the server takes nothing from strangers";
+}
+
+TEST_F(UnattendedRunTest, SurvivesWhatIsMissing) {
+    RunSchedule("Standard\\STD_No Such Report.SRT", ToFolder());
+    EXPECT_THAT(ReadLines(Home() / "out" / Today()), SizeIs(5 + 500 + 2)) << "all calls, no columns";
+    RunSchedule("", "Output=File\r\nOutputLocation=/no/such/folder\\\r\n");
+
+    std::filesystem::remove(Home() / "out" / Today());
+    Set("DBIP", "127.0.0.1:1");
+    RunSchedule("Standard\\STD_All Calls.SRT", ToFolder());
+    EXPECT_THAT(ReadLines(Home() / "out" / Today()), SizeIs(5 + 2)) << "the head and a zero total";
+
+    for (const char* nothing : {"backup", "/no/such/file.ssr", "\"/no/such/file.SSR\" "}) {
+        const test::ProgramRun run = Run(nothing);
+        EXPECT_EQ(run.status, 0) << nothing;
+        EXPECT_THAT(run.err, IsEmpty()) << nothing;
+    }
+}
+
+TEST_F(UnattendedRunTest, DumpsSixTables) {
+    const test::ProgramRun run = Run("Backup");
+    EXPECT_EQ(run.status, 0) << run.err;
+    const std::vector<std::string> lines = ReadLines(Home() / "Automated_Backup.sbk");
+    EXPECT_GT(lines.size(), 500u);
+    EXPECT_THAT(lines.front(), StartsWith("INSERT INTO tblphonedata("));
+    EXPECT_THAT(lines.back(), StartsWith("INSERT INTO tblusers("));
+
+    Set("DBIP", "sqlite:/no/such/folder/tallix.db");
+    const test::ProgramRun failed = Run("Backup");
+    EXPECT_EQ(failed.status, 1);
+    EXPECT_THAT(failed.err, HasSubstr("/no/such/folder/tallix.db"));
+}
+
+}  // namespace
+}  // namespace tallix
