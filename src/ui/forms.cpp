@@ -8,7 +8,10 @@
 
 namespace tallix::ui {
 
-Forms::Forms() = default;
+Forms::Forms() {
+    afterAction_.setSingleShot(true);
+    connect(&afterAction_, &QTimer::timeout, this, &Forms::EndWhenEmpty);
+}
 
 Forms::~Forms() = default;
 
@@ -48,8 +51,7 @@ void Forms::Unload(const QString& name) {
     const auto place = loaded_.begin() + (PositionOf(name) - loaded_.cbegin());
     place->release()->deleteLater();
     loaded_.erase(place);
-    QMetaObject::invokeMethod(
-        this, [this] { EndWhenEmpty(); }, Qt::QueuedConnection);
+    afterAction_.start();
 }
 
 // Asked after the action that unloaded a form is over, so that one action may unload

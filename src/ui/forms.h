@@ -10,6 +10,7 @@
 
 #include <QObject>
 #include <QString>
+#include <QTimer>
 #include <functional>
 #include <map>
 #include <memory>
@@ -49,6 +50,7 @@ private:
 
     std::map<QString, Factory> factories_;
     std::vector<std::unique_ptr<Form>> loaded_;
+    QTimer afterAction_;  // of no interval: fires when control is back in the event loop
 };
 
 }  // namespace tallix::ui
