@@ -110,7 +110,7 @@ std::int64_t PresetPage(World& world) {
 }
 
 std::int64_t Costs(World& world) {
-    ComputeCosts(world.application);
+    ComputeCosts(world.application.session, world.application.settings);
     return 0;
 }
 

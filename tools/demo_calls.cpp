@@ -19,6 +19,10 @@ constexpr std::array<std::uint32_t, 24> kHourWeightsOfDayOff = {2,  2,  2,  2,  
                                                                 20, 18, 18, 16, 14, 12, 10, 8, 6,  5,  3,  2};
 constexpr std::array<std::uint32_t, 3> kSiteWeights = {50, 29, 21};
 
+// `Internal` is "0" for calls that leave the company, which alone cost something.
+constexpr const char* kWithinCompany = "1";
+constexpr const char* kFromOutside = "2";
+
 enum Direction { kOutgoing, kIncoming, kInternal };
 constexpr std::array<std::uint32_t, 3> kDirectionWeights = {55, 35, 10};
 
@@ -166,6 +170,7 @@ void CallGenerator::FillOutgoing(Call& call, std::size_t site) {
 }
 
 void CallGenerator::FillIncoming(Call& call, std::size_t site) {
+    call.internal = kFromOutside;
     const bool forSwitchboard = random_.Chance(kForSwitchboard);
     call.extension = extensions_[forSwitchboard ? firstOfSite_[site] : DrawExtension(site, 1)].number;
     call.origNum = numbers_.Caller(site, random_);
@@ -180,7 +185,7 @@ void CallGenerator::FillIncoming(Call& call, std::size_t site) {
 
 void CallGenerator::FillInternal(Call& call, std::size_t site) {
     const std::size_t caller = DrawExtension(site, 1);
-    call.internal = "1";
+    call.internal = kWithinCompany;
     call.extension = extensions_[caller].number;
     call.origNum = call.extension;
     if (random_.Chance(kToVoicemail)) {

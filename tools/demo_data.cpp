@@ -158,12 +158,12 @@ void LayOutByKey(ado::Connection& connection) {
 
 }  // namespace
 
-void AddDemonstration(ado::Connection& connection, std::uint64_t calls, std::uint64_t seed,
+bool AddDemonstration(ado::Connection& connection, std::uint64_t calls, std::uint64_t seed,
                       std::ostream& out) {
     const std::int64_t there = CountRows(connection, "tblphonedata");
     if (there > 0) {
         out << fmt::format("Demonstration: {} calls there already, nothing added\n", there);
-        return;
+        return false;
     }
     CallGenerator generator(calls, seed);
     Transaction transaction(connection);
@@ -176,6 +176,7 @@ void AddDemonstration(ado::Connection& connection, std::uint64_t calls, std::uin
     LayOutByKey(connection);
     transaction.Commit();
     out << fmt::format("tblphonedata: {} calls added\n", calls);
+    return true;
 }
 
 }  // namespace tallix

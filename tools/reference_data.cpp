@@ -17,29 +17,26 @@ namespace {
 struct ReferenceTable {
     std::string table;
     std::string file;
-    std::vector<std::string> nameColumns;  ///< all hold the name that stands behind the code
+    std::string nameColumn;
 };
 
-// Reports ask the table of areas for its provider, which is the area itself.
 const std::vector<ReferenceTable>& ReferenceTables() {
     static const std::vector<ReferenceTable> tables = {
-        {"tblareaproviders", "areaproviders.csv", {"Area"}},
-        {"tblcommproviders", "commproviders.csv", {"Provider"}},
-        {"tblintcodes", "intcodes.csv", {"Country"}},
+        {"tblareaproviders", "areaproviders.csv", "Area"},
+        {"tblcommproviders", "commproviders.csv", "Provider"},
+        {"tblintcodes", "intcodes.csv", "Country"},
     };
     return tables;
 }
 
 // A line is CODE,NAME with no quoting: further commas belong to the name.
-std::vector<std::string> ReadRow(std::string line, std::size_t nameColumns, const std::string& file) {
+std::vector<std::string> ReadRow(std::string line, const std::string& file) {
     if (line.ends_with('\r')) line.pop_back();
     const std::size_t comma = line.find(',');
     if (comma == 0 || comma == std::string::npos) {
         throw SetupError(fmt::format("{} has a line that is no code and name: {}", file, line));
     }
-    std::vector<std::string> row{line.substr(0, comma)};
-    row.insert(row.end(), nameColumns, DecodeLine(std::string_view(line).substr(comma + 1)));
-    return row;
+    return {line.substr(0, comma), DecodeLine(std::string_view(line).substr(comma + 1))};
 }
 
 TableRows ReadTable(const ReferenceTable& reference, const std::filesystem::path& folder) {
@@ -47,10 +44,9 @@ TableRows ReadTable(const ReferenceTable& reference, const std::filesystem::path
     std::ifstream stream(path);
     std::string line;
     if (!std::getline(stream, line)) throw SetupError(fmt::format("reference data cannot be read: {}", path));
-    TableRows rows{reference.table, {"Code"}, {}};
-    rows.columns.insert(rows.columns.end(), reference.nameColumns.begin(), reference.nameColumns.end());
+    TableRows rows{reference.table, {"Code", reference.nameColumn}, {}};
     while (std::getline(stream, line)) {
-        rows.rows.push_back(ReadRow(line, reference.nameColumns.size(), path));
+        rows.rows.push_back(ReadRow(line, path));
     }
     return rows;
 }

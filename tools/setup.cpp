@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "administrator_account.h"
+#include "costing/cost_computation.h"
 #include "demo_data.h"
 #include "foundation/ado/connection_text.h"
 #include "foundation/database.h"
@@ -79,14 +80,22 @@ void LayDownTables(ado::Connection& connection, const std::filesystem::path& fol
     if (made.empty()) out << "Tables: all there already\n";
 }
 
+// The costs that reports show are computed ones.
+void AddCompany(const SetupOptions& options, Session& session, const SettingsStore& settings,
+                std::ostream& out) {
+    if (!AddDemonstration(OpenConnection(session), *options.demoCalls, options.seed, out)) return;
+    out << fmt::format("tblcostcount: {} calls priced\n", ComputeCosts(session, settings));
+}
+
 // What the database holds, once it was reached and is remembered.
-void FillDatabase(const SetupOptions& options, Session& session, std::ostream& out) {
+void FillDatabase(const SetupOptions& options, Session& session, const SettingsStore& settings,
+                  std::ostream& out) {
     const std::filesystem::path folder = ApplicationFolder();
     ado::Connection& connection = OpenConnection(session);
     LayDownTables(connection, folder / "schema", out);
     FillReferenceData(connection, folder / "reference", out);
     EnsureAdministrator(session, options.adminPassword, out);
-    if (options.demoCalls) AddDemonstration(connection, *options.demoCalls, options.seed, out);
+    if (options.demoCalls) AddCompany(options, session, settings, out);
 }
 
 }  // namespace
@@ -100,7 +109,7 @@ void SetUp(const SetupOptions& options, std::ostream& out) {
     Reach(session, out);
     SeedSettings(choice, settings, out);
     file.Keep();
-    FillDatabase(options, session, out);
+    FillDatabase(options, session, settings, out);
     CloseDatabase(session);
 }
 

@@ -75,7 +75,9 @@ CREATE TABLE IF NOT EXISTS tblgroupnames (
   Name VARCHAR(255)
 ) CHARACTER SET utf8mb4 COLLATE utf8mb4_nopad_bin;
 
-CREATE INDEX IF NOT EXISTS tblgroupnames_Name ON tblgroupnames (Name);
+-- An index over whole names would hold the whole table, and a list of all groups would
+-- then come by name and not in the order of their keys.
+CREATE INDEX IF NOT EXISTS tblgroupnames_Name ON tblgroupnames (Name(64));
 
 -- Members of extension groups.
 CREATE TABLE IF NOT EXISTS tblgroupmap (

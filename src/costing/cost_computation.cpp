@@ -35,13 +35,12 @@ std::int64_t PriceCalls(ado::Recordset& calls, CallPricing& pricing, ado::RowBat
 
 }  // namespace
 
-std::int64_t ComputeCosts(Application& application) {
-    Session& session = application.session;
+std::int64_t ComputeCosts(Session& session, const SettingsStore& settings) {
     std::int64_t priced = 0;
     Attempt([&] { OpenDatabase(session); });
     Attempt([&] { OpenConnection(session).Execute("DELETE FROM tblcostcount"); });
     Tariff tariff(session);
-    CallPricing pricing(tariff, application.settings.Read("Billing"));
+    CallPricing pricing(tariff, settings.Read("Billing"));
     Attempt([&] {
         ado::Recordset calls;
         calls.Open("Select * From tblphonedata WHERE Internal = " + Quoted(session, "0"),

@@ -3,7 +3,8 @@
 
 #include <cstdint>
 
-#include "foundation/application.h"
+#include "foundation/session.h"
+#include "foundation/settings_store.h"
 
 namespace tallix {
 
@@ -11,6 +12,6 @@ namespace tallix {
 /// and a duration. Returns the number of calls priced. Failures of the database are
 /// passed over: what was computed until then stays, and rows that the server refuses
 /// cost only themselves. Opens the session's connection and closes it again.
-std::int64_t ComputeCosts(Application& application);
+std::int64_t ComputeCosts(Session& session, const SettingsStore& settings);
 
 }  // namespace tallix

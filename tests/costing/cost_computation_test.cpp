@@ -34,13 +34,13 @@ TEST(CostComputation, EveryOutsideCallWithADurationGetsOneRowAndOldOnesGo) {
     test.InsertCall({{"ID", "3"}, {"Internal", "1"}});
     test.InsertCall({{"ID", "4"}, {"Duration", "00:01:00"}, {"DestNum", "O'Neill \"x\""}});
     test.Execute("INSERT INTO tblphonedata(ID, Internal, Duration) VALUES (5, '0', '00:10:00')");
-    EXPECT_EQ(ComputeCosts(test.application), 3);
+    EXPECT_EQ(ComputeCosts(test.application.session, test.settings), 3);
     EXPECT_EQ(test.application.session.DBConn, nullptr);
     EXPECT_THAT(StoredCosts(test.application.session),
                 ElementsAre(Pair("1", "0.15"), Pair("4", "0.02"), Pair("5", "0.20")));
 
     test.settings.Write("Billing", "S");
-    ComputeCosts(test.application);
+    ComputeCosts(test.application.session, test.settings);
     EXPECT_THAT(StoredCosts(test.application.session),
                 ElementsAre(Pair("1", "7.50"), Pair("4", "1.20"), Pair("5", "12.00")));
 }
@@ -49,11 +49,11 @@ TEST(CostComputation, FailuresOfTheDatabaseArePassedOver) {
     test::TestApplication test;
     test.InsertCall();
     test.Execute("DROP TABLE tblcostcount");
-    EXPECT_EQ(ComputeCosts(test.application), 1);
+    EXPECT_EQ(ComputeCosts(test.application.session, test.settings), 1);
     test.Execute("DROP TABLE tblphonedata");
-    EXPECT_EQ(ComputeCosts(test.application), 0);
+    EXPECT_EQ(ComputeCosts(test.application.session, test.settings), 0);
     test.application.session.DBType = "";
-    EXPECT_EQ(ComputeCosts(test.application), 0);
+    EXPECT_EQ(ComputeCosts(test.application.session, test.settings), 0);
 }
 
 }  // namespace

@@ -82,7 +82,7 @@ Files FilesOf(const std::string& engineName) {
     test.settings.Write("AreaCode", "1");
     test.settings.Write("TimeOpen", "08:30");
     test.settings.Write("TimeClosed", "17:30");
-    ComputeCosts(test.application);
+    ComputeCosts(test.application.session, test.settings);
     RunReports(test, "1", "1", files);
     RunReports(test, "2", "0", files);
     WriteAutomatedBackup(test.application);

@@ -37,7 +37,7 @@ bool IsOutgoing(const Call& call) {
     return call.internal == "0" && call.extension == call.origNum;
 }
 bool IsIncoming(const Call& call) {
-    return call.internal == "0" && call.extension == call.destNum;
+    return call.internal == "2" && call.extension == call.destNum;
 }
 
 // Written down once: a change of a single draw would change every later call, and with
