@@ -1,0 +1,26 @@
+// The applications that a report can be opened in, as comma text: which of them a
+// person is offered, and the command line that starts each.
+//
+// The list and the commands are two tables that differ in places: the versions of
+// these programs that were met in the field decide what each says, and neither is
+// derived from the other.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "foundation/application.h"
+
+namespace tallix {
+
+/// The entries of the application list, in their order: those whose folder the
+/// settings name, and the text editor, which is always there.
+std::vector<std::string> ExternalApplications(const SettingsStore& settings);
+
+/// The command line that opens the comma text in the application of an entry, with
+/// "\" between folders and the file between double quotes. Empty for an entry that has
+/// no command.
+std::string ExternalCommand(const Application& application, std::string_view entry);
+
+}  // namespace tallix
