@@ -52,7 +52,7 @@ const std::array<std::string_view, kRights> kRightLabels = {
     "Special > Permissions",
 };
 
-bool Allows(std::string_view access, Right right) {
+bool Allows(std::string_view access, AccessRight right) {
     const auto place = static_cast<std::size_t>(right);
     return place < access.size() && access[place] == kGranted;
 }

@@ -8,7 +8,7 @@
 
 namespace tallix {
 
-enum class Right : std::size_t {
+enum class AccessRight : std::size_t {
     PresetReports,
     CustomReports,
     Archive,
@@ -53,12 +53,12 @@ enum class Right : std::size_t {
     Permissions,  ///< stored and edited like the others; no window asks for it
 };
 
-inline constexpr std::size_t kRights = static_cast<std::size_t>(Right::Permissions) + 1;
+inline constexpr std::size_t kRights = static_cast<std::size_t>(AccessRight::Permissions) + 1;
 
 /// The words by which a permission list shows each right, in their order.
 extern const std::array<std::string_view, kRights> kRightLabels;
 
 /// Whether an access string grants the right. One that is too short refuses it.
-bool Allows(std::string_view access, Right right);
+bool Allows(std::string_view access, AccessRight right);
 
 }  // namespace tallix
