@@ -2,15 +2,16 @@
 
 #include <fmt/format.h>
 
-#include <algorithm>
 #include <ostream>
 #include <random>
 #include <string>
 
+#include "foundation/access_rights.h"
 #include "foundation/ado/recordset.h"
 #include "foundation/database.h"
 #include "foundation/encryption_tools.h"
 #include "foundation/text_conversion.h"
+#include "shell/login.h"
 
 namespace tallix {
 namespace {
@@ -18,9 +19,6 @@ namespace {
 constexpr std::string_view kUserName = "Administrator";
 constexpr std::string_view kEmail = "administrator@localhost";
 constexpr std::string_view kNoGroup = "0";
-constexpr std::size_t kRights = 42;
-
-constexpr std::string_view kRefusedWords[] = {"select", "insert", "delete", "drop", "update"};
 
 // No vowels, so that no word comes about; no characters that are taken for others.
 constexpr std::string_view kPasswordCharacters = "BCDFGHJKLMNPQRSTVWXZbcdfghjkmnpqrstvwxz23456789";
@@ -57,10 +55,7 @@ void AddAccount(Session& session, std::string_view storedName, std::string_view 
 
 bool CanLogInWith(std::string_view password) {
     const std::size_t length = Len(password);
-    if (length == 0 || length > kLongestAccountText) return false;
-    const std::string lower = LowerCase(password);
-    return std::none_of(std::begin(kRefusedWords), std::end(kRefusedWords),
-                        [&](std::string_view word) { return lower.find(word) != std::string::npos; });
+    return length > 0 && length <= kLongestAccountText && !HoldsGuardedWord(password);
 }
 
 void EnsureAdministrator(Session& session, std::string_view password, std::ostream& out) {

@@ -1,0 +1,32 @@
+#include "shell/main_menu.h"
+
+#include <system_error>
+
+#include "foundation/access_log.h"
+#include "foundation/attempt.h"
+#include "foundation/database.h"
+
+namespace tallix {
+namespace {
+
+constexpr std::array<const char*, 2> kLeftovers = {"Temp.dat", "Temp2.dat"};
+
+}  // namespace
+
+std::string ConnectedLine(const Session& session) {
+    return "Connected To: " + session.DBIP + " As User: " + session.CurrentUser;
+}
+
+void NoteLoggedOut(Application& application) {
+    Session& session = application.session;
+    Attempt([&] { OpenDatabase(session); });
+    Attempt([&] { WriteLog(session, application.clock, "Logged Out"); });
+    CloseDatabase(session);
+}
+
+void DeleteLeftovers(const std::filesystem::path& applicationFolder) {
+    std::error_code ignored;
+    for (const char* name : kLeftovers) std::filesystem::remove(applicationFolder / name, ignored);
+}
+
+}  // namespace tallix

@@ -1,0 +1,45 @@
+// What the main menu offers and how a session is left, whichever window shows it.
+#pragma once
+
+#include <array>
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+#include "foundation/access_rights.h"
+#include "foundation/application.h"
+
+namespace tallix {
+
+/// An entry of the main menu, which shows where its right is granted.
+struct MenuEntry {
+    AccessRight right;
+    std::string_view label;
+    std::string_view tooltip;
+    std::string_view form;     ///< the window that it opens
+    std::string_view picture;  ///< the name of its pictures, plain and for the hover
+};
+
+/// In the order of the menu, which is also that of the entry colours.
+inline constexpr std::array<MenuEntry, 6> kMenuEntries = {{
+    {AccessRight::PresetReports, "Preset Reports", "Click here for preset reports", "Form7",
+     "preset_reports"},
+    {AccessRight::CustomReports, "Custom Reports", "Click here for custom reports", "Form10",
+     "custom_reports"},
+    {AccessRight::Archive, "Archive", "Click here for archiving", "Form9", "archive"},
+    {AccessRight::Export, "Export", "", "Form3", "export"},
+    {AccessRight::BackupRestore, "Backup/Restore", "Click here to backup/restore", "Form4", "backup_restore"},
+    {AccessRight::Options, "Options", "Click here for options", "Form2", "options"},
+}};
+
+/// "Connected To: ... As User: ..."
+std::string ConnectedLine(const Session& session);
+
+/// Notes that the person has left. Ignores every failure: one can leave even with the
+/// database gone.
+void NoteLoggedOut(Application& application);
+
+/// Deletes what the update check may have left in the application folder, if anything.
+void DeleteLeftovers(const std::filesystem::path& applicationFolder);
+
+}  // namespace tallix
