@@ -12,7 +12,7 @@ namespace tallix::bench {
 
 namespace {
 
-constexpr std::size_t kPiece = 256 * 1024;
+constexpr std::size_t kPiece = std::size_t{256} * 1024;
 constexpr unsigned kMySqlPort = 3306;
 constexpr int kPostgresPort = 5432;
 
@@ -20,7 +20,7 @@ class BareSqlite : public BareClient {
 public:
     explicit BareSqlite(const std::string& file) {
         if (sqlite3_open(file.c_str(), &database_) != SQLITE_OK) throw std::runtime_error(file);
-        Execute("PRAGMA synchronous=NORMAL");
+        BareSqlite::Execute("PRAGMA synchronous=NORMAL");
     }
     ~BareSqlite() override { sqlite3_close(database_); }
 

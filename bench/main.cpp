@@ -43,7 +43,7 @@ bool Run(const Job& job, World& world, const std::string& engine, std::int64_t t
 
 bool RunAll(const EngineAddress& engine, std::uint64_t calls, const std::filesystem::path& folder) {
     Measure([&] {
-        World(engine, calls, folder);
+        const World filled(engine, calls, folder);
         return std::int64_t{0};
     });
     World world(engine, calls, folder);

@@ -15,7 +15,7 @@ namespace tallix {
 
 namespace {
 
-constexpr std::size_t kPiece = 256 * 1024;  ///< bytes collected before a write
+constexpr std::size_t kPiece = std::size_t{256} * 1024;  ///< bytes collected before a write
 constexpr std::string_view kLineEnd = "\r\n";
 
 [[noreturn]] void ThrowFileError(const std::filesystem::path& path) {

@@ -6,7 +6,7 @@ namespace tallix {
 
 namespace {
 
-constexpr std::size_t kPiece = 256 * 1024;  ///< bytes collected before a write
+constexpr std::size_t kPiece = std::size_t{256} * 1024;  ///< bytes collected before a write
 constexpr std::string_view kLineEnd = "\r\n";
 
 }  // namespace
@@ -29,6 +29,10 @@ void AnsiFile::Write(std::string_view utf8) {
 void AnsiFile::Line(std::string_view utf8) {
     Write(utf8);
     waiting_ += kLineEnd;
+}
+
+void AnsiFile::Lines(std::initializer_list<std::string_view> lines) {
+    for (const std::string_view line : lines) Line(line);
 }
 
 bool AnsiFile::Close() {

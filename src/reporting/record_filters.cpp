@@ -94,8 +94,8 @@ bool RecordFilters::WithinSchedule(std::string_view time) const {
 bool RecordFilters::KeepsHours(const ado::Recordset& calls, const CallColumns& columns) const {
     if (!byHours_ || !columns.time) return true;
     const std::string_view time = FieldText(calls, columns.time);
-    const bool beforeOpening = CompareDigits(time, opens_) < 0;
-    return beforeOpening && (CompareDigits(time, closes_) > 0 || beforeOpening);
+    const bool beforeOpening = std::is_lt(CompareDigits(time, opens_));
+    return beforeOpening && (std::is_gt(CompareDigits(time, closes_)) || beforeOpening);
 }
 
 }  // namespace tallix
