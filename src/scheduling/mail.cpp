@@ -1,13 +1,11 @@
 #include "scheduling/mail.h"
 
-#include <curl/curl.h>
-
 #include <algorithm>
 #include <ctime>
-#include <memory>
 #include <string_view>
 #include <system_error>
 
+#include "platform/curl_handle.h"
 #include "scheduling/mail_header.h"
 
 namespace tallix {
@@ -16,31 +14,6 @@ namespace {
 constexpr std::string_view kSenderName = "Tallix Reports";
 /// The share of the time limit that reaching the server may take.
 constexpr int kConnectShare = 3;
-
-/// The library's own set-up; it counts its users, so that others do not mind.
-class CurlLibrary {
-public:
-    CurlLibrary() : ready_(curl_global_init(CURL_GLOBAL_DEFAULT) == CURLE_OK) {}
-    ~CurlLibrary() {
-        if (ready_) curl_global_cleanup();
-    }
-    CurlLibrary(const CurlLibrary&) = delete;
-    CurlLibrary& operator=(const CurlLibrary&) = delete;
-    bool IsReady() const { return ready_; }
-
-private:
-    bool ready_;
-};
-
-struct CurlDeleter {
-    void operator()(CURL* handle) const { curl_easy_cleanup(handle); }
-    void operator()(CURLU* url) const { curl_url_cleanup(url); }
-    void operator()(curl_mime* mime) const { curl_mime_free(mime); }
-    void operator()(curl_slist* list) const { curl_slist_free_all(list); }
-};
-
-template <typename T>
-using Owned = std::unique_ptr<T, CurlDeleter>;
 
 /// A list that curl reads; false from Add when memory ran out.
 class TextList {
@@ -55,7 +28,7 @@ public:
     curl_slist* Get() const { return list_.get(); }
 
 private:
-    Owned<curl_slist> list_;
+    CurlOwned<curl_slist> list_;
 };
 
 /// One message on its way to one server. Every step returns whether it worked.
@@ -84,11 +57,11 @@ private:
     bool AddBody(const std::string& text);
     bool Attach(const std::filesystem::path& file);
 
-    Owned<CURLU> url_;
+    CurlOwned<CURLU> url_;
     TextList recipients_;
     TextList headers_;
-    Owned<CURL> handle_;  ///< ends before what it reads, and after the content made for it
-    Owned<curl_mime> content_;
+    CurlOwned<CURL> handle_;  ///< ends before what it reads, and after the content made for it
+    CurlOwned<curl_mime> content_;
     std::chrono::milliseconds limit_;
 };
 
