@@ -1,38 +1,14 @@
 #include "support/smtp_server.h"
 
-#include <fcntl.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
-#include <array>
-#include <csignal>
-#include <cstdio>
-#include <cstdlib>
-#include <stdexcept>
-
 namespace tallix::test {
 namespace {
 
-/// The system's own interpreter: others do not see Debian's packages.
-constexpr const char* kPython = "/usr/bin/python3";
 constexpr std::string_view kHeaderPrefix = "header.";
 
-std::array<int, 2> MakePipe() {
-    std::array<int, 2> ends{};
-    if (pipe2(ends.data(), O_CLOEXEC) != 0) throw std::runtime_error("No pipe for the mail server");
-    return ends;
-}
-
-std::vector<std::string> CommandLine(const std::filesystem::path& folder,
-                                     const std::optional<SmtpServer::Account>& account) {
-    std::vector<std::string> words = {kPython, TALLIX_SOURCE_DIR "/tests/support/smtp_server.py",
-                                      folder.string()};
-    if (account) {
-        for (const std::string& word : {"--user=" + account->user, "--password=" + account->password}) {
-            words.push_back(word);
-        }
-    }
-    return words;
+std::vector<std::string> Arguments(const std::filesystem::path& folder,
+                                   const std::optional<SmtpServer::Account>& account) {
+    if (!account) return {folder.string()};
+    return {folder.string(), "--user=" + account->user, "--password=" + account->password};
 }
 
 ReceivedMail ReadMail(const std::filesystem::path& folder) {
@@ -57,37 +33,8 @@ ReceivedMail ReadMail(const std::filesystem::path& folder) {
 
 }  // namespace
 
-SmtpServer::SmtpServer(const std::optional<Account>& account) {
-    const auto input = MakePipe();
-    const auto output = MakePipe();
-    std::vector<std::string> words = CommandLine(folder_.Path(), account);
-    std::vector<char*> arguments;
-    arguments.reserve(words.size() + 1);
-    for (std::string& word : words) arguments.push_back(word.data());
-    arguments.push_back(nullptr);
-    process_ = fork();
-    if (process_ == 0) {
-        dup2(input[0], STDIN_FILENO);
-        dup2(output[1], STDOUT_FILENO);
-        execv(kPython, arguments.data());
-        _exit(127);
-    }
-    close(input[0]);
-    close(output[1]);
-    input_ = input[1];
-    FILE* lines = fdopen(output[0], "r");
-    std::array<char, 16> line{};
-    if (std::fgets(line.data(), static_cast<int>(line.size()), lines) != nullptr)
-        port_ = std::atoi(line.data());
-    std::fclose(lines);
-    if (port_ == 0) throw std::runtime_error("The mail server did not start");
-}
-
-SmtpServer::~SmtpServer() {
-    close(input_);
-    kill(process_, SIGTERM);
-    waitpid(process_, nullptr, 0);
-}
+SmtpServer::SmtpServer(const std::optional<Account>& account)
+    : server_("smtp_server.py", Arguments(folder_.Path(), account)) {}
 
 std::vector<ReceivedMail> SmtpServer::Mails() const {
     std::vector<ReceivedMail> mails;

@@ -2,14 +2,13 @@
 // at. Needs Debian's python3-aiosmtpd.
 #pragma once
 
-#include <sys/types.h>
-
 #include <map>
 #include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "support/python_server.h"
 #include "support/temp_folder.h"
 
 namespace tallix::test {
@@ -35,21 +34,14 @@ public:
     /// std::runtime_error when it does not start.
     explicit SmtpServer(const std::optional<Account>& account = std::nullopt);
 
-    /// Stops it by its process id.
-    ~SmtpServer();
-    SmtpServer(const SmtpServer&) = delete;
-    SmtpServer& operator=(const SmtpServer&) = delete;
-
-    int Port() const { return port_; }
+    int Port() const { return server_.Port(); }
 
     /// The mails taken so far, first to last.
     std::vector<ReceivedMail> Mails() const;
 
 private:
     TempFolder folder_;
-    pid_t process_ = -1;
-    int input_ = -1;  ///< the server ends when this closes
-    int port_ = 0;
+    PythonServer server_;
 };
 
 }  // namespace tallix::test
