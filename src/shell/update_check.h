@@ -30,15 +30,16 @@ struct UpdateNotice {
 /// Whether an administrator's "no updates" counts. The statistics window does not ask.
 enum class NoUpdatesSetting { Heeded, Ignored };
 
-/// Fetches the manifest and compares. Returns only when the server has answered or
-/// kUpdateLimit is over; no events are served meanwhile.
+/// Fetches the manifest and compares. Returns when the server has answered, or after ten
+/// seconds; no events are served meanwhile.
 UpdateNotice CheckForUpdate(const Application& application,
                             NoUpdatesSetting setting = NoUpdatesSetting::Heeded);
 
 /// Whether a manifest's first line names a newer version. The three numbers are cut out
 /// at places that fit numbers of one digit, the minor one with what follows it, and each
-/// is compared on its own: "1.4.6" has the minor number 5, and 0.9.9 is newer than
-/// nothing. Throws ConversionError for a line that has not three numbers there.
+/// is compared on its own: "1.4.6" has the minor number 5 (4.6, rounded), and "1.9.0" is
+/// newer than version 2.0.0. A major number of 0 is never newer. Throws ConversionError
+/// for a line that has not three numbers at those places.
 bool NamesNewerVersion(std::string_view line, const Version& own);
 
 /// The maker's web site, to be opened with ui::OpenAddress.
