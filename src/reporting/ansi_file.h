@@ -4,6 +4,7 @@
 
 #include <cstdio>
 #include <filesystem>
+#include <initializer_list>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -24,6 +25,7 @@ public:
 
     /// The same, with a carriage return and a line feed behind it.
     void Line(std::string_view utf8);
+    void Lines(std::initializer_list<std::string_view> lines);
 
     /// Writes what is waiting and closes. Returns whether all of it was written.
     bool Close();

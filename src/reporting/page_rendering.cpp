@@ -48,10 +48,6 @@ Page::Page(const std::filesystem::path& file, const PageDescription& description
       shadedRowOpening_(fmt::format(R"(<TR align="{}" bgcolor="{}">)", description.settings.alignment,
                                     description.settings.colours.shading)) {}
 
-void Page::Lines(std::initializer_list<std::string_view> lines) {
-    for (const std::string_view line : lines) file_.Line(line);
-}
-
 void Page::WriteHead() {
     if (description_.shape == PageShape::CommaText) return WriteCommaHead();
     WriteHtmlHead(file_, description_.reportName);
@@ -79,7 +75,7 @@ void Page::WriteAddress() {
         file_.Line(isName ? fmt::format("<b>{}</b><br>", line) : line + "<br>");
         isName = false;
     }
-    Lines({"</TD>", "</TR>", "</TABLE>"});
+    file_.Lines({"</TD>", "</TR>", "</TABLE>"});
 }
 
 void Page::WritePlainHead() {
@@ -92,8 +88,8 @@ void Page::WritePlainHead() {
                            description_.reportName, ShortDate(now), HoursAndMinutes(now),
                            description_.version.Text()));
     WriteAddress();
-    Lines({R"(<HR size=2 noshade=true color="black"><font face="arial"><br>)",
-           R"(<TABLE width="100%" border="1" summary="" cellspacing="1">)", R"(<TR align="center">)"});
+    file_.Lines({R"(<HR size=2 noshade=true color="black"><font face="arial"><br>)",
+                 R"(<TABLE width="100%" border="1" summary="" cellspacing="1">)", R"(<TR align="center">)"});
 }
 
 void Page::WriteColouredHead() {
@@ -102,19 +98,20 @@ void Page::WriteColouredHead() {
     file_.Line(R"(<TD><font face="arial" size=5></font><br><Font face="arial" size=2></font></TD>)");
     WriteAddress();
     WriteBanner();
-    Lines({R"(<font face="arial"><br>)", R"(<TABLE width="100%" border="0" summary="" cellspacing="0">)"});
+    file_.Lines(
+        {R"(<font face="arial"><br>)", R"(<TABLE width="100%" border="0" summary="" cellspacing="0">)"});
 }
 
 void Page::WriteBanner() {
     const std::string& colour = description_.settings.colours.banner;
     const DateTime& now = description_.generated;
-    Lines({R"(<TABLE width="100%" border="0" cellspacing="0">)", "<TR>",
-           fmt::format(R"(<TD align="left" bgcolor="{}">)", colour),
-           R"(<font face="arial" size="5" color="white">)",
-           fmt::format("<b>{}</b></font>", description_.reportName), "</TD>",
-           fmt::format(R"(<TD align="right" bgcolor="{}">)", colour),
-           R"(<Font face="arial" size="2" color="white">)", fmt::format("Date: {}<br>", ShortDate(now)),
-           fmt::format("Time: {}</font>", HoursAndMinutes(now)), "</TD>", "</TR>", "</TABLE>"});
+    file_.Lines({R"(<TABLE width="100%" border="0" cellspacing="0">)", "<TR>",
+                 fmt::format(R"(<TD align="left" bgcolor="{}">)", colour),
+                 R"(<font face="arial" size="5" color="white">)",
+                 fmt::format("<b>{}</b></font>", description_.reportName), "</TD>",
+                 fmt::format(R"(<TD align="right" bgcolor="{}">)", colour),
+                 R"(<Font face="arial" size="2" color="white">)", fmt::format("Date: {}<br>", ShortDate(now)),
+                 fmt::format("Time: {}</font>", HoursAndMinutes(now)), "</TD>", "</TR>", "</TABLE>"});
 }
 
 void Page::WriteTitle(std::string_view title) {
@@ -172,18 +169,18 @@ void Page::WriteCommaRow(const std::vector<std::string_view>& cells) {
 
 void Page::WriteTotals(const PageTotals& totals) {
     const std::string text = CountText(totals);
-    if (description_.shape == PageShape::CommaText) return Lines({"", text});
-    Lines({"</TABLE>", "<BR>"});
+    if (description_.shape == PageShape::CommaText) return file_.Lines({"", text});
+    file_.Lines({"</TABLE>", "<BR>"});
     if (description_.shape == PageShape::Plain) return file_.Line(fmt::format("<B>{}</B>", text));
-    Lines({R"(<TABLE width="100%" border="0" cellspacing="0">)", "<TH>",
-           fmt::format(R"(<TD bgcolor="{}">)", description_.settings.colours.totalBar),
-           R"(<FONT face="arial" color="white">)", fmt::format("<B>{}</B></font>", text), "</TD>",
-           "</TABLE>"});
+    file_.Lines({R"(<TABLE width="100%" border="0" cellspacing="0">)", "<TH>",
+                 fmt::format(R"(<TD bgcolor="{}">)", description_.settings.colours.totalBar),
+                 R"(<FONT face="arial" color="white">)", fmt::format("<B>{}</B></font>", text), "</TD>",
+                 "</TABLE>"});
 }
 
 void Page::WriteEnd(std::string_view graph) {
     if (description_.shape == PageShape::CommaText) return;
-    Lines({graph, "</FONT>", "</BODY>", "</HTML>"});
+    file_.Lines({graph, "</FONT>", "</BODY>", "</HTML>"});
 }
 
 }  // namespace tallix

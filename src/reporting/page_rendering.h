@@ -68,7 +68,6 @@ private:
     void WriteBanner();
     void WriteRepeatedHeads();
     void WriteCommaRow(const std::vector<std::string_view>& cells);
-    void Lines(std::initializer_list<std::string_view> lines);
 
     const PageDescription& description_;
     AnsiFile file_;

@@ -5,10 +5,14 @@
 #include <system_error>
 
 #include "costing/tariff.h"
+#include "foundation/access_log.h"
 #include "foundation/ado/recordset.h"
 #include "foundation/attempt.h"
 #include "foundation/database.h"
 #include "foundation/text_conversion.h"
+#include "reporting/bar_graph.h"
+#include "reporting/cover_pages.h"
+#include "reporting/preset_request.h"
 #include "reporting/query_builder.h"
 #include "reporting/report_columns.h"
 
@@ -18,7 +22,11 @@ namespace {
 
 constexpr std::string_view kPageName = "rpt.tmp";
 constexpr std::string_view kCommaTextName = "rpt.csv";
-constexpr std::string_view kWorkingFiles[] = {kCommaTextName, kPageName, "rptcov.tmp", "rptbac.tmp"};
+constexpr std::string_view kWorkingFiles[] = {kCommaTextName, kPageName, kCoverName, kBackPageName};
+
+// The chart's size in pixels.
+constexpr int kGraphHeight = 200;
+constexpr int kBarWidth = 6;
 
 PageShape ShapeOf(const RunDescription& description, bool coloured) {
     if (description.commaText || description.rules.commaTextOnly) return PageShape::CommaText;
@@ -47,10 +55,15 @@ RunOutcome ReportRun::Make(const RunDescription& description) {
     settings_ = ReadReportSettings(application_.settings);
     ReadKeys(description);
     Attempt([&] { OpenDatabase(application_.session); });
-    site_ = ReadFirstSite(application_.session, settings_.numbers);
-    const RunOutcome outcome = WritePage(description);
+    const RunOutcome outcome = RefusalOf(description) ? RunOutcome::Refused : MakePage(description);
     CloseDatabase(application_.session);
+    if (outcome == RunOutcome::Complete && description.rules.logsTheRun) LogRun(description);
     return outcome;
+}
+
+RunOutcome ReportRun::MakePage(const RunDescription& description) {
+    site_ = ReadFirstSite(application_.session, settings_.numbers);
+    return WritePage(description);
 }
 
 void ReportRun::DeleteWorkingFiles() const {
@@ -70,16 +83,17 @@ RunOutcome ReportRun::WritePage(const RunDescription& description) {
     const PageDescription pageDescription = DescribePage(description);
     Page page(PageFile(application_), pageDescription);
     page.WriteHead();
+    if (description.rules.writesCovers) WriteCovers(pageDescription);
     if (description.rules.writesTitle && !options_.title.empty())
         page.WriteTitle(TitleLine(description.inputs));
     page.WriteColumnHeads(HeadsOf(flags_, settings_.numbers));
 
     ado::Recordset calls;
-    Attempt([&] { OpenCalls(description, calls); });
+    Attempt([&] { application_.events.ServeDuring([&] { OpenCalls(description, calls); }); });
     const bool isEmpty = TestOrEnter([&] { return calls.RecordCount() == 0; });
     if (isEmpty && description.rules.empty == EmptyResult::Stop) return RunOutcome::NoData;
     page.WriteTotals(WriteRows(description, calls, page));
-    page.WriteEnd("");
+    page.WriteEnd(GraphText(description, calls));
     page.Close();
     return RunOutcome::Complete;
 }
@@ -94,6 +108,18 @@ PageDescription ReportRun::DescribePage(const RunDescription& description) const
             .version = application_.version,
             .generated = application_.clock.Now(),
             .addressLines = site_.addressLines};
+}
+
+void ReportRun::WriteCovers(const PageDescription& page) const {
+    const CoverSettings covers = LoadCoverSettings(application_.settings);
+    const CoverDescription cover = {.settings = covers,
+                                    .colours = settings_.colours,
+                                    .reportName = page.reportName,
+                                    .applicationFolder = page.applicationFolder,
+                                    .version = page.version,
+                                    .printed = page.generated};
+    if (covers.cover) WriteCover(application_.tempFolder / kCoverName, cover);
+    if (covers.backing) WriteBackPage(application_.tempFolder / kBackPageName, cover);
 }
 
 // The title names what the report was asked for; the site's entry stands in for a
@@ -156,6 +182,20 @@ void ReportRun::WalkRecords(const RunDescription& description, ado::Recordset& c
         page.WriteRow(rows.Resolve(calls));
         ++recordsWritten_;
     }
+}
+
+// The chart takes up where the walk over the records left the set.
+std::string ReportRun::GraphText(const RunDescription& description, ado::Recordset& calls) const {
+    std::string graph;
+    if (description.drawsGraph) Attempt([&] { graph = BuildBarGraph(calls, kGraphHeight, kBarWidth); });
+    return graph;
+}
+
+void ReportRun::LogRun(const RunDescription& description) const {
+    Session& session = application_.session;
+    Attempt([&] { OpenDatabase(session); });
+    Attempt([&] { WriteLog(session, application_.clock, "Report Run - " + description.reportName); });
+    CloseDatabase(session);
 }
 
 }  // namespace tallix

@@ -10,8 +10,10 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <string>
 
 #include "foundation/application.h"
+#include "foundation/run_progress.h"
 #include "reporting/catalogue.h"
 #include "reporting/page_rendering.h"
 #include "reporting/record_filters.h"
@@ -20,27 +22,14 @@
 
 namespace tallix {
 
-/// Hears of each record before any filter sees it.
-class RunProgress {
-public:
-    virtual ~RunProgress() = default;
-
-    /// `record` counts from 1 to `bound`.
-    virtual void Record(std::int64_t record, std::int64_t bound) = 0;
-};
-
-/// For runs that nobody watches.
-class NoProgress : public RunProgress {
-public:
-    void Record(std::int64_t, std::int64_t) override {}
-};
-
 enum class RunOutcome {
     Complete,
-    NoData,  ///< the statement gave no records or was refused; the page has only its head
+    Refused,  ///< a demanded input is missing (RefusalOf); no page was begun
+    NoData,   ///< the statement gave no records or was refused; the page has only its head
 };
 
-/// The working files of a run, in the folder for them.
+/// The working files of a run, in the folder for them. A run begins by deleting those of
+/// the run before, cover and back page included.
 std::filesystem::path PageFile(const Application& application);       ///< rpt.tmp
 std::filesystem::path CommaTextFile(const Application& application);  ///< rpt.csv
 
@@ -49,7 +38,8 @@ public:
     /// `flags` are the process's report switches; all arguments must outlive the run.
     ReportRun(Application& application, ReportFlags& flags, RunProgress& progress);
 
-    /// Makes the page. Opens the session's database and closes it again.
+    /// Makes the page. Opens the session's database and closes it again; `progress` hears
+    /// of each record before any filter sees it.
     RunOutcome Make(const RunDescription& description);
 
     /// The first site, as the latest run read it; scheduled mail goes to its address.
@@ -58,11 +48,15 @@ public:
 private:
     void DeleteWorkingFiles() const;
     void ReadKeys(const RunDescription& description);
+    RunOutcome MakePage(const RunDescription& description);
     RunOutcome WritePage(const RunDescription& description);
+    void WriteCovers(const PageDescription& page) const;
     PageDescription DescribePage(const RunDescription& description) const;
     std::string TitleLine(const RunInputs& inputs) const;
     void OpenCalls(const RunDescription& description, ado::Recordset& calls);
     PageTotals WriteRows(const RunDescription& description, ado::Recordset& calls, Page& page);
+    std::string GraphText(const RunDescription& description, ado::Recordset& calls) const;
+    void LogRun(const RunDescription& description) const;
     void WalkRecords(const RunDescription& description, ado::Recordset& calls, RowResolver& rows, Page& page);
 
     Application& application_;

@@ -45,6 +45,8 @@ struct RunRules {
     std::string_view generatedOn;    ///< opening of the date line in comma text
     bool showsSeconds;               ///< in the date line of comma text
     std::string_view fixedCurrency;  ///< in place of the session's; empty for that
+    bool writesCovers;               ///< cover and back page, where the settings have them on
+    bool logsTheRun;                 ///< a finished page gives a row in the access log
 };
 
 /// The preset report of a person at the screen.
@@ -59,6 +61,8 @@ inline constexpr RunRules kPresetRules = {
     .generatedOn = "Generated On:",
     .showsSeconds = false,
     .fixedCurrency = "",
+    .writesCovers = true,
+    .logsTheRun = true,
 };
 
 /// The scheduled report with nobody at the screen.
@@ -73,13 +77,18 @@ inline constexpr RunRules kUnattendedRules = {
     .generatedOn = "Generated On: ",
     .showsSeconds = true,
     .fixedCurrency = "£",
+    .writesCovers = false,
+    .logsTheRun = false,
 };
 
 struct RunDescription {
     std::string reportName;            ///< in titles and in the log
     std::filesystem::path reportFile;  ///< the file of keys
     RunInputs inputs{};
-    bool commaText = false;  ///< for an application that opens comma text
+    bool commaText = false;         ///< for an application that opens comma text
+    bool demandsExtension = false;  ///< without a numeric extension the run is refused
+    bool demandsAccount = false;    ///< the same for the account code
+    bool drawsGraph = false;        ///< a bar chart ends the page
     const RunRules& rules;
 };
 

@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "foundation/ado/recordset.h"
+#include "foundation/database.h"
 #include "support/test_application.h"
 
 namespace tallix {
@@ -33,6 +35,16 @@ protected:
         std::vector<std::string> lines = Lines();
         if (lines.size() < 7) return {};
         return {lines.begin() + 5, lines.end() - 2};
+    }
+
+    std::int64_t LoggedEvents() {
+        OpenDatabase(test.application.session);
+        ado::Recordset rows;
+        rows.Open("SELECT * FROM tbllogging WHERE Data LIKE 'Report Run - %' AND User = 'Ann'",
+                  OpenConnection(test.application.session));
+        const std::int64_t count = rows.RecordCount();
+        CloseDatabase(test.application.session);
+        return count;
     }
 
     TestApplication test;
@@ -258,6 +270,48 @@ TEST_F(ReportRunTest, SurvivesNullsQuotesAndStrangeText) {
                                     "0.00,",
                                     "x,,&nbsp;,&nbsp;,&nbsp;,&nbsp;,No,\x8Elu?ou?k\xFD ?,&nbsp;,\xA3"
                                     "0.00,"));
+}
+
+TEST_F(ReportRunTest, WritesCoversAndAChartAndLogsTheRunOfAPersonAlone) {
+    test.InsertCall();
+    test.WriteReport("All", {{"Date", "True"}}, {});
+    test.settings.Write("CCover", "1");
+    const auto cover = test.application.tempFolder / "rptcov.tmp";
+    const auto back = test.application.tempFolder / "rptbac.tmp";
+    const RunDescription charted = {.reportName = "All",
+                                    .reportFile = PresetReportFile(test.application.folder, "All"),
+                                    .drawsGraph = true,
+                                    .rules = kPresetRules};
+    EXPECT_EQ(ReportRun(test.application, flags, progress).Make(charted), RunOutcome::Complete);
+    EXPECT_TRUE(std::filesystem::exists(cover));
+    EXPECT_FALSE(std::filesystem::exists(back));
+    EXPECT_EQ(ReadLines(PageFile(test.application)).at(Lines().size() - 4), "</td></tr></table>");
+    EXPECT_EQ(LoggedEvents(), 1);
+
+    test.settings.Write("CCover", "");
+    test.settings.Write("BBacking", "1");
+    Run("All", {}, kUnattendedRules);
+    EXPECT_FALSE(std::filesystem::exists(cover) || std::filesystem::exists(back));
+    Run("All");
+    EXPECT_TRUE(std::filesystem::exists(back));
+    EXPECT_EQ(LoggedEvents(), 2);
+}
+
+TEST_F(ReportRunTest, ARefusedRunLeavesItsSwitchesAndNoFiles) {
+    test.InsertCall();
+    test.WriteReport("First", {{"Site", "True"}}, {});
+    test.WriteReport("Second", {{"Site", "-"}, {"Date", "True"}}, {});
+    Run("Second");
+    const RunDescription first = {.reportName = "First",
+                                  .reportFile = PresetReportFile(test.application.folder, "First"),
+                                  .demandsExtension = true,
+                                  .rules = kPresetRules};
+    EXPECT_EQ(ReportRun(test.application, flags, progress).Make(first), RunOutcome::Refused);
+    EXPECT_TRUE(std::filesystem::is_empty(test.application.tempFolder));
+    EXPECT_EQ(test.application.session.DBConn, nullptr);
+    Run("Second");
+    EXPECT_THAT(Rows(), ElementsAre("05/03/2021,001,"));
+    EXPECT_EQ(LoggedEvents(), 2);
 }
 
 TEST_F(ReportRunTest, WritesTheTitleLineOfWhatWasAsked) {
