@@ -42,7 +42,7 @@ UpdateNotice CheckForUpdate(const Application& application,
 /// for a line that has not three numbers at those places.
 bool NamesNewerVersion(std::string_view line, const Version& own);
 
-/// The maker's web site, to be opened with ui::OpenAddress.
+/// The maker's web site, for the desktop to open.
 std::string MakerSite(const std::filesystem::path& applicationFolder);
 
 }  // namespace tallix
