@@ -1,12 +1,14 @@
 #include "ui/qt_events.h"
 
 #include <QCoreApplication>
+#include <future>
 
 namespace tallix::ui {
 namespace {
 
 constexpr std::chrono::milliseconds kPaintInterval{50};
 constexpr std::chrono::milliseconds kPause{5};
+constexpr std::chrono::milliseconds kWorkInterval{10};
 
 }  // namespace
 
@@ -17,6 +19,12 @@ void QtEvents::Serve() {
     if (!afterPause && now - lastServed_ < kPaintInterval) return;
     QCoreApplication::processEvents();
     lastCall_ = lastServed_ = std::chrono::steady_clock::now();
+}
+
+void QtEvents::ServeDuring(const std::function<void()>& work) {
+    std::future<void> outcome = std::async(std::launch::async, work);
+    while (outcome.wait_for(kWorkInterval) != std::future_status::ready) QCoreApplication::processEvents();
+    outcome.get();
 }
 
 }  // namespace tallix::ui

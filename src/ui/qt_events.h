@@ -13,6 +13,9 @@ public:
     /// from a loop over records, serve 20 times a second at most, painting included.
     void Serve() override;
 
+    /// The work runs on a thread of its own, so that the windows answer all the while.
+    void ServeDuring(const std::function<void()>& work) override;
+
 private:
     using Moment = std::chrono::steady_clock::time_point;
 
