@@ -8,10 +8,7 @@
 
 namespace tallix::ui {
 
-Forms::Forms() {
-    afterAction_.setSingleShot(true);
-    connect(&afterAction_, &QTimer::timeout, this, &Forms::EndWhenEmpty);
-}
+Forms::Forms() = default;
 
 Forms::~Forms() = default;
 
@@ -49,13 +46,13 @@ void Forms::Unload(const QString& name) {
     form->OnUnload();
     form->hide();
     const auto place = loaded_.begin() + (PositionOf(name) - loaded_.cbegin());
+    connect(form, &QObject::destroyed, this, &Forms::EndWhenEmpty);
     place->release()->deleteLater();
     loaded_.erase(place);
-    afterAction_.start();
 }
 
-// Asked after the action that unloaded a form is over, so that one action may unload
-// every form and load another.
+// Asked when an unloaded form is destroyed: the action that unloaded it is over then. So
+// one action may unload every form, show a message, and load another form.
 void Forms::EndWhenEmpty() {
     if (loaded_.empty()) QCoreApplication::quit();
 }

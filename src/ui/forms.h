@@ -10,7 +10,6 @@
 
 #include <QObject>
 #include <QString>
-#include <QTimer>
 #include <functional>
 #include <map>
 #include <memory>
@@ -50,7 +49,6 @@ private:
 
     std::map<QString, Factory> factories_;
     std::vector<std::unique_ptr<Form>> loaded_;
-    QTimer afterAction_;  // of no interval: fires when control is back in the event loop
 };
 
 }  // namespace tallix::ui

@@ -2,6 +2,8 @@
 
 #include <gmock/gmock.h>
 
+#include <QAbstractButton>
+#include <QMessageBox>
 #include <QPointer>
 #include <stdexcept>
 
@@ -78,6 +80,20 @@ TEST_F(FormsTest, AnActionMayUnloadEveryFormAndLoadAnother) {
         forms.Load("Form2");
     });
     EXPECT_EQ(RunToTheEnd(std::chrono::milliseconds(100)), kNeverEnded);
+}
+
+TEST_F(FormsTest, AMessageBehindTheLastFormWaitsForItsAnswer) {
+    forms.Load("Form1");
+    bool answered = false;
+    Later([&] {
+        forms.Unload("Form1");
+        QMessageBox box;
+        QTimer::singleShot(50, &box, [&] { box.button(QMessageBox::Ok)->click(); });
+        box.setStandardButtons(QMessageBox::Ok);
+        answered = box.exec() == QMessageBox::Ok;
+    });
+    EXPECT_EQ(RunToTheEnd(), 0);
+    EXPECT_TRUE(answered);
 }
 
 TEST_F(FormsTest, AFailureThatNobodyCaughtEndsTheRunOnce) {
