@@ -6,6 +6,7 @@
 #include <fstream>
 #include <ostream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "administrator_account.h"
@@ -80,10 +81,17 @@ void LayDownTables(ado::Connection& connection, const std::filesystem::path& fol
     if (made.empty()) out << "Tables: all there already\n";
 }
 
+// What a company would have settled before it looks at reports.
+constexpr std::pair<const char*, const char*> kCompanySettings[] = {{"TimeOpen", "08:30"},
+                                                                    {"TimeClosed", "17:30"}};
+
 // The costs that reports show are computed ones.
 void AddCompany(const SetupOptions& options, Session& session, const SettingsStore& settings,
                 std::ostream& out) {
     if (!AddDemonstration(OpenConnection(session), *options.demoCalls, options.seed, out)) return;
+    for (const auto& [name, value] : kCompanySettings) {
+        if (settings.Read(name).empty()) settings.Write(name, value);
+    }
     out << fmt::format("tblcostcount: {} calls priced\n", ComputeCosts(session, settings));
 }
 

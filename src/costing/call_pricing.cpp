@@ -24,10 +24,6 @@ bool Fits(std::int64_t value) {
     return value >= std::numeric_limits<Integer>::min() && value <= std::numeric_limits<Integer>::max();
 }
 
-bool IsDigit(char character) {
-    return character >= '0' && character <= '9';
-}
-
 bool IsWellFormed(std::string_view duration) {
     if (duration.size() != kNoDuration.size()) return false;
     for (std::size_t i = 0; i < duration.size(); ++i) {

@@ -1,7 +1,6 @@
 #include "costing/cost_text.h"
 
 #include <algorithm>
-#include <charconv>
 
 #include "foundation/attempt.h"
 #include "foundation/text_conversion.h"
@@ -9,24 +8,13 @@
 namespace tallix {
 namespace {
 
-/// More digits than these may not fit into 32 bits.
-constexpr std::size_t kSafeDigits = 9;
 constexpr std::size_t kHundredthsDigits = 2;
 /// Places of a total, counted from 0 at its last digit.
 constexpr std::size_t kLastPlaceOfTotal = 7;
 
-bool IsDigit(char character) {
-    return character >= '0' && character <= '9';
-}
-
-/// Keeps `value` where the text is no number. Plain digits, as nearly all costs have
-/// them, are read here without a detour.
+/// Keeps `value` where the text is no number.
 void ReadPiece(std::string_view text, std::int32_t& value) {
-    if (!text.empty() && text.size() <= kSafeDigits && std::all_of(text.begin(), text.end(), IsDigit)) {
-        std::from_chars(text.data(), text.data() + text.size(), value);
-    } else {
-        Attempt([&] { value = ToInteger32(text); });
-    }
+    Attempt([&] { value = ToInteger32(text); });
 }
 
 /// What stands between two digits of a total, in front of the digit at `place`.

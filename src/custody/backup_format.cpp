@@ -15,7 +15,6 @@ namespace tallix {
 
 namespace {
 
-constexpr std::size_t kPiece = std::size_t{256} * 1024;  ///< bytes collected before a write
 constexpr std::string_view kLineEnd = "\r\n";
 
 [[noreturn]] void ThrowFileError(const std::filesystem::path& path) {
@@ -28,6 +27,18 @@ std::string_view WithoutTail(ado::Value value) {
     const std::size_t length = Len(*value);
     if (length < kCutFromRawLines) throw ConversionError("A raw line is too short to be cut");
     return Left(*value, length - kCutFromRawLines);
+}
+
+void AppendValues(std::string& line, const ado::Recordset& rows, const std::vector<ado::Column>& columns,
+                  std::size_t cutPlace) {
+    for (std::size_t place = 0; place < columns.size(); ++place) {
+        const ado::Value value = rows.At(columns[place]);
+        line += '\'';
+        line += place == cutPlace ? WithoutTail(value) : value.value_or("");
+        line += "',";
+    }
+    line.back() = ')';
+    line += kLineEnd;
 }
 
 std::vector<ado::Column> FindColumns(const ado::Recordset& rows, const BackupTable& table) {
@@ -68,10 +79,8 @@ std::string BackupTable::LinePrefix() const {
     return fmt::format("INSERT INTO {}({}) VALUES (", name, fmt::join(columns, ","));
 }
 
-BackupWriter::BackupWriter(const std::filesystem::path& file)
-    : path_(file), file_(std::fopen(file.c_str(), "wb")) {
-    if (!file_) ThrowFileError(path_);
-    std::setvbuf(file_.get(), nullptr, _IONBF, 0);
+BackupWriter::BackupWriter(const std::filesystem::path& file) : path_(file), file_(file) {
+    RequireComplete();
 }
 
 void BackupWriter::WriteTable(Session& session, const BackupTable& table, const RowProgress& progress) {
@@ -90,27 +99,25 @@ void BackupWriter::WriteTable(Session& session, const BackupTable& table, const 
 
 void BackupWriter::WriteLine(const std::string& prefix, const ado::Recordset& rows,
                              const std::vector<ado::Column>& columns, std::size_t cutPlace) {
-    waiting_ += prefix;
-    for (std::size_t place = 0; place < columns.size(); ++place) {
-        const ado::Value value = rows.At(columns[place]);
-        waiting_ += '\'';
-        waiting_ += place == cutPlace ? WithoutTail(value) : value.value_or("");
-        waiting_ += "',";
+    std::string& line = file_.Waiting();
+    const std::size_t begin = line.size();
+    try {
+        AppendValues(line.append(prefix), rows, columns, cutPlace);
+    } catch (...) {
+        line.resize(begin);
+        throw;
     }
-    waiting_.back() = ')';
-    waiting_ += kLineEnd;
-    if (waiting_.size() >= kPiece) Flush();
+    file_.Advance();
+    RequireComplete();
 }
 
-void BackupWriter::Flush() {
-    if (std::fwrite(waiting_.data(), 1, waiting_.size(), file_.get()) != waiting_.size())
-        ThrowFileError(path_);
-    waiting_.clear();
+void BackupWriter::RequireComplete() const {
+    if (!file_.IsComplete()) ThrowFileError(path_);
 }
 
 void BackupWriter::Close() {
-    Flush();
-    if (std::fclose(file_.release()) != 0) ThrowFileError(path_);
+    file_.Close();
+    RequireComplete();
 }
 
 }  // namespace tallix

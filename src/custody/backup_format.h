@@ -6,16 +6,15 @@
 #pragma once
 
 #include <array>
-#include <cstdio>
 #include <filesystem>
 #include <functional>
-#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "foundation/ado/recordset.h"
 #include "foundation/session.h"
+#include "platform/buffered_file.h"
 
 namespace tallix {
 
@@ -44,7 +43,8 @@ inline constexpr std::size_t kCutFromRawLines = 3;
 /// Writes the lines of a dump.
 class BackupWriter {
 public:
-    /// Replaces the file. Throws std::runtime_error when it cannot be made.
+    /// Replaces the file. Throws std::runtime_error when it cannot be made. A writer that
+    /// goes without Close leaves every line that was complete.
     explicit BackupWriter(const std::filesystem::path& file);
 
     /// Called with the row about to be written, from 1, and the number of rows.
@@ -59,17 +59,12 @@ public:
     void Close();
 
 private:
-    struct CloseFile {
-        void operator()(std::FILE* file) const { std::fclose(file); }
-    };
-
     void WriteLine(const std::string& prefix, const ado::Recordset& rows,
                    const std::vector<ado::Column>& columns, std::size_t cutPlace);
-    void Flush();
+    void RequireComplete() const;
 
     std::filesystem::path path_;
-    std::unique_ptr<std::FILE, CloseFile> file_;
-    std::string waiting_;
+    BufferedFile file_;
 };
 
 }  // namespace tallix

@@ -7,7 +7,6 @@
 #include <utility>
 
 #include "foundation/errors.h"
-#include "foundation/section_text.h"
 #include "foundation/text_pieces.h"
 
 namespace tallix {

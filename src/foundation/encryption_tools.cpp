@@ -35,8 +35,9 @@ KeySchedule MakeSchedule(std::string_view key) {
     double sum = 0;
     for (const char character : key) {
         const int code = static_cast<unsigned char>(character);
-        // Whole turns of the ring are left out: the outcome is the same, and the
-        // greatest codes cannot push a byte out of the ring for good.
+        // Codes above 207 would turn by more than the ring and could push a byte out of
+        // it for good. Leaving whole turns out keeps the cipher reversible for any key;
+        // the key of the system has no such code.
         schedule.turns.push_back(RoundToInteger32(code / 2.0) % kRingSize);
         schedule.masks.push_back(code);
         sum += code;
@@ -60,6 +61,21 @@ int Turn(int value, int by) {
 void RequireShort(const EncryptionTools::Bytes& data) {
     if (data.size() <= kMostBytes) return;
     throw ConversionError("the text is too long for the cipher: " + std::to_string(data.size()) + " bytes");
+}
+
+// Turns each byte by its own place in the key.
+template <typename Step>
+EncryptionTools::Bytes Transform(std::string_view key, const EncryptionTools::Bytes& data, Step step) {
+    RequireShort(data);
+    const KeySchedule schedule = MakeSchedule(key);
+    EncryptionTools::Bytes result;
+    result.reserve(data.size());
+    for (const unsigned char byte : data) {
+        const std::size_t place = result.size() % key.size();
+        result.push_back(
+            static_cast<unsigned char>(step(byte, schedule.masks[place], schedule.turns[place])));
+    }
+    return result;
 }
 
 void AppendUnit(EncryptionTools::Bytes& bytes, char32_t unit) {
@@ -88,29 +104,11 @@ unsigned DigitValue(char digit) {
 }  // namespace
 
 EncryptionTools::Bytes EncryptionTools::Encipher(std::string_view key, const Bytes& data) {
-    RequireShort(data);
-    const KeySchedule schedule = MakeSchedule(key);
-    Bytes result;
-    result.reserve(data.size());
-    for (const unsigned char byte : data) {
-        const std::size_t index = result.size() % key.size();
-        result.push_back(
-            static_cast<unsigned char>(Turn(byte ^ schedule.masks[index], schedule.turns[index])));
-    }
-    return result;
+    return Transform(key, data, [](int byte, int mask, int turn) { return Turn(byte ^ mask, turn); });
 }
 
 EncryptionTools::Bytes EncryptionTools::Decipher(std::string_view key, const Bytes& data) {
-    RequireShort(data);
-    const KeySchedule schedule = MakeSchedule(key);
-    Bytes result;
-    result.reserve(data.size());
-    for (const unsigned char byte : data) {
-        const std::size_t index = result.size() % key.size();
-        result.push_back(
-            static_cast<unsigned char>(Turn(byte, -schedule.turns[index]) ^ schedule.masks[index]));
-    }
-    return result;
+    return Transform(key, data, [](int byte, int mask, int turn) { return Turn(byte, -turn) ^ mask; });
 }
 
 EncryptionTools::Bytes EncryptionTools::ToBytes(std::string_view utf8) {

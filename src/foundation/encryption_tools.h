@@ -14,6 +14,7 @@ public:
     /// The bytes of a text in its 16-bit form, low byte first.
     using Bytes = std::vector<unsigned char>;
 
+    /// The codes of the key are those of its bytes.
     /// Throws ConversionError for an empty key and for more than 32767 bytes of data.
     static Bytes Encipher(std::string_view key, const Bytes& data);
     static Bytes Decipher(std::string_view key, const Bytes& data);

@@ -1,5 +1,7 @@
 #include "foundation/ip_address.h"
 
+#include "foundation/text_pieces.h"
+
 #include <algorithm>
 
 namespace tallix {
@@ -14,10 +16,6 @@ bool FitsPart(std::string_view digits) {
     int value = 0;
     for (const char digit : digits) value = std::min(value * kBase + (digit - '0'), kLargest + 1);
     return value <= kLargest;
-}
-
-bool IsDigit(char character) {
-    return character >= '0' && character <= '9';
 }
 
 }  // namespace

@@ -50,7 +50,6 @@ public:
     std::optional<std::size_t> Narrow(std::string_view number, PrefixLengths lengths) const;
 
     std::string_view Value(std::size_t row) const { return rows_[row].second; }
-    std::size_t Size() const { return rows_.size(); }
 
     /// Whether every code is printable ASCII. A collation may hold other characters for
     /// equal to a digit.

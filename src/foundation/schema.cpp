@@ -2,13 +2,14 @@
 
 #include <algorithm>
 #include <array>
-#include <fstream>
-#include <iterator>
+#include <optional>
 #include <utility>
 
 #include <fmt/format.h>
 
 #include "foundation/errors.h"
+#include "foundation/text_pieces.h"
+#include "platform/whole_file.h"
 
 namespace tallix {
 
@@ -38,14 +39,9 @@ std::string_view FileName(Server server) {
 }
 
 std::string ReadSchema(const std::filesystem::path& file) {
-    std::ifstream stream(file, std::ios::binary);
-    if (!stream) throw DatabaseError(fmt::format("The schema file {} cannot be read", file.string()));
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
-
-void Replace(std::string& text, std::string_view old, std::string_view fresh) {
-    const std::size_t at = text.find(old);
-    if (at != std::string::npos) text.replace(at, old.size(), fresh);
+    const std::optional<std::string> text = ReadWholeFile(file);
+    if (!text) throw DatabaseError(fmt::format("The schema file {} cannot be read", file.string()));
+    return *text;
 }
 
 /// The word behind `lead` (and behind "IF NOT EXISTS"); empty where `lead` does not occur.
@@ -84,11 +80,11 @@ bool HasMySqlIndex(Engine& server, const std::string& index) {
 
 void Lay(Engine& server, std::string statement, bool mySqlProper) {
     if (mySqlProper) {
-        Replace(statement, kMariaDbCollation, kMySqlCollation);
+        statement = Replace(statement, kMariaDbCollation, kMySqlCollation);
         const std::string index = NameBehind(statement, kCreateIndex);
         if (!index.empty()) {
             if (HasMySqlIndex(server, index)) return;
-            Replace(statement, kIfAbsent, {});
+            statement = Replace(statement, kIfAbsent, {});
         }
     }
     server.Execute(statement);

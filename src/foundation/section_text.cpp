@@ -9,7 +9,6 @@ namespace tallix {
 namespace {
 
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-constexpr std::string_view kBlanks = " \t";
 constexpr std::string_view kLineBreaks = "\r\n";
 constexpr char kComment = ';';
 
@@ -130,12 +129,6 @@ std::string WithEntry(std::string_view text, const SectionFormat& format, std::s
     result += lineBreak;
     result += text.substr(place ? place->end : text.size());
     return result;
-}
-
-std::string_view TrimBlanks(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(kBlanks);
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
 }
 
 bool HasLineBreak(std::string_view text) {

@@ -39,9 +39,6 @@ std::optional<std::string> FindEntry(std::string_view text, const SectionFormat&
 std::string WithEntry(std::string_view text, const SectionFormat& format, std::string_view section,
                       std::string_view name, std::string_view line);
 
-/// Without blanks and tabs at both ends.
-std::string_view TrimBlanks(std::string_view text);
-
 /// Whether a text holds a line break, which no line can carry.
 bool HasLineBreak(std::string_view text);
 

@@ -7,7 +7,7 @@
 #include <optional>
 
 #include "foundation/errors.h"
-#include "foundation/section_text.h"
+#include "foundation/text_pieces.h"
 
 namespace tallix {
 namespace {
@@ -17,10 +17,6 @@ constexpr std::size_t kSafeDigits = 9;
 
 [[noreturn]] void Fail(std::string_view text, const char* wanted) {
     throw ConversionError("\"" + std::string(text) + "\" is no " + wanted);
-}
-
-bool IsDigit(char character) {
-    return character >= '0' && character <= '9';
 }
 
 bool IsSign(char character) {

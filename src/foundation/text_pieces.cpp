@@ -87,6 +87,12 @@ std::string TurnCase(std::string_view text, char (*turnAscii)(char), BytePair (*
     return turned;
 }
 
+std::string_view TrimOf(std::string_view text, std::string_view characters) {
+    const std::size_t first = text.find_first_not_of(characters);
+    if (first == std::string_view::npos) return {};
+    return text.substr(first, text.find_last_not_of(characters) - first + 1);
+}
+
 }  // namespace
 
 std::size_t Len(std::string_view text) {
@@ -116,9 +122,11 @@ std::string_view Mid(std::string_view text, std::size_t start, std::size_t count
 }
 
 std::string_view Trim(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(' ') - first + 1);
+    return TrimOf(text, " ");
+}
+
+std::string_view TrimBlanks(std::string_view text) {
+    return TrimOf(text, " \t");
 }
 
 std::string Replace(std::string_view text, std::string_view from, std::string_view to) {

@@ -20,6 +20,13 @@ std::string_view Mid(std::string_view text, std::size_t start, std::size_t count
 /// Without blanks (character 32) at both ends.
 std::string_view Trim(std::string_view text);
 
+/// Without blanks and tabs at both ends.
+std::string_view TrimBlanks(std::string_view text);
+
+inline bool IsDigit(char character) {
+    return character >= '0' && character <= '9';
+}
+
 /// The text with every occurrence of `from` replaced by `to`. `from` is not empty.
 std::string Replace(std::string_view text, std::string_view from, std::string_view to);
 

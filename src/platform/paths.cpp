@@ -2,6 +2,7 @@
 
 #include <fcntl.h>
 #include <pwd.h>
+#include <strings.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -66,6 +67,18 @@ fs::path ToNativePath(std::string_view stored) {
     std::string native(stored);
     std::replace(native.begin(), native.end(), '\\', '/');
     return native;
+}
+
+fs::path FindIgnoringCase(const fs::path& path) {
+    std::error_code failure;
+    if (fs::exists(path, failure) || !path.has_filename()) return path;
+    const fs::path folder = FindIgnoringCase(path.parent_path());
+    for (auto entry = fs::directory_iterator(folder, failure); !failure && entry != fs::directory_iterator();
+         entry.increment(failure)) {
+        const fs::path name = entry->path().filename();
+        if (strcasecmp(name.c_str(), path.filename().c_str()) == 0) return folder / name;
+    }
+    return path;
 }
 
 fs::path ApplicationFolder() {

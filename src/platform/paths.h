@@ -11,6 +11,10 @@ namespace tallix {
 /// A stored path with each "\" turned to "/". The one place where that happens.
 std::filesystem::path ToNativePath(std::string_view stored);
 
+/// The path as it is spelled on the disk: stored names come from systems that tell no
+/// case apart. The path itself where it exists, or where nothing like it does.
+std::filesystem::path FindIgnoringCase(const std::filesystem::path& path);
+
 /// The folder that holds the program and its data: the environment variable
 /// TALLIX_HOME, else the folder of the running executable. Absolute, no slash behind.
 std::filesystem::path ApplicationFolder();

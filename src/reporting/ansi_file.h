@@ -2,12 +2,11 @@
 // pages and comma text are made of it.
 #pragma once
 
-#include <cstdio>
 #include <filesystem>
 #include <initializer_list>
-#include <memory>
-#include <string>
 #include <string_view>
+
+#include "platform/buffered_file.h"
 
 namespace tallix {
 
@@ -15,10 +14,7 @@ class AnsiFile {
 public:
     /// Replaces the file. A file that cannot be opened takes what is written and keeps
     /// none of it: a report run reports no fault of its page.
-    explicit AnsiFile(const std::filesystem::path& file);
-    ~AnsiFile();
-    AnsiFile(const AnsiFile&) = delete;
-    AnsiFile& operator=(const AnsiFile&) = delete;
+    explicit AnsiFile(const std::filesystem::path& file) : file_(file) {}
 
     /// Adds UTF-8 text; characters outside the code page become "?".
     void Write(std::string_view utf8);
@@ -28,18 +24,10 @@ public:
     void Lines(std::initializer_list<std::string_view> lines);
 
     /// Writes what is waiting and closes. Returns whether all of it was written.
-    bool Close();
+    bool Close() { return file_.Close(); }
 
 private:
-    struct CloseFile {
-        void operator()(std::FILE* file) const { std::fclose(file); }
-    };
-
-    void Flush();
-
-    std::unique_ptr<std::FILE, CloseFile> file_;
-    std::string waiting_;
-    bool complete_;
+    BufferedFile file_;
 };
 
 }  // namespace tallix

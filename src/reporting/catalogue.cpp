@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <system_error>
+#include <utility>
 
 #include "foundation/attempt.h"
 #include "foundation/text_conversion.h"
@@ -68,9 +69,12 @@ std::vector<std::string> ListReports(const std::filesystem::path& folder) {
     for (auto entry = std::filesystem::directory_iterator(folder, error);
          !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
         std::string name = entry->path().filename().string();
-        if (EqualNoCase(Right(name, kReportExtension.size()), kReportExtension)) fileNames.push_back(name);
+        const bool isReport = EqualNoCase(Right(name, kReportExtension.size()), kReportExtension);
+        if (isReport && entry->is_regular_file(error)) fileNames.push_back(std::move(name));
     }
-    std::sort(fileNames.begin(), fileNames.end());
+    std::sort(fileNames.begin(), fileNames.end(), [](const std::string& left, const std::string& right) {
+        return LowerCase(left) < LowerCase(right);
+    });
     std::transform(fileNames.begin(), fileNames.end(), fileNames.begin(), ReportNameOf);
     return fileNames;
 }

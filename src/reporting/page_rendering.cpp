@@ -67,14 +67,11 @@ void Page::WriteCommaHead() {
     file_.Line("");
 }
 
-// Name first; each line is its own in the file.
+// What the site does not have leaves no line.
 void Page::WriteAddress() {
     file_.Line(R"(<TD align="right"><font face="arial" size=1>)");
-    bool isName = true;
-    for (const std::string& line : description_.addressLines) {
-        file_.Line(isName ? fmt::format("<b>{}</b><br>", line) : line + "<br>");
-        isName = false;
-    }
+    if (description_.siteName) file_.Line(fmt::format("<b>{}</b><br>", *description_.siteName));
+    for (const std::string& line : description_.addressLines) file_.Line(line + "<br>");
     file_.Lines({"</TD>", "</TR>", "</TABLE>"});
 }
 

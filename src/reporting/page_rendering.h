@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -33,6 +34,7 @@ struct PageDescription {
     std::string docsLocation;       ///< with the company's logo
     Version version;
     DateTime generated;
+    std::optional<std::string> siteName;
     std::vector<std::string> addressLines;
 };
 

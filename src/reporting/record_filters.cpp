@@ -1,6 +1,5 @@
 #include "reporting/record_filters.h"
 
-#include <algorithm>
 #include <compare>
 
 #include "foundation/attempt.h"
@@ -22,10 +21,19 @@ std::int32_t Bound(const std::string& date) {
     return day;
 }
 
+std::int32_t NumberOf(std::string_view time) {
+    return time.empty() ? 0 : TimeNo(time);
+}
+
 std::optional<std::int32_t> Bounding(const std::string& time) {
     std::optional<std::int32_t> number;
-    Attempt([&] { number = time.empty() ? 0 : TimeNo(time); });
+    Attempt([&] { number = NumberOf(time); });
     return number;
+}
+
+// Throws for a time that is none and for a column that the statement did not return.
+std::int32_t TimeOf(const ado::Recordset& calls, const CallColumns& columns) {
+    return NumberOf(calls.Text(columns.time));
 }
 
 // Compares as if every ":" of `left` were gone; `right` has none.
@@ -70,23 +78,16 @@ bool RecordFilters::KeepsDate(const ado::Recordset& calls, const CallColumns& co
 
 bool RecordFilters::KeepsTime(const ado::Recordset& calls, const CallColumns& columns) const {
     if (!byTime_) return true;
-    const std::string_view time = FieldText(calls, columns.time);
-    if (timeRule_ == TimeRule::Schedule) return WithinSchedule(time);
     return TestOrEnter([&] {
-        const std::int32_t t = TimeNo(time);
-        return (!from_ || t > *from_) && (!to_ || t < *to_);
+        const std::int32_t time = TimeOf(calls, columns);
+        return timeRule_ == TimeRule::Schedule ? WithinSchedule(time) : PastStart(time) && BeforeEnd(time);
     });
 }
 
-// The two nested tests of a schedule: past the start, the end decides; at or before
-// the start only a schedule without one goes on to the end.
-bool RecordFilters::WithinSchedule(std::string_view time) const {
-    return TestOrEnter([&] {
-        const std::int32_t t = time.empty() ? 0 : TimeNo(time);
-        const bool beforeEnd = !to_ || t < *to_;
-        if (!from_ || t > *from_) return beforeEnd;
-        return startsEmpty_ && beforeEnd;
-    });
+// Past the start, the end decides; at or before the start only a schedule without one
+// goes on to the end.
+bool RecordFilters::WithinSchedule(std::int32_t time) const {
+    return (PastStart(time) || startsEmpty_) && BeforeEnd(time);
 }
 
 // Only calls before the opening time stay. The second test, on closing, adds nothing to

@@ -18,15 +18,18 @@ public:
     /// An empty opening time keeps no call.
     RecordFilters(const RunDescription& run, bool byHours, std::string_view opens, std::string_view closes);
 
-    /// Whether the current call of `calls` goes on. A test that cannot be made, as with
-    /// a time that is no time, is passed.
+    /// Whether the current call of `calls` goes on. A test of the time that cannot be made,
+    /// as with a time that is no time, is passed; a call whose date is no date takes the day
+    /// of the call before.
     bool Keeps(const ado::Recordset& calls, const CallColumns& columns);
 
 private:
     bool KeepsDate(const ado::Recordset& calls, const CallColumns& columns);
     bool KeepsTime(const ado::Recordset& calls, const CallColumns& columns) const;
     bool KeepsHours(const ado::Recordset& calls, const CallColumns& columns) const;
-    bool WithinSchedule(std::string_view time) const;
+    bool WithinSchedule(std::int32_t time) const;
+    bool PastStart(std::int32_t time) const { return !from_ || time > *from_; }
+    bool BeforeEnd(std::int32_t time) const { return !to_ || time < *to_; }
 
     TimeRule timeRule_;
     bool dropsBlankNumbers_;

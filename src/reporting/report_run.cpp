@@ -1,6 +1,7 @@
 #include "reporting/report_run.h"
 
 #include <algorithm>
+#include <span>
 #include <string>
 #include <system_error>
 
@@ -10,6 +11,7 @@
 #include "foundation/attempt.h"
 #include "foundation/database.h"
 #include "foundation/text_conversion.h"
+#include "platform/paths.h"
 #include "reporting/bar_graph.h"
 #include "reporting/cover_pages.h"
 #include "reporting/preset_request.h"
@@ -22,7 +24,8 @@ namespace {
 
 constexpr std::string_view kPageName = "rpt.tmp";
 constexpr std::string_view kCommaTextName = "rpt.csv";
-constexpr std::string_view kWorkingFiles[] = {kCommaTextName, kPageName, kCoverName, kBackPageName};
+constexpr std::string_view kPageFiles[] = {kCommaTextName, kPageName};
+constexpr std::string_view kCoverFiles[] = {kCoverName, kBackPageName};
 
 // The chart's size in pixels.
 constexpr int kGraphHeight = 200;
@@ -51,7 +54,8 @@ ReportRun::ReportRun(Application& application, ReportFlags& flags, RunProgress& 
     : application_(application), flags_(flags), progress_(progress) {}
 
 RunOutcome ReportRun::Make(const RunDescription& description) {
-    DeleteWorkingFiles();
+    DeleteWorkingFiles(kPageFiles);
+    if (description.rules.writesCovers) DeleteWorkingFiles(kCoverFiles);
     settings_ = ReadReportSettings(application_.settings);
     ReadKeys(description);
     Attempt([&] { OpenDatabase(application_.session); });
@@ -66,15 +70,15 @@ RunOutcome ReportRun::MakePage(const RunDescription& description) {
     return WritePage(description);
 }
 
-void ReportRun::DeleteWorkingFiles() const {
+void ReportRun::DeleteWorkingFiles(std::span<const std::string_view> names) const {
     std::error_code ignored;
-    for (const std::string_view name : kWorkingFiles) {
+    for (const std::string_view name : names) {
         std::filesystem::remove(application_.tempFolder / name, ignored);
     }
 }
 
 void ReportRun::ReadKeys(const RunDescription& description) {
-    const IniFile report(description.reportFile);
+    const IniFile report(FindIgnoringCase(description.reportFile));
     flags_.Read(report);
     options_ = ReadReportOptions(report);
 }
@@ -107,6 +111,7 @@ PageDescription ReportRun::DescribePage(const RunDescription& description) const
             .docsLocation = application_.session.DocsLocation,
             .version = application_.version,
             .generated = application_.clock.Now(),
+            .siteName = site_.name,
             .addressLines = site_.addressLines};
 }
 

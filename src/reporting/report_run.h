@@ -10,7 +10,9 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <span>
 #include <string>
+#include <string_view>
 
 #include "foundation/application.h"
 #include "foundation/run_progress.h"
@@ -29,7 +31,7 @@ enum class RunOutcome {
 };
 
 /// The working files of a run, in the folder for them. A run begins by deleting those of
-/// the run before, cover and back page included.
+/// the run before; cover and back page as well, where its rules write them.
 std::filesystem::path PageFile(const Application& application);       ///< rpt.tmp
 std::filesystem::path CommaTextFile(const Application& application);  ///< rpt.csv
 
@@ -46,7 +48,7 @@ public:
     const Site& FirstSite() const { return site_; }
 
 private:
-    void DeleteWorkingFiles() const;
+    void DeleteWorkingFiles(std::span<const std::string_view> names) const;
     void ReadKeys(const RunDescription& description);
     RunOutcome MakePage(const RunDescription& description);
     RunOutcome WritePage(const RunDescription& description);

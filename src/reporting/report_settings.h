@@ -3,7 +3,6 @@
 
 #include <string>
 
-#include "foundation/ado/recordset.h"
 #include "foundation/settings_store.h"
 
 namespace tallix {

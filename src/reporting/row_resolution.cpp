@@ -26,6 +26,34 @@ std::size_t FirstPrefix(NumberTable numbers) {
     return numbers == NumberTable::Areas ? 2 : 1;
 }
 
+// The column of a cell that shows a field as it stands; absent for any other cell.
+ado::Column ColumnOf(Cell cell, const CallColumns& columns) {
+    switch (cell) {
+        case Cell::Date:
+            return columns.date;
+        case Cell::Time:
+            return columns.time;
+        case Cell::Extension:
+            return columns.extension;
+        case Cell::Duration:
+            return columns.duration;
+        case Cell::SummedDuration:
+            return columns.summedDuration;
+        case Cell::NumRings:
+            return columns.numRings;
+        case Cell::Account:
+            return columns.account;
+        case Cell::OrigNum:
+            return columns.origNum;
+        case Cell::Trunk:
+            return columns.trunk;
+        case Cell::Site:
+            return columns.site;
+        default:
+            return {};
+    }
+}
+
 // A stored cost as pence: its text without any point.
 std::int32_t PenceOf(std::string_view cost) {
     char digits[32];
@@ -63,55 +91,32 @@ const std::vector<std::string_view>& RowResolver::Resolve(const ado::Recordset& 
 
 RowResolver::Next RowResolver::Add(Cell cell, const ado::Recordset& calls) {
     switch (cell) {
-        case Cell::Date:
-            AddField(FieldText(calls, columns_.date));
-            break;
-        case Cell::Time:
-            AddField(FieldText(calls, columns_.time));
-            break;
-        case Cell::Extension:
-            AddField(FieldText(calls, columns_.extension));
-            break;
         case Cell::Name:
-            AddField(names_.Find(FieldText(calls, columns_.extension)).value_or(""));
-            break;
-        case Cell::Duration:
-            AddField(FieldText(calls, columns_.duration));
-            break;
-        case Cell::SummedDuration:
-            AddField(FieldText(calls, columns_.summedDuration));
-            break;
-        case Cell::NumRings:
-            AddField(FieldText(calls, columns_.numRings));
+            AddName(calls);
             break;
         case Cell::Forward:
             AddForward(calls);
             break;
-        case Cell::Account:
-            AddField(FieldText(calls, columns_.account));
-            break;
         case Cell::DestNum:
             AddDestNum(calls);
             break;
-        case Cell::OrigNum:
-            AddField(FieldText(calls, columns_.origNum));
-            break;
         case Cell::Area:
             return AddArea(calls);
-        case Cell::Trunk:
-            AddField(FieldText(calls, columns_.trunk));
-            break;
-        case Cell::Site:
-            AddField(FieldText(calls, columns_.site));
-            break;
         case Cell::Country:
             AddCountry(calls);
             break;
         case Cell::Cost:
             AddCost(calls);
             break;
+        default:
+            AddField(FieldText(calls, ColumnOf(cell, columns_)));
+            break;
     }
     return Next::Cell;
+}
+
+void RowResolver::AddName(const ado::Recordset& calls) {
+    cells_.push_back(names_.Find(FieldText(calls, columns_.extension)).value_or(kBlankCell));
 }
 
 // A flag that is no number fails the test for 0 and so reads as "No".
@@ -127,7 +132,8 @@ bool RowResolver::IsOutside(const ado::Recordset& calls) const {
 }
 
 // A local number is shown with the site's dialling code, as it would be dialled from
-// anywhere else.
+// anywhere else. The length is tested first: a count of numbers, which has no `Internal`,
+// shows long numbers as they are.
 void RowResolver::AddDestNum(const ado::Recordset& calls) {
     const std::string_view number = FieldText(calls, columns_.destNum);
     const bool isLocal = !number.empty() && Len(number) <= kShortNumber && IsOutside(calls);
@@ -189,9 +195,10 @@ void RowResolver::AddStoredCost(const ado::Recordset& calls) {
     AddAmount(*cost, pence);
 }
 
+// Without a duration to look at, a call counts as one that never was.
 void RowResolver::AddPricedCost(const ado::Recordset& calls) {
     const std::string_view duration = FieldText(calls, columns_.duration);
-    if (duration == kNoDuration) return AddAmount(kNoCost, 0);
+    if (!columns_.duration || duration == kNoDuration) return AddAmount(kNoCost, 0);
     const CallPricing::Price price = pricing_.Of(duration, FieldText(calls, columns_.destNum));
     AddAmount(price.text, price.pence);
 }

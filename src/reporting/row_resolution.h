@@ -2,7 +2,7 @@
 // text of each, by a plain field or by lookups in the name, address book, area,
 // provider, country and cost tables.
 //
-//     RowResolver resolver(application, ...);
+//     RowResolver resolver(context, CallColumns(calls));
 //     const std::vector<std::string_view>& cells = resolver.Resolve(calls);
 //
 // This is the inside of the record loop: no cell allocates, none throws in the ordinary
@@ -59,6 +59,7 @@ private:
 
     Next Add(Cell cell, const ado::Recordset& calls);
     void AddField(std::string_view text) { cells_.push_back(text.empty() ? kBlankCell : text); }
+    void AddName(const ado::Recordset& calls);
     void AddForward(const ado::Recordset& calls);
     void AddDestNum(const ado::Recordset& calls);
     Next AddArea(const ado::Recordset& calls);

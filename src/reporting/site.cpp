@@ -13,10 +13,10 @@ namespace {
 
 constexpr std::string_view kMitel5000 = "Mitel 5000";
 
-constexpr std::array<std::string_view, 6> kAddressColumns = {"Name",  "Addy1", "Addy2",
-                                                             "Addy3", "Addy4", "Postcode"};
+constexpr std::array<std::string_view, 5> kAddressColumns = {"Addy1", "Addy2", "Addy3", "Addy4", "Postcode"};
 
 void ReadColumns(const ado::Recordset& sites, Site& site) {
+    Attempt([&] { site.name = sites.Text("Name"); });
     for (const std::string_view column : kAddressColumns) {
         Attempt([&] { site.addressLines.emplace_back(sites.Text(column)); });
     }

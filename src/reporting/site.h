@@ -2,6 +2,7 @@
 // voicemail number the rows use.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -14,7 +15,8 @@ namespace tallix {
 inline constexpr std::string_view kBlankCell = "&nbsp;";
 
 struct Site {
-    std::vector<std::string> addressLines;  ///< name first; none without a site
+    std::optional<std::string> name;        ///< nothing without a site
+    std::vector<std::string> addressLines;  ///< below the name
     std::string email;
     std::string voicemail;
     std::string areaCode;              ///< as stored, whatever the setting `AreaCode`

@@ -15,6 +15,7 @@ using test::ReadBytes;
 using test::ReadLines;
 using test::TestApplication;
 using ::testing::ElementsAre;
+using ::testing::StartsWith;
 
 class AutomatedBackupTest : public ::testing::Test {
 protected:
@@ -61,6 +62,8 @@ TEST_F(AutomatedBackupTest, StopsAtARawLineThatCannotBeCut) {
         test.Execute("DELETE FROM tblrawdata");
         test.Execute("INSERT INTO tblrawdata(Data, SiteID) VALUES (" + std::string(data) + ", '001')");
         EXPECT_THROW(WriteAutomatedBackup(test.application), ConversionError) << data;
+        EXPECT_THAT(ReadLines(File()), ElementsAre(StartsWith("INSERT INTO tblphonedata(")))
+            << "what was whole";
     }
 }
 

@@ -11,10 +11,6 @@ namespace {
 
 constexpr std::array<std::string_view, 7> kLongSymbols{"<=>", "<>", "<=", ">=", "!=", "==", "||"};
 
-bool IsDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-
 char Lower(char c) {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
 }

@@ -261,12 +261,12 @@ std::size_t Translation::GroupEnd(std::size_t from) const {
 std::vector<Piece> Translation::EqualRowsOrder() const {
     const std::size_t groups = FindBy("group");
     if (groups < pieces_.size()) {
+        if (At(GroupEnd(groups) - 1).Is("rollup")) return {};  // has an order of its own
         return {pieces_.begin() + static_cast<std::ptrdiff_t>(groups),
                 pieces_.begin() + static_cast<std::ptrdiff_t>(GroupEnd(groups))};
     }
     const bool calls = At(1).text == "*" && At(2).Is("from") && IsOneOf(At(3), kCallTables);
-    const bool ordered = FindBy("order") < pieces_.size();
-    if (!calls || (!ordered && !At(4).Is("where"))) return {};
+    if (!calls || !(At(4).Is("where") || At(4).Is("order"))) return {};  // a join may know the name twice
     return {{{TokenKind::Word, kCallNumber}, " ", std::string(kCallNumber)}};
 }
 

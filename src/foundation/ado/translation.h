@@ -5,8 +5,8 @@
 // The common sense of a statement, whichever server runs it:
 // - "..." and '...' are literals; a doubled delimiter stands for one, a backslash for
 //   itself. Only a word in apostrophes on the left of a comparison is a column.
-// - Text compares byte by byte, case and trailing blanks included; LIKE has % and _ and
-//   no escape character.
+// - Text compares byte by byte, case and trailing blanks included, where the tables have
+//   the collation of our schema; LIKE has % and _ and no escape character.
 // - A text column beside a bare number counts as the number that it begins with, 0 where
 //   it begins with none.
 // - NULL sorts before everything.
