@@ -1,12 +1,11 @@
 #include "shell/startup_sequence.h"
 
 #include <array>
-#include <filesystem>
-#include <system_error>
 #include <utility>
 
 #include "foundation/database.h"
 #include "platform/paths.h"
+#include "shell/installation_check.h"
 
 namespace tallix {
 namespace {
@@ -17,17 +16,9 @@ constexpr std::string_view kFactoryPassword = "norvadat";
 constexpr std::string_view kDefaultLanguage = "1033";
 constexpr std::string_view kDefaultCurrency = "\u00A3";
 
-constexpr char kDamagedInstallation[] =
-    "There is a problem with your Tallix Reports installation. Please reinstall!";
-
 std::string ReadOr(const SettingsStore& settings, std::string_view name, std::string_view defaultText) {
     std::string value = settings.Read(name);
     return value.empty() ? std::string(defaultText) : value;
-}
-
-bool FolderExists(const std::string& stored) {
-    std::error_code ignored;
-    return std::filesystem::is_directory(ToNativePath(stored), ignored);
 }
 
 }  // namespace
@@ -96,11 +87,7 @@ void StartupSequence::CheckFolders() {
     const std::array<std::string, 4> needed = {folder + "\\Reports", folder + "\\Reports\\Standard",
                                                folder + "\\Company Docs",
                                                application_.session.ReportsLocation + "\\Reports"};
-    for (const std::string& path : needed) {
-        if (FolderExists(path)) continue;
-        application_.prompts.Show({"Tallix Reports", kDamagedInstallation, MessageIcon::Critical});
-        End();
-    }
+    RequireFolders(needed, application_.prompts, [this] { End(); });
 }
 
 void StartupSequence::HandOver() {
