@@ -1,0 +1,104 @@
+#include "shell/settings_required_window.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "shell/settings_required.h"
+#include "ui/form_names.h"
+#include "ui/forms.h"
+#include "ui/style.h"
+
+namespace tallix {
+namespace {
+
+constexpr int kWidth = 56 * ui::kGrid;
+constexpr QRgb kPassed = qRgb(0, 255, 0);
+constexpr QRgb kFailed = qRgb(255, 0, 0);
+
+}  // namespace
+
+SettingsRequiredWindow::SettingsRequiredWindow(ui::Forms& forms, Application& application)
+    : Form(forms, "Tallix Reports Tool - Settings Required"),
+      application_(application),
+      address_(new QLineEdit(this)),
+      test_(new QPushButton("TEST", this)),
+      result_(new QLabel(this)),
+      save_(new QPushButton("Save Changes", this)),
+      exit_(new QPushButton("Exit Application", this)) {
+    MakeInputs();
+    MakeButtons();
+    ArrangeRows();
+}
+
+void SettingsRequiredWindow::MakeInputs() {
+    address_->setToolTip("Enter an IP address");
+    result_->setObjectName("Result");
+    QFont bold = result_->font();
+    bold.setBold(true);
+    result_->setFont(bold);
+    connect(address_, &QLineEdit::returnPressed, this, &SettingsRequiredWindow::TestAddress);
+}
+
+void SettingsRequiredWindow::MakeButtons() {
+    test_->setToolTip("Click here to test this IP");
+    save_->setToolTip("Click here to save your changes");
+    save_->setEnabled(false);
+    exit_->setToolTip("Click here to exit");
+    exit_->setShortcut(Qt::Key_Escape);
+    for (QPushButton* button : {test_, save_, exit_}) button->setAutoDefault(true);
+    connect(test_, &QPushButton::clicked, this, &SettingsRequiredWindow::TestAddress);
+    connect(save_, &QPushButton::clicked, this, &SettingsRequiredWindow::SaveChanges);
+    connect(exit_, &QPushButton::clicked, this, &SettingsRequiredWindow::Unload);
+}
+
+void SettingsRequiredWindow::ArrangeRows() {
+    setFixedWidth(kWidth);
+    auto* label = new QLabel("Tallix Database IP Address:", this);
+    label->setBuddy(address_);
+    auto* rows = new QVBoxLayout(this);
+    rows->setContentsMargins(ui::kMargin, ui::kMargin, ui::kMargin, ui::kMargin);
+    rows->setSpacing(ui::kSpacing);
+    rows->addWidget(label);
+    rows->addLayout(AddressRow());
+    rows->addWidget(result_);
+    rows->addSpacing(ui::kSpacing);
+    rows->addLayout(ButtonRow());
+    rows->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+QLayout* SettingsRequiredWindow::AddressRow() {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(ui::kSpacing);
+    row->addWidget(address_, 1);
+    row->addWidget(test_);
+    return row;
+}
+
+QLayout* SettingsRequiredWindow::ButtonRow() {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(ui::kSpacing);
+    row->addStretch();
+    row->addWidget(save_);
+    row->addWidget(exit_);
+    return row;
+}
+
+// Typing behind a pass changes nothing: the result and the button stay as they are.
+void SettingsRequiredWindow::TestAddress() {
+    const bool passed = IsDatabaseAddress(address_->text().toStdString());
+    save_->setEnabled(passed);
+    result_->setText(passed ? "PASSED!" : "FAILED!");
+    QPalette colours = result_->palette();
+    colours.setColor(QPalette::WindowText, QColor(passed ? kPassed : kFailed));
+    result_->setPalette(colours);
+}
+
+// The login comes even when folders are missing and this window has gone.
+void SettingsRequiredWindow::SaveChanges() {
+    SaveDatabaseAddress(application_, address_->text().toStdString(), [this] { Unload(); });
+    OtherForms().Load(ui::kLoginForm);
+    Unload();
+    OtherForms().Show(ui::kLoginForm);
+}
+
+}  // namespace tallix
