@@ -1,0 +1,86 @@
+#include "shell/access_logging_window.h"
+
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include "foundation/access_log.h"
+#include "ui/form_names.h"
+#include "ui/forms.h"
+#include "ui/style.h"
+
+namespace tallix {
+namespace {
+
+const std::vector<ui::ListColumn>& Columns() {
+    static const std::vector<ui::ListColumn> columns = {
+        {"Date", 1000},
+        {"Time", 900, Qt::AlignHCenter},
+        {"User", ui::kPlainColumnWidth, Qt::AlignHCenter},
+        {"Description", 5330},
+    };
+    return columns;
+}
+
+}  // namespace
+
+AccessLoggingWindow::AccessLoggingWindow(ui::Forms& forms, Application& application)
+    : Form(forms, "Tallix Reports Tool - Access Logging"),
+      application_(application),
+      list_(new ui::ListView(Columns(), this)) {
+    auto* rows = new QVBoxLayout(this);
+    rows->setContentsMargins(ui::kMargin, ui::kMargin, ui::kMargin, ui::kMargin);
+    rows->setSpacing(ui::kSpacing * 2);
+    auto* purpose =
+        new QLabel("This screen shows all items in the access log created by the reporting tool.", this);
+    rows->addWidget(purpose);
+    rows->addWidget(ListFrame(), 1);
+    rows->addLayout(ButtonRow());
+}
+
+QWidget* AccessLoggingWindow::ListFrame() {
+    auto* frame = new QGroupBox("Access Log", this);
+    list_->setAccessibleName(frame->title());
+    auto* inside = new QVBoxLayout(frame);
+    inside->setContentsMargins(ui::kSpacing, ui::kSpacing, ui::kSpacing, ui::kSpacing);
+    inside->addWidget(list_);
+    return frame;
+}
+
+QLayout* AccessLoggingWindow::ButtonRow() {
+    auto* exportLog = Button("Export Log");
+    auto* clearLog = Button("Clear Log");
+    auto* exit = Button("Exit Logging Screen");
+    exit->setToolTip("Close and save changes");
+    exit->setShortcut(Qt::Key_Escape);
+    connect(exportLog, &QPushButton::clicked, this,
+            [this] { ExportAccessLog(application_.session, application_.folder); });
+    // The list keeps its rows until the window is opened again.
+    connect(clearLog, &QPushButton::clicked, this,
+            [this] { ClearAccessLog(application_.session, application_.clock); });
+    connect(exit, &QPushButton::clicked, this, &AccessLoggingWindow::Unload);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(ui::kSpacing);
+    row->addWidget(exportLog);
+    row->addWidget(clearLog);
+    row->addStretch();
+    row->addWidget(exit);
+    return row;
+}
+
+QPushButton* AccessLoggingWindow::Button(const QString& caption) {
+    auto* button = new QPushButton(caption, this);
+    button->setAutoDefault(true);
+    return button;
+}
+
+void AccessLoggingWindow::OnLoad() {
+    list_->Rows().Set(ReadAccessLog(application_.session));
+}
+
+void AccessLoggingWindow::OnUnload() {
+    OtherForms().Show(ui::kOptionsForm);
+}
+
+}  // namespace tallix
