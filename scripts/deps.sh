@@ -1,15 +1,16 @@
 #!/bin/sh
 # Installs the Debian packages that building, running and testing need. Does nothing
-# when all of them are there. The database servers and cron come for the tests, which
-# start their own: none of them is left running.
+# when all of them are there. The database servers, the print spooler and cron come for
+# the tests, which start their own: none of them is left running.
 set -eu
 
 packages="
     cmake ninja-build g++ pkg-config ccache dpkg-dev
     libsqlite3-dev libmariadb-dev libpq-dev unixodbc-dev libcurl4-openssl-dev libzip-dev libfmt-dev
-    qt6-base-dev libgl-dev
+    qt6-base-dev qt6-svg-dev qt6-webengine-dev libgl-dev libcups2-dev libqpdf-dev
     libgtest-dev libgmock-dev
     mariadb-server mariadb-client postgresql odbc-postgresql tdsodbc sqlite3 cron
+    cups cups-client cups-filters poppler-utils
     python3-aiosmtpd xvfb xauth imagemagick fonts-dejavu-core
     clang-format clang-tidy procps time iproute2 util-linux
 "

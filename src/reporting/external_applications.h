@@ -14,6 +14,13 @@
 
 namespace tallix {
 
+/// Where the folder of OpenOffice.org 3.0 is found under "HKLM": the value names the
+/// program behind the folder, and the command cuts it off. Its kin record themselves
+/// in the same place.
+inline constexpr std::string_view kOpenOffice3Key = "Software\\OpenOffice.org\\OpenOffice.org\\3.0";
+inline constexpr std::string_view kOpenOffice3Value = "Path";
+inline constexpr std::string_view kOpenOffice3Program = "\\soffice.exe";
+
 /// The entries of the application list, in their order: those whose folder the
 /// settings name, and the text editor, which is always there.
 std::vector<std::string> ExternalApplications(const SettingsStore& settings);
