@@ -37,6 +37,7 @@ AccessLoggingWindow::AccessLoggingWindow(ui::Forms& forms, Application& applicat
     rows->addWidget(purpose);
     rows->addWidget(ListFrame(), 1);
     rows->addLayout(ButtonRow());
+    resize(sizeHint());  // all columns, also where that is more than the desktop would give at first
 }
 
 QWidget* AccessLoggingWindow::ListFrame() {

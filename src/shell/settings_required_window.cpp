@@ -11,7 +11,7 @@
 namespace tallix {
 namespace {
 
-constexpr int kWidth = 56 * ui::kGrid;
+constexpr int kFieldWidth = 36 * ui::kGrid;
 constexpr QRgb kPassed = qRgb(0, 255, 0);
 constexpr QRgb kFailed = qRgb(255, 0, 0);
 
@@ -32,6 +32,7 @@ SettingsRequiredWindow::SettingsRequiredWindow(ui::Forms& forms, Application& ap
 
 void SettingsRequiredWindow::MakeInputs() {
     address_->setToolTip("Enter an IP address");
+    address_->setMinimumWidth(kFieldWidth);
     result_->setObjectName("Result");
     QFont bold = result_->font();
     bold.setBold(true);
@@ -52,7 +53,6 @@ void SettingsRequiredWindow::MakeButtons() {
 }
 
 void SettingsRequiredWindow::ArrangeRows() {
-    setFixedWidth(kWidth);
     auto* label = new QLabel("Tallix Database IP Address:", this);
     label->setBuddy(address_);
     auto* rows = new QVBoxLayout(this);
@@ -60,8 +60,7 @@ void SettingsRequiredWindow::ArrangeRows() {
     rows->setSpacing(ui::kSpacing);
     rows->addWidget(label);
     rows->addLayout(AddressRow());
-    rows->addWidget(result_);
-    rows->addSpacing(ui::kSpacing);
+    rows->addSpacing(ui::kSpacing * 2);
     rows->addLayout(ButtonRow());
     rows->setSizeConstraint(QLayout::SetFixedSize);
 }
@@ -77,7 +76,7 @@ QLayout* SettingsRequiredWindow::AddressRow() {
 QLayout* SettingsRequiredWindow::ButtonRow() {
     auto* row = new QHBoxLayout;
     row->setSpacing(ui::kSpacing);
-    row->addStretch();
+    row->addWidget(result_, 1);
     row->addWidget(save_);
     row->addWidget(exit_);
     return row;

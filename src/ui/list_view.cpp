@@ -5,14 +5,27 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QScrollBar>
+#include <QStyledItemDelegate>
 #include <algorithm>
 #include <utility>
+
+#include "ui/style.h"
 
 namespace tallix::ui {
 namespace {
 
-constexpr int kTwipsPerInch = 1440;
+constexpr int kTwipsPerDigit = 90;
 constexpr int kRowsInView = 12;
+
+/// Gives the rows some air.
+class RowDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, kGrid);
+    }
+};
 
 }  // namespace
 
@@ -81,6 +94,7 @@ ListView::ListView(const std::vector<ListColumn>& columns, QWidget* parent)
     setAllColumnsShowFocus(true);
     setEditTriggers(NoEditTriggers);
     setSelectionMode(SingleSelection);
+    setItemDelegate(new RowDelegate(this));
     SetUpColumns();
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, &ListView::SelectionMoved);
     connect(rows_, &QAbstractItemModel::modelReset, this, &ListView::SelectionMoved);
@@ -96,7 +110,7 @@ void ListView::SetUpColumns() {
 }
 
 int ListView::WidthOf(const ListColumn& column) const {
-    return column.twips * logicalDpiX() / kTwipsPerInch;
+    return column.twips * fontMetrics().horizontalAdvance('0') / kTwipsPerDigit;
 }
 
 int ListView::SelectedRow() const {
@@ -106,10 +120,11 @@ int ListView::SelectedRow() const {
 
 /// As wide as all columns, with a scroll bar beside them.
 QSize ListView::sizeHint() const {
-    const int edges = 2 * frameWidth();
-    const int rowHeight = fontMetrics().height() + 2 * style()->pixelMetric(QStyle::PM_FocusFrameVMargin);
-    return {header()->length() + verticalScrollBar()->sizeHint().width() + edges,
-            header()->sizeHint().height() + kRowsInView * rowHeight + edges};
+    int width = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this) + kGrid;
+    for (const ListColumn& column : rows_->Columns()) width += WidthOf(column);
+    const int rowHeight = fontMetrics().height() + kGrid;
+    return {width + 2 * frameWidth(),
+            header()->sizeHint().height() + kRowsInView * rowHeight + 2 * frameWidth()};
 }
 
 void ListView::keyPressEvent(QKeyEvent* event) {

@@ -13,7 +13,8 @@
 
 namespace tallix::ui {
 
-/// The width of a column for which none is told, in twips (1440 to the inch).
+/// The width of a column for which none is told. Widths are in twips of a font whose
+/// digits are 90 wide, and grow with the font of the list.
 inline constexpr int kPlainColumnWidth = 1440;
 
 struct ListColumn {

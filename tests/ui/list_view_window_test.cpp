@@ -44,7 +44,7 @@ TEST_F(ListViewTest, ShowsTextInColumnsOfTheirWidthInTheOrderAdded) {
     EXPECT_EQ(list->Rows().Text(2, 1), "");
     EXPECT_EQ(list->Rows().All()[1], (ListRow{"0033", "2.00", "unseen"}));
 
-    EXPECT_EQ(list->columnWidth(0), 1500 * list->logicalDpiX() / 1440);
+    EXPECT_EQ(list->columnWidth(0), 1500 * list->fontMetrics().horizontalAdvance('0') / 90);
     EXPECT_EQ(list->header()->length(), list->viewport()->width()) << "the last column takes the rest";
     EXPECT_EQ(list->Rows().headerData(1, Qt::Horizontal, Qt::DisplayRole), "Cost");
     const QVariant alignment = list->Rows().data(list->Rows().index(0, 1), Qt::TextAlignmentRole);
