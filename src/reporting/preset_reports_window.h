@@ -1,0 +1,116 @@
+// The Preset Reports window ("Form7"): a person picks a report, fills in what it asks for
+// and runs it. However a run ends, the window is unloaded with it, and the main menu
+// shows again.
+#pragma once
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QStringListModel>
+#include <array>
+#include <vector>
+
+#include "foundation/application.h"
+#include "reporting/catalogue.h"
+#include "reporting/destinations.h"
+#include "reporting/preset_request.h"
+#include "ui/calendar_panel.h"
+#include "ui/form.h"
+#include "ui/printers.h"
+#include "ui/progress_panel.h"
+
+namespace tallix {
+
+class PresetReportsWindow : public ui::Form {
+    Q_OBJECT
+public:
+    /// `application`, `printers` and `flags`, the process's report switches, must outlive
+    /// the window.
+    PresetReportsWindow(ui::Forms& forms, Application& application, ReportFlags& flags,
+                        ui::Printers& printers);
+
+protected:
+    void OnLoad() override;
+    void OnUnload() override;
+
+    /// Not followed while a run is going: it ends by unloading the window.
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    struct DateInput {
+        QCheckBox* box;
+        QLineEdit* field;
+        QPushButton* calendar;
+    };
+
+    QWidget* ReportColumn();
+    QLayout* FilterColumn();
+    QGridLayout* FilterGrid();
+    void AddRow(QGridLayout& grid, Input input, const QString& caption, const std::vector<QWidget*>& inputs);
+    void AddDateRows(QGridLayout& grid);
+    DateInput MakeDateInput(const QString& caption);
+    void NameInputs();
+    void FillDestinationFrame();
+    QLayout* ButtonRow();
+    void ConnectInputs();
+    void FillLists();
+
+    void SelectReport();
+    void EnableInputs(const EnabledInputs& enabled);
+    void EnableDestinationLists();
+    void OpenCalendar(QLineEdit& asking);
+
+    void RunReport();
+    RunDescription Describe() const;
+    DestinationChoice Choice() const;
+    void BeginRun();
+    void EndRun();
+    void Refuse(const Message& refusal);
+    void TellNoData();
+    void Deliver();
+
+    Application& application_;
+    ReportFlags& flags_;
+    ui::Printers& printers_;
+
+    QWidget* content_;
+    QListView* reports_;
+    QStringListModel* reportNames_;
+    std::array<std::vector<QWidget*>, kInputs> inputs_;  ///< labels included
+    EnabledInputs enabled_;
+    DateInput start_{};
+    DateInput end_{};
+    QComboBox* timeFrom_;
+    QComboBox* timeTo_;
+    QLineEdit* extension_;
+    QLineEdit* account_;
+    QComboBox* site_;
+    QComboBox* group_;
+    QLineEdit* duration_;
+    QRadioButton* greaterThan_;
+    QRadioButton* lessThan_;
+    QCheckBox* graph_;
+
+    QGroupBox* destinationFrame_;
+    QRadioButton* onScreen_;
+    QRadioButton* toPrinter_;
+    QRadioButton* inApplication_;
+    QComboBox* printerList_;
+    QComboBox* applicationList_;
+
+    QPushButton* run_;
+    QPushButton* cancel_;
+    ui::CalendarPanel* calendar_;
+    QLineEdit* asking_ = nullptr;  ///< the date field that the calendar writes into
+    ui::ProgressPanel* progress_;
+    ui::ProgressLine* records_;
+    bool running_ = false;
+};
+
+}  // namespace tallix
