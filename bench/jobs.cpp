@@ -3,9 +3,6 @@
 #include <fmt/format.h>
 
 #include <QApplication>
-#include <QLabel>
-#include <QProgressBar>
-#include <QVBoxLayout>
 #include <fstream>
 
 #include "costing/cost_computation.h"
@@ -13,6 +10,7 @@
 #include "floors.h"
 #include "foundation/database.h"
 #include "reporting/report_run.h"
+#include "ui/progress_panel.h"
 #include "ui/qt_events.h"
 
 namespace tallix::bench {
@@ -20,43 +18,6 @@ namespace tallix::bench {
 namespace {
 
 constexpr const char* kAllCalls = "SELECT * FROM tblphonedata";
-
-// A progress panel as a window shows it: bar and text follow every record, events are
-// served at every record.
-class ShownProgress : public RunProgress {
-public:
-    ShownProgress() {
-        auto* layout = new QVBoxLayout(&panel_);
-        layout->addWidget(&text_);
-        layout->addWidget(&bar_);
-        panel_.show();
-    }
-    ~ShownProgress() override {
-        text_.setParent(nullptr);
-        bar_.setParent(nullptr);
-    }
-
-    void Record(std::int64_t record, std::int64_t bound) override {
-        if (record == 1) bar_.setMaximum(static_cast<int>(bound));
-        record_ = record;
-        if (const auto now = std::chrono::steady_clock::now(); now - painted_ > kPaint) {
-            painted_ = now;
-            bar_.setValue(static_cast<int>(record));
-            text_.setText(QString("Processing Record %1 Of %2").arg(record).arg(bound));
-        }
-        events_.Serve();
-    }
-
-private:
-    static constexpr std::chrono::milliseconds kPaint{50};
-
-    QWidget panel_;
-    QLabel text_;
-    QProgressBar bar_;
-    ui::QtEvents events_;
-    std::int64_t record_ = 0;
-    std::chrono::steady_clock::time_point painted_{};
-};
 
 void WriteReport(World& world, const std::string& name, const std::string& columns,
                  const std::string& options) {
@@ -105,8 +66,13 @@ std::int64_t PresetPage(World& world) {
     world.application.settings.Write("CostCompute", "1");
     int none = 0;
     QApplication toolkit(none, nullptr);
-    ShownProgress progress;
-    return RunReport(world, kAllColumns, kWithCost, kPresetRules, progress);
+    QWidget window;
+    ui::QtEvents events;
+    ui::ProgressPanel panel(window, "Please Wait", "Your selected report is being generated.");
+    ui::ProgressLine& records = panel.AddLine(events, "Processing Record %1 Of %2");
+    panel.show();
+    window.show();
+    return RunReport(world, kAllColumns, kWithCost, kPresetRules, records);
 }
 
 std::int64_t Costs(World& world) {
