@@ -2,11 +2,11 @@
 
 #include <gtest/gtest.h>
 
-#include <cctype>
 #include <map>
 #include <regex>
 #include <set>
 
+#include "foundation/text_conversion.h"
 #include "support/temp_folder.h"
 
 namespace tallix {
@@ -16,9 +16,8 @@ using Tables = std::map<std::string, std::set<std::string>>;
 
 /// Tables and their columns as a schema file names them, in lower case.
 Tables TablesOf(const std::string& file) {
-    std::string text = test::ReadBytes(std::filesystem::path(TALLIX_SOURCE_DIR "/data/schema") / file);
-    for (char& character : text)
-        character = static_cast<char>(std::tolower(static_cast<unsigned char>(character)));
+    const std::string text =
+        LowerCase(test::ReadBytes(std::filesystem::path(TALLIX_SOURCE_DIR "/data/schema") / file));
     static const std::regex kTable("create table (?:if not exists )?(\\w+) \\(");
     static const std::regex kColumn("\n  [\\[\"`]?(\\w+)");
     Tables tables;
@@ -40,11 +39,6 @@ TEST(Schema, IsTheSameOnEveryServer) {
     EXPECT_TRUE(tables.at("tblsite").contains("3ptdatabase"));
     for (const char* file : {"mysql.sql", "postgres.sql", "sqlserver.sql"})
         EXPECT_EQ(TablesOf(file), tables) << file;
-}
-
-TEST(Schema, SplitsItsFilesAtBlankLines) {
-    const std::vector<std::string> statements{"CREATE a (\n  b;\n);\n", "c;\n"};
-    EXPECT_EQ(SchemaStatements("-- why\n\nCREATE a (\n-- what\n  b;\n);\n \n\nc;"), statements);
 }
 
 }  // namespace
