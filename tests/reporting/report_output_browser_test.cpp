@@ -1,0 +1,212 @@
+// A report on its way to the screen and to a printer, through the real browser and the
+// real print system.
+#include "reporting/report_output_window.h"
+
+#include <gmock/gmock.h>
+#include <signal.h>
+
+#include <QElapsedTimer>
+
+#include "foundation/ado/recordset.h"
+#include "foundation/database.h"
+#include "foundation/page_setup.h"
+#include "reporting/destinations_window.h"
+#include "reporting/report_run.h"
+#include "support/print_server.h"
+#include "support/run_program.h"
+#include "support/test_application.h"
+#include "support/window_test.h"
+#include "ui/form_names.h"
+
+namespace tallix {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+constexpr char kPrinter[] = "Front_Office";
+constexpr char kWaiting[] = "Your report is being displayed";
+constexpr char kFailed[] = "Report Failed to Load!";
+
+/// Takes the answer of the print dialog from the test.
+class ScriptedPrinters : public ui::Printers {
+public:
+    std::optional<PrintTicket> Ask(QWidget*) const override { return answer; }
+
+    std::optional<PrintTicket> answer;
+};
+
+class ReportOutputTest : public test::WindowTest {
+protected:
+    ReportOutputTest() {
+        for (const char* name : {ui::kMainForm, ui::kPresetReportsForm}) {
+            forms.Register(name, [this, name] { return std::make_unique<ui::Form>(forms, name); });
+        }
+        forms.Register(ui::kReportOutputForm, [this] {
+            return std::make_unique<ReportOutputWindow>(forms, test_.application, printers_);
+        });
+        test_.application.session.CurrentAccess = std::string(42, '1');
+        forms.Load(ui::kMainForm);
+        forms.Load(ui::kPresetReportsForm);
+    }
+    ~ReportOutputTest() override {
+        for (const QString& name : forms.Loaded()) forms.Unload(name);
+        RunToTheEnd(std::chrono::milliseconds(100));
+    }
+
+    /// A page of the coloured layout with so many calls.
+    void WritePage(int calls) {
+        for (int call = 0; call < calls; ++call) test_.InsertCall();
+        for (const char* colour : {"rptTC", "rptTHC", "rptTDC", "rptTBC"}) {
+            test_.settings.Write(colour, "000128255");
+        }
+        test_.settings.Write("V1Reports", "1");
+        test_.Execute("INSERT INTO tblsite(ID, Name) VALUES ('1', 'Caf\xC3\xA9')");
+        const auto file = test_.WriteReport("Calls", {{"Date", "True"}, {"DestNum", "True"}}, {});
+        ReportFlags flags;
+        NoProgress progress;
+        ReportRun(test_.application, flags, progress)
+            .Make({.reportName = "Calls", .reportFile = file, .rules = kPresetRules});
+    }
+
+    void Deliver(const DestinationChoice& choice) {
+        DeliverReport(forms, test_.application, printers_, choice, ui::kPresetReportsForm);
+    }
+
+    template <typename Condition>
+    bool WaitFor(Condition condition) {
+        QElapsedTimer waited;
+        waited.start();
+        while (!condition() && waited.elapsed() < kPatience) {
+            QApplication::processEvents(QEventLoop::AllEvents, kPause);
+        }
+        return condition();
+    }
+
+    QWidget* Output() { return forms.Find(ui::kReportOutputForm); }
+    QWidget* WaitingFrame() { return Output()->findChild<QWidget*>("WaitingFrame"); }
+    QPushButton* Button(const QString& caption) {
+        for (auto* button : Output()->findChildren<QPushButton*>()) {
+            if (button->text() == caption) return button;
+        }
+        return nullptr;
+    }
+    bool Says(const QString& text) {
+        for (const QLabel* label : Output()->findChildren<QLabel*>()) {
+            if (label->text() == text && label->isVisible()) return true;
+        }
+        return false;
+    }
+    std::vector<std::string> LoggedEvents() {
+        Session& session = test_.application.session;
+        OpenDatabase(session);
+        ado::Recordset rows;
+        rows.Open("SELECT * FROM tbllogging", OpenConnection(session));
+        std::vector<std::string> events;
+        for (std::int64_t i = 0; i < rows.RecordCount(); ++i, rows.MoveNext()) {
+            events.emplace_back(rows.Text("Data"));
+        }
+        CloseDatabase(session);
+        return events;
+    }
+
+    static constexpr int kPatience = 15000;
+    static constexpr int kPause = 20;
+
+    test::TestApplication test_;
+    ScriptedPrinters printers_;
+};
+
+std::string TextOf(const std::filesystem::path& pdf) {
+    return test::RunProgram("/usr/bin/pdftotext", {"-layout", pdf.string(), "-"}).out;
+}
+
+TEST_F(ReportOutputTest, ShowsTheReportAndDeletesItWhenClosed) {
+    WritePage(3);
+    forms.Show(ui::kMainForm);
+    Deliver({});
+    ASSERT_TRUE(Output()->isVisible());
+    EXPECT_FALSE(forms.Find(ui::kMainForm)->isVisible());
+    EXPECT_EQ(forms.Find(ui::kPresetReportsForm), nullptr);
+    EXPECT_TRUE(Says(kWaiting));
+    EXPECT_TRUE(WaitFor([&] { return !WaitingFrame()->isVisible(); }));
+
+    auto* view = Output()->findChild<QWebEngineView*>();
+    EXPECT_EQ(view->title(), "Tallix Reports - Calls");
+    QString text;
+    view->page()->toPlainText([&](const QString& shown) { text = shown; });
+    EXPECT_TRUE(WaitFor([&] { return !text.isEmpty(); }));
+    EXPECT_THAT(text.toStdString(), HasSubstr("Caf\xC3\xA9"));
+    EXPECT_THAT(text.toStdString(), HasSubstr("Total Number Of Records: 3"));
+
+    Button("Close")->click();
+    EXPECT_TRUE(forms.Find(ui::kMainForm)->isVisible());
+    EXPECT_FALSE(std::filesystem::exists(PageFile(test_.application)));
+}
+
+TEST_F(ReportOutputTest, PrintsEachPageWithItsNumberAlthoughTheWindowIsGone) {
+    const test::PrintServer server(kPrinter);
+    WritePage(150);
+    WritePageSetup(test_.settings, {"mine", "&bmine too"});
+    Deliver({.destination = Destination::ToPrinter, .printer = kPrinter});
+    EXPECT_EQ(Output(), nullptr);
+    EXPECT_FALSE(std::filesystem::exists(PageFile(test_.application)));
+    const PageSetup kept = ReadPageSetup(test_.settings);
+    EXPECT_EQ(kept.header + "|" + kept.footer, "mine|&bmine too");
+
+    ASSERT_TRUE(WaitFor([&] { return !server.Jobs().empty(); }));
+    const std::string text = TextOf(server.Jobs().front());
+    EXPECT_THAT(text, HasSubstr("Caf\xC3\xA9"));
+    EXPECT_THAT(text, HasSubstr("Page 1 of 3\n"));
+    EXPECT_THAT(text, HasSubstr("Page 3 of 3\n"));
+    EXPECT_THAT(text, testing::Not(HasSubstr("mine")));
+    EXPECT_THAT(LoggedEvents(), ElementsAre("Report Run - Calls"));
+}
+
+TEST_F(ReportOutputTest, APrinterThatIsGonePrintsNothingAndLeavesTheRequestOpen) {
+    const test::PrintServer server(kPrinter);
+    WritePage(1);
+    Deliver({.destination = Destination::ToPrinter, .printer = "Back_Office"});
+    EXPECT_NE(forms.Find(ui::kPresetReportsForm), nullptr);
+    EXPECT_EQ(Output(), nullptr);
+    EXPECT_FALSE(SpoolDocument({.printer = "Back_Office"}, "%PDF-1.4"));
+}
+
+TEST_F(ReportOutputTest, PrintReportIsLoggedWhetherOrNotThePersonPrints) {
+    const test::PrintServer server(kPrinter);
+    WritePage(1);
+    Deliver({});
+    EXPECT_TRUE(WaitFor([&] { return !WaitingFrame()->isVisible(); }));
+    Button("Print Report")->click();
+    printers_.answer = PrintTicket{.printer = kPrinter};
+    Button("Print Report")->click();
+    EXPECT_TRUE(WaitFor([&] { return !server.Jobs().empty(); }));
+    EXPECT_EQ(server.Jobs().size(), 1U);
+    EXPECT_THAT(TextOf(server.Jobs().front()), HasSubstr("Page 1 of 1\n"));
+    EXPECT_THAT(LoggedEvents(), ElementsAre("Report Run - Calls", "Report Printed", "Report Printed"));
+}
+
+TEST_F(ReportOutputTest, WithoutTheRightThereIsNoPrintButton) {
+    test_.application.session.CurrentAccess[6] = '0';
+    Deliver({});
+    EXPECT_FALSE(Button("Print Report")->isVisible());
+    EXPECT_FALSE(Button("Export As PDF")->isVisible());
+}
+
+TEST_F(ReportOutputTest, AReportThatIsGoneAndADeadRendererSaySoAndLeaveTheProgramAlive) {
+    Deliver({});
+    EXPECT_TRUE(WaitFor([&] { return Says(kFailed); }));
+    Button("Close")->click();
+
+    WritePage(1);
+    Deliver({});
+    EXPECT_TRUE(WaitFor([&] { return !WaitingFrame()->isVisible(); }));
+    const auto renderer = Output()->findChild<QWebEngineView*>()->page()->renderProcessPid();
+    ASSERT_GT(renderer, 0);
+    kill(static_cast<pid_t>(renderer), SIGKILL);
+    EXPECT_TRUE(WaitFor([&] { return Says(kFailed); }));
+    EXPECT_TRUE(Output()->isVisible());
+}
+
+}  // namespace
+}  // namespace tallix
