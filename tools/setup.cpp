@@ -17,6 +17,7 @@
 #include "foundation/prompts.h"
 #include "foundation/schema.h"
 #include "foundation/settings_store.h"
+#include "office_suite.h"
 #include "platform/paths.h"
 #include "reference_data.h"
 #include "settings_seed.h"
@@ -116,6 +117,7 @@ void SetUp(const SetupOptions& options, std::ostream& out) {
     Session session = SessionFor(choice);
     Reach(session, out);
     SeedSettings(choice, settings, out);
+    RecordOfficeSuite(OfficeFolders(), settings, out);
     file.Keep();
     FillDatabase(options, session, settings, out);
     CloseDatabase(session);
