@@ -77,7 +77,8 @@ private:
     std::unordered_set<std::string, TextHash, std::equal_to<>> doubtful_;
 };
 
-KeyLookup::KeyLookup(Session& session, const KeyLookupNames& names) : session_(session), names_(names) {}
+KeyLookup::KeyLookup(Session& session, EventQueue& events, const KeyLookupNames& names)
+    : session_(session), events_(events), names_(names) {}
 
 KeyLookup::~KeyLookup() = default;
 
@@ -108,7 +109,7 @@ std::optional<std::string> KeyLookup::FirstValue(std::string_view key) {
 
 void KeyLookup::ReadTable() {
     triedTable_ = true;
-    Attempt([&] { table_ = std::make_unique<Table>(session_, names_); });
+    Attempt([&] { events_.ServeDuring([&] { table_ = std::make_unique<Table>(session_, names_); }); });
 }
 
 }  // namespace tallix

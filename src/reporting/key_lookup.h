@@ -18,6 +18,7 @@
 #include <vector>
 
 #include "foundation/ado/recordset.h"
+#include "foundation/event_queue.h"
 #include "foundation/session.h"
 
 namespace tallix {
@@ -31,8 +32,9 @@ struct KeyLookupNames {
 
 class KeyLookup {
 public:
-    /// `session` must have its connection open for as long as the lookup is asked.
-    KeyLookup(Session& session, const KeyLookupNames& names);
+    /// `session` must have its connection open for as long as the lookup is asked. `events`
+    /// are served while the table is read.
+    KeyLookup(Session& session, EventQueue& events, const KeyLookupNames& names);
     ~KeyLookup();
 
     /// The value of the first row with the key: the empty text where it is NULL, nothing
@@ -54,6 +56,7 @@ private:
     void ReadTable();
 
     Session& session_;
+    EventQueue& events_;
     KeyLookupNames names_;
     Memo answers_;
     bool triedTable_ = false;

@@ -154,6 +154,7 @@ PageTotals ReportRun::WriteRows(const RunDescription& description, ado::Recordse
         Tariff tariff(application_.session);
         const RowContext context = {
             .session = application_.session,
+            .events = application_.events,
             .flags = flags_,
             .settings = settings_,
             .site = site_,

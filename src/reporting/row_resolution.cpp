@@ -70,9 +70,9 @@ RowResolver::RowResolver(const RowContext& context, const CallColumns& columns)
     : context_(context),
       columns_(columns),
       plan_(CellsOf(context.flags, context.settings.numbers)),
-      names_(context.session, kNames),
-      addressBook_(context.session, kAddressBook),
-      storedCosts_(context.session, kStoredCosts),
+      names_(context.session, context.events, kNames),
+      addressBook_(context.session, context.events, kAddressBook),
+      storedCosts_(context.session, context.events, kStoredCosts),
       areas_(context.session, std::string(NumberTableName(context.settings.numbers)), "Code", "Provider"),
       countries_(context.session, "tblintcodes", "Code", "Country"),
       pricing_(context.tariff, context.settings.billing) {}

@@ -16,6 +16,7 @@
 
 #include "costing/call_pricing.h"
 #include "costing/tariff.h"
+#include "foundation/event_queue.h"
 #include "foundation/prefix_table.h"
 #include "foundation/session.h"
 #include "reporting/call_columns.h"
@@ -30,6 +31,7 @@ namespace tallix {
 /// What the rows of one run have in common. All of it must outlive the resolver.
 struct RowContext {
     Session& session;
+    EventQueue& events;  ///< served while the longer tables are read
     const ReportFlags& flags;
     const ReportSettings& settings;
     const Site& site;
