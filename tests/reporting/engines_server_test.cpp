@@ -2,6 +2,7 @@
 // the screen and scheduled, and the dump.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <map>
 #include <sstream>
 
@@ -46,8 +47,7 @@ const RunInputs kInputs = {.extension = "201",
 
 RunInputs AllSites() {
     RunInputs inputs = kInputs;
-    inputs.site = "ALL";
-    inputs.group = "ALL";
+    inputs.site = inputs.group = "ALL";
     return inputs;
 }
 
@@ -78,10 +78,10 @@ Files FilesOf(const std::string& engineName) {
     FillWorld(engine);
     TestApplication test({engine.dbType, engine.address, engine.user, engine.password});
     Files files;
-    test.settings.Write("V1Reports", "1");
-    test.settings.Write("AreaCode", "1");
-    test.settings.Write("TimeOpen", "08:30");
-    test.settings.Write("TimeClosed", "17:30");
+    for (const auto& [name, value] :
+         {std::pair("V1Reports", "1"), {"AreaCode", "1"}, {"TimeOpen", "08:30"}, {"TimeClosed", "17:30"}}) {
+        test.settings.Write(name, value);
+    }
     ComputeCosts(test.application.session, test.settings);
     RunReports(test, "1", "1", files);
     RunReports(test, "2", "0", files);
@@ -90,10 +90,8 @@ Files FilesOf(const std::string& engineName) {
     return files;
 }
 
-std::size_t RowsOf(const std::string& page) {
-    std::size_t rows = 0;
-    for (std::size_t at = page.find('\n'); at != std::string::npos; at = page.find('\n', at + 1)) ++rows;
-    return rows;
+std::ptrdiff_t RowsOf(const std::string& page) {
+    return std::count(page.begin(), page.end(), '\n');
 }
 
 // The first line in which two files differ, both ways; a page is too long to print.

@@ -146,7 +146,10 @@ const TestEngine& EngineNamed(std::string_view name) {
     TestEngine engine = MakeEngine(name);
     if (!engine.dbType.empty()) {
         Session session;
-        UseEngine(engine, session);
+        session.DBType = engine.dbType;
+        session.DBIP = engine.address;
+        session.SQLUser = engine.user;
+        session.SQLPass = engine.password;
         engine.connectionText = ConnectionText(session);
     }
     return engines.emplace(name, std::move(engine)).first->second;
@@ -164,14 +167,6 @@ std::unique_ptr<ado::Connection> FreshDatabase(const TestEngine& engine) {
     std::unique_ptr<ado::Connection> connection = Connect(engine);
     LayDownSchema(*connection, kSchemaFolder);
     return connection;
-}
-
-void UseEngine(const TestEngine& engine, Session& session) {
-    session.DBType = engine.dbType;
-    session.DBIP = engine.address;
-    session.SQLUser = engine.user;
-    session.SQLPass = engine.password;
-    session.StrQuote = StringQuote(engine.dbType);
 }
 
 }  // namespace tallix::test

@@ -4,8 +4,6 @@
 //     TEST_P(Reports, AreTheSame) {
 //         const TestEngine& engine = EngineNamed(GetParam());
 //         const auto connection = FreshDatabase(engine);   // open, all tables, no rows
-//         Session session;
-//         UseEngine(engine, session);                      // then OpenDatabase(session)
 //         TestApplication test({engine.dbType, engine.address, engine.user, engine.password});
 //     }
 //     INSTANTIATE_TEST_SUITE_P(Engines, Reports, testing::ValuesIn(kSessionEngines));
@@ -48,8 +46,5 @@ std::unique_ptr<ado::Connection> FreshDatabase(const TestEngine& engine);
 
 /// One more connection to it, as it is.
 std::unique_ptr<ado::Connection> Connect(const TestEngine& engine);
-
-/// Sets the session's dialect, address, account and quotes.
-void UseEngine(const TestEngine& engine, Session& session);
 
 }  // namespace tallix::test
