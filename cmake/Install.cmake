@@ -3,7 +3,7 @@
 set(TALLIX_HOME Tallix/ReportsTool)
 
 install(TARGETS Tallix_Reports Tallix_Setup RUNTIME DESTINATION ${TALLIX_HOME})
-install(DIRECTORY data/ DESTINATION ${TALLIX_HOME})
+install(DIRECTORY data/ DESTINATION ${TALLIX_HOME} PATTERN icons EXCLUDE)
 install(DIRECTORY DESTINATION ${TALLIX_HOME}/Reports/Standard)
 install(DIRECTORY DESTINATION ${TALLIX_HOME}/Reports/Scheduled)
 install(DIRECTORY DESTINATION "${TALLIX_HOME}/Company Docs")

@@ -11,10 +11,12 @@
 #include "platform/paths.h"
 #include "scheduling/unattended_runner.h"
 #include "shell/splash_window.h"
+#include "shell/windows.h"
 #include "ui/form_names.h"
 #include "ui/forms.h"
 #include "ui/guarded_application.h"
 #include "ui/message_prompts.h"
+#include "ui/printers.h"
 #include "ui/qt_events.h"
 #include "ui/style.h"
 
@@ -89,12 +91,14 @@ int Run(QApplication& toolkit, const std::string& commandLine) {
                                     *prompts,
                                     clock,
                                     events};
+    tallix::ui::Printers printers;
     tallix::ui::Forms forms;
     tallix::ReportFlags flags;
     const tallix::UnattendedWork work = {[&](const tallix::ScheduledReport& report) {
                                              tallix::RunScheduledReport(application, flags, report);
                                          },
                                          [&] { tallix::WriteAutomatedBackup(application); }};
+    tallix::RegisterWindows(forms, application, flags, printers);
     forms.Register(tallix::ui::kSplashForm, [&] {
         return std::make_unique<tallix::SplashWindow>(forms, application, commandLine, work, StepInterval());
     });

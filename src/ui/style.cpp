@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QLabel>
+#include <QPushButton>
 #include <QStyleFactory>
 
 namespace tallix::ui {
@@ -16,6 +17,9 @@ constexpr char kSheet[] = R"(
     QLabel[textRole="quiet"] { color: palette(shadow); }
     QPushButton { min-height: 24px; padding: 2px 16px; }
     QLineEdit, QComboBox { min-height: 24px; }
+    QPushButton[textRole="link"] { border: none; background: transparent; padding: 2px; min-height: 0px;
+        color: palette(link); text-decoration: underline; }
+    QPushButton[textRole="link"]:focus { border: 1px dotted palette(shadow); padding: 1px; }
 )";
 
 }  // namespace
@@ -35,6 +39,12 @@ void MakeSubheading(QLabel& label) {
 
 void MakeQuiet(QLabel& label) {
     label.setProperty(kTextRole, "quiet");
+}
+
+void MakeLink(QPushButton& button) {
+    button.setProperty(kTextRole, "link");
+    button.setCursor(Qt::PointingHandCursor);
+    button.setAutoDefault(true);
 }
 
 }  // namespace tallix::ui

@@ -7,6 +7,7 @@
 
 class QApplication;
 class QLabel;
+class QPushButton;
 
 namespace tallix::ui {
 
@@ -27,5 +28,8 @@ void ApplyStyle(QApplication& application);
 void MakeHeading(QLabel& label);
 void MakeSubheading(QLabel& label);
 void MakeQuiet(QLabel& label);
+
+/// A button that looks like a link in running text.
+void MakeLink(QPushButton& button);
 
 }  // namespace tallix::ui

@@ -1,0 +1,63 @@
+// The main menu with call statistics ("Form18"). It opens where the session's UseStatsMain
+// is set, which nothing sets at present. Of the statistics the number of calls is filled.
+#pragma once
+
+#include <QFrame>
+#include <QGroupBox>
+#include <QLabel>
+#include <QTimer>
+
+#include "foundation/ado/recordset.h"
+#include "shell/main_window.h"
+#include "shell/plot.h"
+
+namespace tallix {
+
+/// The small picture: two axes that cross in its middle, and the lines drawn last.
+class PlotPicture : public QFrame {
+    Q_OBJECT
+public:
+    explicit PlotPicture(QWidget* parent = nullptr);
+
+    void Draw(std::vector<PlotLine> lines);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+
+private:
+    std::vector<PlotLine> lines_;
+};
+
+class StatisticsWindow : public MainWindow {
+    Q_OBJECT
+public:
+    /// `application` must outlive the window.
+    StatisticsWindow(ui::Forms& forms, Application& application);
+
+protected:
+    void OnLoad() override;
+    void OnUnload() override;
+
+    /// Leaves without a word: no log row, no file deleted.
+    void ExitReports() override;
+
+private:
+    QGroupBox* StatisticsPanel();
+    QLayout* Values();
+    QLayout* Lists();
+    QLayout* Pictures();
+    QLayout* RefreshRow();
+    void Refresh();
+
+    QTimer refreshTimer_;
+    QLabel* totalCalls_;
+    QLabel* emergencyCalls_;
+    QGroupBox* waiting_;
+
+    // Both stay as they are until the form goes.
+    ado::Recordset calls_;
+    ado::Recordset emergencies_;
+};
+
+}  // namespace tallix

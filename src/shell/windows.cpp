@@ -1,0 +1,39 @@
+#include "shell/windows.h"
+
+#include "reporting/cover_backing_window.h"
+#include "reporting/preset_reports_window.h"
+#include "reporting/report_output_window.h"
+#include "shell/about_window.h"
+#include "shell/access_logging_window.h"
+#include "shell/login_window.h"
+#include "shell/main_window.h"
+#include "shell/settings_required_window.h"
+#include "shell/statistics_window.h"
+#include "ui/form_names.h"
+
+namespace tallix {
+namespace {
+
+/// A window that is made with the forms, the application and whatever else it needs.
+template <typename Window, typename... More>
+void Register(ui::Forms& forms, const char* name, Application& application, More&... more) {
+    forms.Register(name, [&forms, &application, &more...] {
+        return std::make_unique<Window>(forms, application, more...);
+    });
+}
+
+}  // namespace
+
+void RegisterWindows(ui::Forms& forms, Application& application, ReportFlags& flags, ui::Printers& printers) {
+    Register<LoginWindow>(forms, ui::kLoginForm, application);
+    Register<MainWindow>(forms, ui::kMainForm, application);
+    Register<StatisticsWindow>(forms, ui::kStatisticsForm, application);
+    Register<AboutWindow>(forms, ui::kAboutForm, application);
+    Register<SettingsRequiredWindow>(forms, ui::kSettingsRequiredForm, application);
+    Register<AccessLoggingWindow>(forms, ui::kAccessLoggingForm, application);
+    Register<PresetReportsWindow>(forms, ui::kPresetReportsForm, application, flags, printers);
+    Register<CoverBackingWindow>(forms, ui::kCoverPagesForm, application);
+    Register<ReportOutputWindow>(forms, ui::kReportOutputForm, application, printers);
+}
+
+}  // namespace tallix
