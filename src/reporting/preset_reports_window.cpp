@@ -102,6 +102,7 @@ QWidget* PresetReportsWindow::ReportColumn() {
     label->setBuddy(reports_);
     reports_->setModel(reportNames_);
     reports_->setUniformItemSizes(true);
+    reports_->setSpacing(ui::kGrid / 4);
     reports_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     auto* rows = new QVBoxLayout(column);
     rows->setContentsMargins(0, 0, 0, 0);

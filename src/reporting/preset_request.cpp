@@ -66,6 +66,7 @@ PresetChoices ReadPresetChoices(Application& application) {
 
 std::vector<std::string> MinutesOfTheDay() {
     std::vector<std::string> times;
+    times.reserve(kMinutesOfADay);
     for (int minute = 0; minute < kMinutesOfADay; ++minute) {
         times.push_back(fmt::format("{:02}:{:02}", minute / 60, minute % 60));
     }
