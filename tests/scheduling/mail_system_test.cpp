@@ -53,21 +53,17 @@ TEST(MailSystem, AttachmentsArriveByteForByteAndMissingOnesAreLeftOut) {
     for (std::size_t i = 0; i < bytes.size(); ++i) bytes[i] = static_cast<char>(i * 31 % 251);
     Mail mail = kMail;
     mail.attachments = {folder.Write("rpt.csv", bytes), folder.Path() / "missing.csv", folder.Path(),
-                        folder.Write("r\xC3\xA9sum\xC3\xA9.csv", "")};
+                        folder.Write("résumé.csv", "")};
     ASSERT_TRUE(SendMail(mail, On(server)));
-    const auto mails = server.Mails();
-    ASSERT_THAT(mails, SizeIs(1));
-    EXPECT_THAT(mails[0].attachments,
-                ElementsAre(Pair("rpt.csv", bytes), Pair("r\xC3\xA9sum\xC3\xA9.csv", "")));
+    ASSERT_THAT(server.Mails(), SizeIs(1));
+    EXPECT_THAT(server.Mails()[0].attachments, ElementsAre(Pair("rpt.csv", bytes), Pair("résumé.csv", "")));
 }
 
 TEST(MailSystem, HeadersNameBothSidesAndLinesEndAsOnTheWire) {
     const test::SmtpServer server;
     Mail mail = kMail;
-    mail.body = "First\n.dot\n\n.\nM\xC3\xBCller " + std::string(2000, 'x');
-    mail.subject =
-        "Anrufe f\xC3\xBCr M\xC3\xBCller \xE2\x82\xAC, alle Abteilungen und noch viel mehr als in eine Zeile "
-        "passt";
+    mail.body = "First\n.dot\n\n.\nMüller " + std::string(2000, 'x');
+    mail.subject = "Anrufe für Müller €, alle Abteilungen und noch viel mehr als in eine Zeile passt";
     ASSERT_TRUE(SendMail(mail, On(server)));
     const test::ReceivedMail got = server.Mails().at(0);
     EXPECT_EQ(got.from, mail.from);
@@ -79,7 +75,7 @@ TEST(MailSystem, HeadersNameBothSidesAndLinesEndAsOnTheWire) {
     EXPECT_EQ(got.headers.at("Subject"), mail.subject);
     EXPECT_THAT(got.headers.at("Message-ID"), HasSubstr("@example.test>"));
     EXPECT_THAT(got.headers.at("Date"), ::testing::MatchesRegex("[A-Z][a-z]+, [0-9]+ [A-Z].+ [+-][0-9]+"));
-    EXPECT_THAT(got.body, HasSubstr("\n.dot\n\n.\nM\xC3\xBCller xxx"));
+    EXPECT_THAT(got.body, HasSubstr("\n.dot\n\n.\nMüller xxx"));
     EXPECT_THAT(got.attachments, IsEmpty());
     for (std::size_t end = got.raw.find('\n'); end != std::string::npos; end = got.raw.find('\n', end + 1)) {
         ASSERT_EQ(got.raw[end - 1], '\r');
@@ -103,11 +99,11 @@ TEST(MailSystem, LineEndsInAddressesAndSubjectStartNoHeaderAndNoCommand) {
 }
 
 TEST(MailSystem, AuthenticationIsDoneWhenItIsOnAndOnlyThen) {
-    const test::SmtpServer server(test::SmtpServer::Account{"tallix", "p\"a:ss w\xC3\xB6rd"});
+    const test::SmtpServer server(test::SmtpServer::Account{"tallix", "p\"a:ss wörd"});
     MailServer account = On(server);
     EXPECT_FALSE(SendMail(kMail, account));
     account.user = "tallix";
-    account.password = "p\"a:ss w\xC3\xB6rd";
+    account.password = "p\"a:ss wörd";
     EXPECT_FALSE(SendMail(kMail, account)) << "user and password must not count while the switch is off";
     account.authenticate = true;
     EXPECT_TRUE(SendMail(kMail, account));
@@ -115,16 +111,9 @@ TEST(MailSystem, AuthenticationIsDoneWhenItIsOnAndOnlyThen) {
     EXPECT_TRUE(SendMail(kMail, account));
     account.password = "wrong";
     EXPECT_FALSE(SendMail(kMail, account));
-    const auto mails = server.Mails();
-    ASSERT_THAT(mails, SizeIs(2));
-    EXPECT_EQ(mails[0].user, "tallix");
-}
-
-TEST(MailSystem, AuthenticationWithAnEmptyUserIsTried) {
-    const test::SmtpServer strict(test::SmtpServer::Account{"", ""});
-    MailServer account = On(strict);
-    account.authenticate = true;
-    EXPECT_TRUE(SendMail(kMail, account));
+    ASSERT_THAT(server.Mails(), SizeIs(2));
+    EXPECT_EQ(server.Mails()[0].user, "tallix");
+    account.user = "";
     const test::SmtpServer open;
     account.port = open.Port();
     EXPECT_TRUE(SendMail(kMail, account)) << "a server that asks for nobody's name takes the mail";

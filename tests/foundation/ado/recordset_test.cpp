@@ -103,10 +103,14 @@ TEST_F(RecordsetTest, WhatWasSetIsKeptInTheSetAndDroppedByARefusalOrAMove) {
 }
 
 TEST_F(RecordsetTest, DeletesTheCurrentRowAndWalksOnButOnlyInOneTable) {
-    Recordset joined = Open("select a.Name from tblkeyed a join tblkeyed b on a.ID = b.ID");
-    joined.Collect("Name", "x");
-    EXPECT_THROW(joined.Update(), DatabaseError);
-    EXPECT_THROW(joined.Delete(), DatabaseError);
+    for (const char* several : {"select a.Name from tblkeyed a join tblkeyed b on a.ID = b.ID",
+                                "select Name from tblkeyed, (select 1)",
+                                "select Name from tblkeyed where ID in (select ID from tblkeyed)"}) {
+        Recordset joined = Open(several);
+        joined.Collect("Name", "x");
+        EXPECT_THROW(joined.Update(), DatabaseError) << several;
+        EXPECT_THROW(joined.Delete(), DatabaseError) << several;
+    }
     Recordset set = Open(kKeyed);
     for (std::int64_t i = 1; i <= set.RecordCount(); ++i, set.MoveNext()) {
         if (set.Text("Name") != "Ben") set.Delete();
