@@ -7,6 +7,7 @@
 
 #include "foundation/ado/recordset.h"
 #include "foundation/database.h"
+#include "support/captioned.h"
 #include "support/test_application.h"
 #include "support/window_test.h"
 #include "ui/form_names.h"
@@ -21,25 +22,22 @@ protected:
             forms.Register(name, [this, name] { return std::make_unique<ui::Form>(forms, name); });
         }
         forms.Register(ui::kCoverPagesForm,
-                       [this] { return std::make_unique<CoverBackingWindow>(forms, test.application); });
+                       [this] { return std::make_unique<CoverBackingWindow>(forms, world.application); });
     }
 
     template <typename Widget>
     Widget& Captioned(const QString& caption) {
-        for (Widget* widget : forms.Load(ui::kCoverPagesForm)->findChildren<Widget*>()) {
-            if (widget->text() == caption) return *widget;
-        }
-        throw std::runtime_error("nothing says " + caption.toStdString());
+        return test::Captioned<Widget>(*forms.Load(ui::kCoverPagesForm), caption);
     }
 
     QLineEdit& Title() { return dynamic_cast<QLineEdit&>(*Captioned<QLabel>("Title:").buddy()); }
 
-    test::TestApplication test;
+    test::TestApplication world;
 };
 
 TEST_F(CoverBackingWindowTest, ShowsWhatIsStoredAndOffersATitleOnlyWhereOneIsWanted) {
-    test.settings.Write("CTitleText", "Quarter");
-    test.settings.Write("BNote", "1");
+    world.settings.Write("CTitleText", "Quarter");
+    world.settings.Write("BNote", "1");
     EXPECT_TRUE(Captioned<QRadioButton>("Default Title").isChecked());
     EXPECT_TRUE(Captioned<QCheckBox>("Show Notes Section").isChecked());
     EXPECT_FALSE(Captioned<QCheckBox>("Enable Cover").isChecked());
@@ -51,7 +49,7 @@ TEST_F(CoverBackingWindowTest, ShowsWhatIsStoredAndOffersATitleOnlyWhereOneIsWan
     EXPECT_FALSE(Title().isEnabled());
 
     forms.Unload(ui::kCoverPagesForm);
-    test.settings.Write("CTitle", "1");
+    world.settings.Write("CTitle", "1");
     EXPECT_TRUE(Title().isEnabled());
 }
 
@@ -66,17 +64,17 @@ TEST_F(CoverBackingWindowTest, SavesEachBoxUnderItsKeyAndLogsIt) {
         Captioned<QPushButton>("Save and Exit").click();
         EXPECT_EQ(forms.Find(ui::kCoverPagesForm), nullptr);
         for (const auto& [other, otherKey] : keys) {
-            EXPECT_EQ(test.settings.Read(otherKey), std::string(key) == otherKey ? "1" : "0") << otherKey;
+            EXPECT_EQ(world.settings.Read(otherKey), std::string(key) == otherKey ? "1" : "0") << otherKey;
         }
-        test.settings.Write(key, "0");
+        world.settings.Write(key, "0");
     }
-    EXPECT_EQ(test.settings.Read("CTitle"), "0");
-    EXPECT_EQ(test.settings.Read("CTitleText"), " ");
+    EXPECT_EQ(world.settings.Read("CTitle"), "0");
+    EXPECT_EQ(world.settings.Read("CTitleText"), " ");
 
-    OpenDatabase(test.application.session);
+    OpenDatabase(world.application.session);
     ado::Recordset log;
     log.Open("SELECT * FROM tbllogging WHERE Data = 'Saved Report Covers' AND User = 'Ann'",
-             OpenConnection(test.application.session));
+             OpenConnection(world.application.session));
     EXPECT_EQ(log.RecordCount(), static_cast<std::int64_t>(keys.size()));
 }
 

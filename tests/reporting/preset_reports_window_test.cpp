@@ -8,6 +8,7 @@
 #include <filesystem>
 
 #include "reporting/report_run.h"
+#include "support/captioned.h"
 #include "support/test_application.h"
 #include "support/window_test.h"
 #include "ui/form_names.h"
@@ -17,7 +18,6 @@ namespace tallix {
 namespace {
 
 using test::TestApplication;
-using ::testing::ElementsAre;
 using ::testing::StartsWith;
 
 class TwoPrinters : public ui::Printers {
@@ -28,8 +28,8 @@ public:
 class PresetReportsWindowTest : public test::WindowTest {
 protected:
     PresetReportsWindowTest() {
-        application.session.DBType = test.application.session.DBType;
-        application.session.DBIP = test.application.session.DBIP;
+        application.session.DBType = world.application.session.DBType;
+        application.session.DBIP = world.application.session.DBIP;
         application.session.CurrentAccess = std::string(42, '1');
         for (const char* name : {ui::kMainForm, ui::kReportOutputForm}) {
             forms.Register(name, [this, name] { return std::make_unique<ui::Form>(forms, name); });
@@ -37,9 +37,9 @@ protected:
         forms.Register(ui::kPresetReportsForm, [this] {
             return std::make_unique<PresetReportsWindow>(forms, application, flags, printers);
         });
-        test.WriteReport("All Calls", {{"Date", "True"}}, {});
-        test.WriteReport("Of Extension", {{"Date", "True"}}, {{"Extension", "True"}});
-        test.WriteReport("Of Nobody", {{"Date", "True"}}, {{"Where", "WHERE Extension = '999'"}});
+        world.WriteReport("All Calls", {{"Date", "True"}}, {});
+        world.WriteReport("Of Extension", {{"Date", "True"}}, {{"Extension", "True"}});
+        world.WriteReport("Of Nobody", {{"Date", "True"}}, {{"Where", "WHERE Extension = '999'"}});
     }
 
     // As the main menu does it.
@@ -52,10 +52,7 @@ protected:
 
     template <typename Widget>
     Widget& Captioned(const QString& caption) {
-        for (Widget* widget : forms.Find(ui::kPresetReportsForm)->findChildren<Widget*>()) {
-            if (widget->text() == caption) return *widget;
-        }
-        throw std::runtime_error("nothing says " + caption.toStdString());
+        return test::Captioned<Widget>(*forms.Find(ui::kPresetReportsForm), caption);
     }
 
     QWidget& Labelled(const QString& caption) { return *Captioned<QLabel>(caption).buddy(); }
@@ -72,21 +69,21 @@ protected:
 
     bool IsVisible(const char* form) const { return forms.Find(form) && forms.Find(form)->isVisible(); }
 
-    TestApplication test;
+    TestApplication world;
     ui::QtEvents events;
-    Application application{test.application.folder,
-                            test.application.tempFolder,
-                            test.application.version,
-                            test.settings,
-                            test.prompts,
-                            test.clock,
+    Application application{world.application.folder,
+                            world.application.tempFolder,
+                            world.application.version,
+                            world.settings,
+                            world.prompts,
+                            world.clock,
                             events};
     ReportFlags flags;
     TwoPrinters printers;
 };
 
 TEST_F(PresetReportsWindowTest, OpensWithItsListsAndWithNothingToRun) {
-    test.Execute("INSERT INTO tblsite(ID) VALUES ('7')");
+    world.Execute("INSERT INTO tblsite(ID) VALUES ('7')");
     Open();
     EXPECT_EQ(dynamic_cast<QListView&>(Labelled("Available Reports")).model()->rowCount(), 3);
     EXPECT_FALSE(Captioned<QPushButton>("Run Report").isEnabled());
@@ -95,6 +92,7 @@ TEST_F(PresetReportsWindowTest, OpensWithItsListsAndWithNothingToRun) {
     EXPECT_EQ(sites.itemText(1), "007");
     const auto& times = dynamic_cast<QComboBox&>(Labelled("Time:"));
     EXPECT_EQ(times.count(), 1440);
+    EXPECT_EQ(times.itemText(9 * 60 + 5), "09:05");
     EXPECT_EQ(times.currentText(), "");
     EXPECT_TRUE(Captioned<QRadioButton>("To Printer").isVisible());
     EXPECT_FALSE(Captioned<QCheckBox>("GRAPH").isVisible());
@@ -114,7 +112,7 @@ TEST_F(PresetReportsWindowTest, AReportEnablesTheInputsThatItAsksForAndKeepsWhat
         {"Time", "Time:"},
     };
     for (const auto& [key, caption] : inputs) {
-        test.WriteReport("All Calls", {}, {{key, "true"}});
+        world.WriteReport("All Calls", {}, {{key, "true"}});
         Select("Of Extension");
         Select("All Calls");
         Type("Extension:", "x");
@@ -132,25 +130,8 @@ TEST_F(PresetReportsWindowTest, AReportEnablesTheInputsThatItAsksForAndKeepsWhat
     EXPECT_EQ(dynamic_cast<QLineEdit&>(Labelled("Extension:")).text(), "x");
 }
 
-TEST_F(PresetReportsWindowTest, TheDestinationEnablesItsList) {
-    Open();
-    const auto lists = [&] {
-        std::vector<bool> enabled;
-        for (const QComboBox* list : forms.Find(ui::kPresetReportsForm)->findChildren<QComboBox*>()) {
-            if (list->accessibleName() == "To Printer" || list->accessibleName() == "In External Application")
-                enabled.push_back(list->isEnabled());
-        }
-        return enabled;
-    };
-    EXPECT_THAT(lists(), ElementsAre(false, false));
-    Captioned<QRadioButton>("To Printer").click();
-    EXPECT_THAT(lists(), ElementsAre(true, false));
-    Captioned<QRadioButton>("In External Application").click();
-    EXPECT_THAT(lists(), ElementsAre(false, true));
-}
-
 TEST_F(PresetReportsWindowTest, ADateIsTypedOrPicked) {
-    test.WriteReport("All Calls", {}, {{"Date", "True"}});
+    world.WriteReport("All Calls", {}, {{"Date", "True"}});
     QWidget& window = Open();
     Select("All Calls");
     auto& box = Captioned<QCheckBox>("Start Date");
@@ -187,9 +168,9 @@ TEST_F(PresetReportsWindowTest, EveryRunEndsAtTheMainMenuOrAtTheReport) {
                           {"Of Extension", "20x", "You have not entered a numeric value", false},
                           {"Of Nobody", "", "The report does not contain any data.\nIf you", true},
                           {"Of Extension", "2\"0'1", "You have not entered a numeric", false}};
-    test.InsertCall();
+    world.InsertCall();
     for (const Case& c : cases) {
-        test.prompts.messages.clear();
+        world.prompts.messages.clear();
         Open();
         Select(c.report);
         Type("Extension:", c.extension);
@@ -198,34 +179,43 @@ TEST_F(PresetReportsWindowTest, EveryRunEndsAtTheMainMenuOrAtTheReport) {
         EXPECT_EQ(IsVisible(ui::kReportOutputForm), c.message == nullptr) << c.extension;
         EXPECT_EQ(IsVisible(ui::kMainForm), c.message != nullptr) << c.extension;
         EXPECT_EQ(std::filesystem::exists(PageFile(application)), c.leavesPage) << c.extension;
-        ASSERT_EQ(test.prompts.messages.size(), c.message ? 1U : 0U) << c.extension;
+        ASSERT_EQ(world.prompts.messages.size(), c.message ? 1U : 0U) << c.extension;
         if (c.message) {
-            EXPECT_THAT(test.prompts.messages[0].text, StartsWith(c.message));
+            EXPECT_THAT(world.prompts.messages[0].text, StartsWith(c.message));
         }
         forms.Unload(ui::kReportOutputForm);
     }
 }
 
-TEST_F(PresetReportsWindowTest, StaysWhereItsPrinterIsGone) {
-    test.InsertCall();
-    Open();
-    Select("All Calls");
-    Captioned<QRadioButton>("To Printer").click();
-    for (QComboBox* list : forms.Find(ui::kPresetReportsForm)->findChildren<QComboBox*>()) {
-        if (list->accessibleName() == "To Printer") list->addItem("Gone"), list->setCurrentText("Gone");
+TEST_F(PresetReportsWindowTest, TheDestinationEnablesItsListAndAPrinterThatIsGoneKeepsTheWindow) {
+    world.InsertCall();
+    const QWidget& window = Open();
+    QComboBox* printerList = nullptr;
+    QComboBox* applicationList = nullptr;
+    for (QComboBox* list : window.findChildren<QComboBox*>()) {
+        if (list->accessibleName() == "To Printer") printerList = list;
+        if (list->accessibleName() == "In External Application") applicationList = list;
     }
+    EXPECT_FALSE(printerList->isEnabled() || applicationList->isEnabled());
+    Captioned<QRadioButton>("In External Application").click();
+    EXPECT_TRUE(!printerList->isEnabled() && applicationList->isEnabled());
+    Captioned<QRadioButton>("To Printer").click();
+    EXPECT_TRUE(printerList->isEnabled() && !applicationList->isEnabled());
+
+    printerList->addItem("Gone");
+    printerList->setCurrentText("Gone");
+    Select("All Calls");
     Captioned<QPushButton>("Run Report").click();
-    EXPECT_TRUE(IsVisible(ui::kPresetReportsForm));
-    EXPECT_FALSE(forms.Find(ui::kPresetReportsForm)->findChild<ui::ProgressPanel*>()->isVisible());
-    EXPECT_TRUE(Captioned<QPushButton>("Run Report").isEnabled());
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_FALSE(window.findChild<ui::ProgressPanel*>()->isVisible());
     Captioned<QPushButton>("Cancel").click();
     EXPECT_TRUE(IsVisible(ui::kMainForm));
 }
 
 TEST_F(PresetReportsWindowTest, AnswersDuringARunAndIsNotDisturbedByIt) {
-    test.InsertCall();
+    world.InsertCall();
     for (int doubling = 0; doubling < 14; ++doubling) {
-        test.Execute(
+        world.Execute(
             "INSERT INTO tblphonedata(Date, Time, DestNum) SELECT Date, Time, DestNum FROM tblphonedata");
     }
     QWidget& window = Open();

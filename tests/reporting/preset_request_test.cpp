@@ -29,14 +29,6 @@ TEST(PresetChoicesTest, ListsReportsSitesAndGroups) {
     EXPECT_THROW(ReadPresetChoices(test.application), DatabaseError);
 }
 
-TEST(PresetChoicesTest, HasEveryMinuteOfTheDay) {
-    const std::vector<std::string> times = MinutesOfTheDay();
-    ASSERT_EQ(times.size(), 1440U);
-    EXPECT_EQ(times[0], "00:00");
-    EXPECT_EQ(times[9 * 60 + 5], "09:05");
-    EXPECT_EQ(times.back(), "23:59");
-}
-
 TEST(EnabledInputsTest, AreThoseThatSayTrue) {
     const test::TempFolder folder;
     const auto file = folder.Write("STD_x.SRT",
