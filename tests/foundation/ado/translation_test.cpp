@@ -34,6 +34,7 @@ TEST(Translate, SpeaksTheDialectOfTheServer) {
          "INSERT INTO tbllogging(`Date`, `Us]er`) VALUES('a', 'b');"},
         {Postgres, "INSERT INTO tbllogging([Date], [Us]]er]) VALUES('a', 'b');",
          R"(INSERT INTO tbllogging("date", "us]er") VALUES('a', 'b');)"},
+        {MySql, "UPDATE tblsite SET 3PTName = 'x'", "UPDATE tblsite SET 3PTName = 'x'"},
         {SqlServer, "UPDATE tblsite SET 3PTName = 'x'", "UPDATE tblsite SET [3PTName] = 'x'"},
         {SqlServer, "Delete * From tblcostmap", "Delete From tblcostmap"},
         // Sqlite compares texts with bare numbers as numbers where it is told to.
