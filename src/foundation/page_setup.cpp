@@ -28,7 +28,7 @@ void WritePageSetup(const SettingsStore& settings, const PageSetup& setup) {
 
 ReportPageSetup::ReportPageSetup(const SettingsStore& settings)
     : settings_(settings), kept_(ReadPageSetup(settings)) {
-    WritePageSetup(settings_, {std::string(kReportHeader), std::string(kReportFooter)});
+    WritePageSetup(settings_, {.header = "", .footer = std::string(kReportFooter)});
 }
 
 ReportPageSetup::~ReportPageSetup() {

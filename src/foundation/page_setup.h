@@ -15,8 +15,7 @@ struct PageSetup {
     std::string footer;
 };
 
-/// What a report prints: no header, "Page 1 of 3" at the foot.
-inline constexpr std::string_view kReportHeader = "";
+/// What a report prints, without a header: "Page 1 of 3".
 inline constexpr std::string_view kReportFooter = "&bPage &p of &P";
 
 PageSetup ReadPageSetup(const SettingsStore& settings);

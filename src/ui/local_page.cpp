@@ -69,11 +69,12 @@ void ReportFiles::requestStarted(QWebEngineUrlRequestJob* job) {
     const QString path = QString::fromStdString(ToNativePath(stored).string());
     if (path == path_) return SendReport(*job);
     const QString type = PictureType(path);
-    auto* picture = new QFile(path, job);
+    auto picture = std::make_unique<QFile>(path);
     if (type.isEmpty() || !picture->open(QIODevice::ReadOnly)) {
         return job->fail(QWebEngineUrlRequestJob::UrlNotFound);
     }
-    job->reply(type.toUtf8(), picture);
+    picture->setParent(job);
+    job->reply(type.toUtf8(), picture.release());
 }
 
 void ReportFiles::SendReport(QWebEngineUrlRequestJob& job) {

@@ -63,7 +63,9 @@ void PrintJob::End() {
 void PrintJob::WaitForTheEnd() {
     QEventLoop loop;
     connect(this, &QObject::destroyed, &loop, &QEventLoop::quit);
-    QTimer::singleShot(kLongestWait, &loop, &QEventLoop::quit);
+    QTimer limit;
+    connect(&limit, &QTimer::timeout, &loop, &QEventLoop::quit);
+    limit.start(kLongestWait);
     if (!ended_) loop.exec();
 }
 

@@ -6,6 +6,7 @@
 #include <signal.h>
 
 #include <QElapsedTimer>
+#include <thread>
 
 #include "foundation/ado/recordset.h"
 #include "foundation/database.h"
@@ -161,6 +162,20 @@ TEST_F(ReportOutputTest, PrintsEachPageWithItsNumberAlthoughTheWindowIsGone) {
     EXPECT_THAT(text, HasSubstr("Page 3 of 3\n"));
     EXPECT_THAT(text, testing::Not(HasSubstr("mine")));
     EXPECT_THAT(LoggedEvents(), ElementsAre("Report Run - Calls"));
+}
+
+TEST_F(ReportOutputTest, AProcessThatEndsWaitsForItsPrinting) {
+    const test::PrintServer server(kPrinter);
+    WritePage(20);
+    Later([&] {
+        Deliver({.destination = Destination::ToPrinter, .printer = kPrinter});
+        forms.Unload(ui::kMainForm);
+    });
+    EXPECT_EQ(RunToTheEnd(), 0);
+    for (int waited = 0; server.Jobs().empty() && waited < kPatience; waited += kPause) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(kPause));  // of the spooler alone
+    }
+    EXPECT_EQ(server.Jobs().size(), 1U);
 }
 
 TEST_F(ReportOutputTest, APrinterThatIsGonePrintsNothingAndLeavesTheRequestOpen) {
