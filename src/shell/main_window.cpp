@@ -35,8 +35,7 @@ MainWindow::MainWindow(ui::Forms& forms, Application& application, const Kind& k
       kind_(kind),
       rows_(new QVBoxLayout(this)),
       grid_(new QGridLayout),
-      connected_(new QLabel(this)),
-      noticeLabel_(new QPushButton(this)) {
+      connected_(new QLabel(this)) {
     MakeEntries();
     MakeNotice();
     ArrangeRows();
@@ -58,8 +57,10 @@ void MainWindow::MakeEntries() {
 }
 
 void MainWindow::MakeNotice() {
+    noticeLabel_ = new QPushButton(this);
     noticeLabel_->setObjectName("UpdateNotice");
     ui::MakeLink(*noticeLabel_);
+    noticeLabel_->setFocusPolicy(Qt::NoFocus);
     connect(noticeLabel_, &QPushButton::clicked, this, &MainWindow::OpenMakerSite);
 }
 
@@ -162,6 +163,7 @@ void MainWindow::ShowNotice(const UpdateNotice& notice) {
     noticeLabel_->setText(ToText(notice.text));
     noticeLabel_->setStyleSheet(
         QString("color: %1; text-decoration: %2;").arg(colour.name(), notice.newer ? "underline" : "none"));
+    noticeLabel_->setFocusPolicy(notice.newer ? Qt::StrongFocus : Qt::NoFocus);
     noticeLabel_->setCursor(notice.newer ? Qt::PointingHandCursor : Qt::ArrowCursor);
 }
 

@@ -66,7 +66,7 @@ private:
     QGridLayout* grid_;
     std::vector<ui::EntryButton*> entries_;
     QLabel* connected_;
-    QPushButton* noticeLabel_;
+    QPushButton* noticeLabel_ = nullptr;
 };
 
 }  // namespace tallix
