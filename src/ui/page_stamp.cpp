@@ -8,7 +8,6 @@
 #include <QPdfWriter>
 #include <memory>
 #include <qpdf/Buffer.hh>
-#include <qpdf/JSON.hh>
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFPageDocumentHelper.hh>
 #include <qpdf/QPDFPageObjectHelper.hh>
