@@ -214,7 +214,7 @@ TEST_F(PresetReportsWindowTest, TheDestinationEnablesItsListAndAPrinterThatIsGon
 
 TEST_F(PresetReportsWindowTest, AnswersDuringARunAndIsNotDisturbedByIt) {
     world.InsertCall();
-    for (int doubling = 0; doubling < 17; ++doubling) {
+    for (int doubling = 0; doubling < 19; ++doubling) {
         world.Execute(
             "INSERT INTO tblphonedata(Date, Time, DestNum) SELECT Date, Time, DestNum FROM tblphonedata");
     }
@@ -228,7 +228,7 @@ TEST_F(PresetReportsWindowTest, AnswersDuringARunAndIsNotDisturbedByIt) {
         EXPECT_EQ(forms.Find(ui::kPresetReportsForm), &window);
         EXPECT_TRUE(window.findChild<ui::ProgressPanel*>()->isVisible());
         for (const QLabel* label : window.findChildren<QLabel*>()) {
-            sawRecords = sawRecords || label->text().endsWith(" Of 131072");
+            sawRecords = sawRecords || label->text().endsWith(" Of 524288");
         }
         Captioned<QPushButton>("Run Report").click();
         Captioned<QPushButton>("Cancel").click();
