@@ -12,6 +12,7 @@ packages="
     mariadb-server mariadb-client postgresql odbc-postgresql tdsodbc sqlite3 cron
     cups cups-client cups-filters poppler-utils
     python3-aiosmtpd xvfb xauth imagemagick fonts-dejavu-core
+    at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3-gi
     clang-format clang-tidy procps time iproute2 util-linux
 "
 

@@ -100,6 +100,7 @@ QWidget* PresetReportsWindow::ReportColumn() {
     auto* column = new QWidget;
     auto* label = new QLabel("Available Reports");
     label->setBuddy(reports_);
+    reports_->setAccessibleName(label->text());  // a list is not told its label
     reports_->setModel(reportNames_);
     reports_->setUniformItemSizes(true);
     reports_->setSpacing(ui::kGrid / 4);

@@ -2,6 +2,7 @@
 
 #include <unistd.h>
 
+#include <QAccessible>
 #include <QMimeDatabase>
 #include <QWebEngineLoadingInfo>
 #include <QWebEngineSettings>
@@ -18,6 +19,7 @@ constexpr char kScheme[] = "tallix-report";
 constexpr char kReportType[] = "text/html; charset=windows-1252";
 constexpr char kReportEncoding[] = "windows-1252";
 constexpr char kFlagsVariable[] = "QTWEBENGINE_CHROMIUM_FLAGS";
+constexpr char kAccessibleVariable[] = "QTWEBENGINE_ENABLE_LINUX_ACCESSIBILITY";
 
 // The older layout takes less than half of the memory for a table, in whose cells a
 // report page consists; the newer one ends at a limit that no setting raises.
@@ -31,6 +33,8 @@ void PrepareBrowser() {
         scheme.setFlags(QWebEngineUrlScheme::LocalScheme | QWebEngineUrlScheme::LocalAccessAllowed);
         QWebEngineUrlScheme::registerScheme(scheme);
         qputenv(kFlagsVariable, qgetenv(kFlagsVariable) + kLayoutFlags);
+        // A page is told to a screen reader only where one is at work: it costs memory.
+        if (QAccessible::isActive()) qputenv(kAccessibleVariable, "1");
         // The browser refuses to run as root inside its sandbox.
         if (geteuid() == 0) qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
         return true;
