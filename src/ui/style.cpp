@@ -17,6 +17,8 @@ constexpr char kSheet[] = R"(
     QLabel[textRole="quiet"] { color: palette(shadow); }
     QPushButton { min-height: 24px; padding: 2px 16px; }
     QLineEdit, QComboBox { min-height: 24px; }
+    QLineEdit { padding: 2px 4px; }
+    QListView::item { padding: 2px 4px; }
     QPushButton[textRole="link"] { border: none; background: transparent; padding: 2px; min-height: 0px;
         color: palette(link); text-decoration: underline; }
     QPushButton[textRole="link"]:focus { border: 1px dotted palette(shadow); padding: 1px; }

@@ -8,6 +8,7 @@ import signal
 import subprocess
 import sys
 
+sys.dont_write_bytecode = True
 sys.path.insert(0, str(pathlib.Path(__file__).parents[1] / "support"))
 from person import Atspi, Desktop, Person, wait_for  # noqa: E402
 
