@@ -12,17 +12,20 @@ std::optional<std::string> Cell(std::int64_t row, std::size_t column) {
     const auto number = static_cast<std::size_t>(row) * 7 + column;
     if (number % 11 == 3) return std::nullopt;
     if (number % 997 == 5) return std::string(700, 'x');
+    if (number % 4001 == 9) return std::string(40000, 'y');
     return std::string(number % 13, static_cast<char>('a' + number % 26));
 }
 
 TEST(RowArena, GivesBackEveryCellAcrossBlocksInAnyOrder) {
     constexpr std::int64_t kRows = 3000;
-    for (const std::size_t blockBytes : {64U, 500U, 5000U, 1U << 20}) {
+    for (const std::size_t blockBytes : {64U, 500U, 5000U, 1U << 15}) {
         RowArena arena(5, blockBytes);
         for (std::int64_t cell = 0; cell < kRows * 5; ++cell) {
             const auto text = Cell(cell / 5, static_cast<std::size_t>(cell % 5));
             text ? arena.Append(*text) : arena.AppendNull();
-            ASSERT_EQ(arena.At(cell / 5, static_cast<std::size_t>(cell % 5)), text) << "between appends";
+            if (cell % 5 == 4) {
+                ASSERT_EQ(arena.At(cell / 5, 4), text) << "between appends";
+            }
         }
         arena.Finish();
         ASSERT_EQ(arena.Rows(), kRows);
@@ -33,12 +36,12 @@ TEST(RowArena, GivesBackEveryCellAcrossBlocksInAnyOrder) {
     }
 }
 
-TEST(RowArena, CostsTheTextAndFourBytesACell) {
+TEST(RowArena, CostsTheTextAndTwoBytesACell) {
     for (const std::int64_t rows : {1, 50000}) {
         RowArena arena(16);
         for (std::int64_t cell = 0; cell < rows * 16; ++cell) arena.Append("12345");
         arena.Finish();
-        EXPECT_LT(arena.Bytes(), rows * 16 * (5 + 4) * 101 / 100 + 160);
+        EXPECT_LT(arena.Bytes(), rows * 16 * (5 + 2) * 102 / 100 + 160);
     }
 }
 
