@@ -34,14 +34,6 @@ protected:
              {"TALLIX_STEP_MS", "20"},
              {"Temp", Home() / "temp"}});
     }
-
-    std::string Rows(const std::string& statement) const {
-        ado::Connection connection;
-        connection.ConnectionString =
-            "DRIVER={MySQL ODBC 5.1 Driver};SERVER=sqlite:" + (Home() / "tallix.db").string();
-        connection.Open();
-        return test::AllRows(connection, statement);
-    }
 };
 
 TEST_F(SessionSystem, LogsInReadsAndPrintsAReportAndLogsOut) {

@@ -1,5 +1,5 @@
 // A fresh installation for Tallix_Setup to work on: the application folder with its
-// data, and no settings.
+// data, and no settings. What it laid down can be read back.
 #pragma once
 
 #include <string>
@@ -10,6 +10,18 @@
 #include "support/temp_folder.h"
 
 namespace tallix::test {
+
+/// All rows of a statement, a line each, "|" behind every value.
+inline std::string AllRows(ado::Connection& connection, const std::string& statement) {
+    ado::Recordset set;
+    set.Open(statement, connection);
+    std::string rows;
+    for (std::int64_t i = 1; i <= set.RecordCount(); ++i, set.MoveNext()) {
+        for (const std::string& name : set.ColumnNames()) rows += std::string(set.Text(name)) + '|';
+        rows += '\n';
+    }
+    return rows;
+}
 
 class SetupInstallation {
 public:
@@ -31,20 +43,17 @@ public:
                           {{"TALLIX_HOME", Home()}, {"TALLIX_REGISTRY", Home() / registry}});
     }
 
+    /// All rows of a statement on the embedded database of that name in the application folder.
+    std::string Rows(const std::string& statement, const std::string& database = "tallix.db") const {
+        ado::Connection connection;
+        connection.ConnectionString =
+            "DRIVER={MySQL ODBC 5.1 Driver};SERVER=sqlite:" + (Home() / database).string();
+        connection.Open();
+        return AllRows(connection, statement);
+    }
+
 private:
     TempFolder folder_;
 };
-
-/// All rows of a statement, a line each, "|" behind every value.
-inline std::string AllRows(ado::Connection& connection, const std::string& statement) {
-    ado::Recordset set;
-    set.Open(statement, connection);
-    std::string rows;
-    for (std::int64_t i = 1; i <= set.RecordCount(); ++i, set.MoveNext()) {
-        for (const std::string& name : set.ColumnNames()) rows += std::string(set.Text(name)) + '|';
-        rows += '\n';
-    }
-    return rows;
-}
 
 }  // namespace tallix::test

@@ -13,19 +13,7 @@ namespace {
 using test::ProgramRun;
 using testing::HasSubstr;
 
-class SetupSystem : public testing::Test, protected test::SetupInstallation {
-protected:
-    /// All rows of a statement on the database of the application folder.
-    std::string Rows(const std::string& statement) const {
-        ado::Connection connection;
-        connection.ConnectionString =
-            "DRIVER={MySQL ODBC 5.1 Driver};SERVER=sqlite:" + (Home() / database_).string();
-        connection.Open();
-        return test::AllRows(connection, statement);
-    }
-
-    std::string database_ = "tallix.db";
-};
+class SetupSystem : public testing::Test, protected test::SetupInstallation {};
 
 // Failed, and told why in one line.
 void ExpectFailure(const ProgramRun& run, const std::string& why) {
@@ -74,14 +62,14 @@ TEST_F(SetupSystem, MapsGroupsByTheKeysOfTheirNamesAndNamesNumbersThatAreCalled)
 }
 
 TEST_F(SetupSystem, ChangesNothingTheSecondTime) {
-    database_ = "other.db";
-    ASSERT_EQ(RunSetup({"--demo", "40", "--address", "sqlite:" + (Home() / database_).string()}).status, 0);
+    const std::string database = "other.db";
+    ASSERT_EQ(RunSetup({"--demo", "40", "--address", "sqlite:" + (Home() / database).string()}).status, 0);
     const auto everything = [&] {
         std::string rows = test::ReadBytes(Hive());
         for (const char* table :
              {"tblphonedata", "tblusers", "tblsite", "tblextensions", "tblgroupnames", "tblgroupmap",
               "tblcosts", "tbladdressbook", "tblareaproviders", "tblcommproviders", "tblintcodes"}) {
-            rows += Rows(std::string("SELECT * FROM ") + table);
+            rows += Rows(std::string("SELECT * FROM ") + table, database);
         }
         return rows;
     };
