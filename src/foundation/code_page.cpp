@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
+#include <cstring>
 
 #include "foundation/utf8.h"
 
@@ -30,7 +32,13 @@ bool IsAscii(char byte) {
     return static_cast<unsigned char>(byte) < kFirstSpecial;
 }
 
+// Nearly all text is ASCII: eight bytes are looked at together.
 std::size_t AsciiEnd(std::string_view text, std::size_t from) {
+    constexpr std::uint64_t kHighBits = 0x8080808080808080;
+    for (std::uint64_t bytes = 0; from + sizeof bytes <= text.size(); from += sizeof bytes) {
+        std::memcpy(&bytes, text.data() + from, sizeof bytes);
+        if ((bytes & kHighBits) != 0) break;
+    }
     while (from < text.size() && IsAscii(text[from])) ++from;
     return from;
 }

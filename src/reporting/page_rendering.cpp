@@ -137,13 +137,9 @@ void Page::WriteRow(const std::vector<std::string_view>& cells) {
     if (description_.shape == PageShape::CommaText) return WriteCommaRow(cells);
     WriteRepeatedHeads();
     const bool shade = shaded_ && description_.shape == PageShape::Coloured;
-    file_.Write(shade ? shadedRowOpening_ : rowOpening_);
-    for (const std::string_view cell : cells) {
-        file_.Write("<TD>");
-        file_.Write(cell);
-        file_.Write("</TD>");
-    }
-    file_.Line("");
+    row_ = shade ? shadedRowOpening_ : rowOpening_;
+    for (const std::string_view cell : cells) row_.append("<TD>").append(cell).append("</TD>");
+    file_.Line(row_);
     FlipShading();
 }
 
@@ -157,11 +153,9 @@ void Page::WriteRepeatedHeads() {
 }
 
 void Page::WriteCommaRow(const std::vector<std::string_view>& cells) {
-    for (const std::string_view cell : cells) {
-        file_.Write(cell.find('<') == std::string_view::npos ? cell : WithoutCellMarks(cell));
-        file_.Write(",");
-    }
-    file_.Line("");
+    row_.clear();
+    for (const std::string_view cell : cells) row_.append(cell).push_back(',');
+    file_.Line(row_.find('<') == std::string::npos ? row_ : WithoutCellMarks(row_));
 }
 
 void Page::WriteTotals(const PageTotals& totals) {

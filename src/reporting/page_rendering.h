@@ -76,6 +76,7 @@ private:
     std::string repeatedHeads_;
     std::string rowOpening_;
     std::string shadedRowOpening_;
+    std::string row_;  ///< the row being put together
     bool shaded_ = false;
     int rowsOnSheet_ = 0;
     bool firstSheet_ = true;
