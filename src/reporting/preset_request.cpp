@@ -8,6 +8,7 @@
 #include "foundation/database.h"
 #include "foundation/ini_file.h"
 #include "foundation/text_conversion.h"
+#include "platform/paths.h"
 #include "reporting/catalogue.h"
 
 namespace tallix {
@@ -74,7 +75,7 @@ std::vector<std::string> MinutesOfTheDay() {
 }
 
 EnabledInputs::EnabledInputs(const std::filesystem::path& reportFile) {
-    const IniFile report(reportFile);
+    const IniFile report(FindIgnoringCase(reportFile));
     for (std::size_t i = 0; i < kInputs; ++i) {
         enabled_[i] = EqualNoCase(report.Read("Options", kOptionKeys[i]), "True");
     }

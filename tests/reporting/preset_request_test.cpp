@@ -40,6 +40,7 @@ TEST(EnabledInputsTest, AreThoseThatSayTrue) {
     for (const Input off : {Input::Extension, Input::Account, Input::Site, Input::Group, Input::Time}) {
         EXPECT_FALSE(enabled[off]) << static_cast<int>(off);
     }
+    EXPECT_TRUE(EnabledInputs(folder.Path() / "std_X.srt")[Input::Date]);
     EXPECT_FALSE(EnabledInputs(folder.Path() / "gone.SRT")[Input::Date]);
 }
 
