@@ -5,6 +5,7 @@
 #include <stdexcept>
 
 #include "foundation/ado/recordset.h"
+#include "foundation/attempt.h"
 #include "foundation/code_page.h"
 #include "foundation/database.h"
 
@@ -46,6 +47,12 @@ void WriteLog(Session& session, const Clock& clock, std::string_view event) {
     statement += Quoted(session, ShortDate(now)) + ", " + Quoted(session, HoursAndMinutes(now)) + ", " +
                  Quoted(session, session.CurrentUser) + ", " + Quoted(session, event) + ");";
     OpenConnection(session).Execute(statement);
+}
+
+void LogOnItsOwn(Session& session, const Clock& clock, std::string_view event) {
+    Attempt([&] { OpenDatabase(session); });
+    Attempt([&] { WriteLog(session, clock, event); });
+    CloseDatabase(session);
 }
 
 std::vector<AccessLogRow> ReadAccessLog(Session& session) {

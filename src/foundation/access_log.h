@@ -16,6 +16,10 @@ namespace tallix {
 /// the event. The session's connection must be open. Throws DatabaseError.
 void WriteLog(Session& session, const Clock& clock, std::string_view event);
 
+/// Opens the database for one such row and closes it, whatever of that fails: what is
+/// noted here goes on without its row.
+void LogOnItsOwn(Session& session, const Clock& clock, std::string_view event);
+
 // What follows opens the database for itself and closes it. Throws DatabaseError.
 
 /// Date, Time, User and Data. NULL reads as the empty text.

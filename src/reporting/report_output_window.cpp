@@ -6,12 +6,11 @@
 #include <system_error>
 
 #include "foundation/access_log.h"
-#include "foundation/database.h"
+#include "foundation/access_rights.h"
 #include "foundation/page_setup.h"
-#include "foundation/text_conversion.h"
 #include "reporting/report_run.h"
-#include "ui/form_names.h"
-#include "ui/forms.h"
+#include "ui/dialog_keys.h"
+#include "ui/main_menu_form.h"
 #include "ui/style.h"
 
 namespace tallix {
@@ -21,7 +20,6 @@ constexpr int kWidth = 120 * ui::kGrid;
 constexpr int kHeight = 90 * ui::kGrid;
 constexpr int kWaitingWidth = 44 * ui::kGrid;
 constexpr std::chrono::milliseconds kBusyInterval{100};
-constexpr std::size_t kPrintPermission = 7;  ///< position in the access string, from 1
 constexpr char kDocumentName[] = "rpt.pdf";
 
 void Delete(const std::filesystem::path& file) {
@@ -54,6 +52,8 @@ ReportOutputWindow::ReportOutputWindow(ui::Forms& forms, Application& applicatio
     connect(close_, &QPushButton::clicked, this, &ReportOutputWindow::Unload);
     connect(&busyTimer_, &QTimer::timeout, this, &ReportOutputWindow::LookWhetherBusy);
     busyTimer_.setInterval(kBusyInterval);
+    new ui::DialogKeys(*this, nullptr, close_);
+    close_->setShortcut(Qt::Key_Escape);  // the browser gives no key back that it was given
 }
 
 QFrame* ReportOutputWindow::WaitingFrame() {
@@ -82,7 +82,6 @@ QPushButton* ReportOutputWindow::Button(const QString& caption, const QString& t
 QLayout* ReportOutputWindow::ButtonRow() {
     exportAsPdf_->setEnabled(false);
     exportAsPdf_->hide();
-    close_->setShortcut(Qt::Key_Escape);
     auto* row = new QHBoxLayout;
     row->setContentsMargins(ui::kMargin, 0, ui::kMargin, 0);
     row->setSpacing(ui::kSpacing);
@@ -95,7 +94,7 @@ QLayout* ReportOutputWindow::ButtonRow() {
 
 void ReportOutputWindow::OnLoad() {
     Delete(application_.tempFolder / kDocumentName);
-    print_->setVisible(Mid(application_.session.CurrentAccess, kPrintPermission, 1) == "1");
+    print_->setVisible(Allows(application_.session.CurrentAccess, AccessRight::PrintReport));
     Navigate();
 }
 
@@ -106,7 +105,7 @@ void ReportOutputWindow::Navigate() {
 
 void ReportOutputWindow::OnUnload() {
     busyTimer_.stop();
-    OtherForms().Show(ui::kMainForm);
+    ui::ShowMainMenu(OtherForms(), application_.session);
     Delete(PageFile(application_));
 }
 
@@ -132,9 +131,7 @@ void ReportOutputWindow::Print(ui::PrintOption option) {
 // The row is written whether or not the person went through with it.
 void ReportOutputWindow::PrintReport() {
     Print(ui::PrintOption::AskUser);
-    OpenDatabase(application_.session);
-    WriteLog(application_.session, application_.clock, "Report Printed");
-    CloseDatabase(application_.session);
+    LogOnItsOwn(application_.session, application_.clock, "Report Printed");
 }
 
 }  // namespace tallix

@@ -61,7 +61,9 @@ RunOutcome ReportRun::Make(const RunDescription& description) {
     Attempt([&] { OpenDatabase(application_.session); });
     const RunOutcome outcome = RefusalOf(description) ? RunOutcome::Refused : MakePage(description);
     CloseDatabase(application_.session);
-    if (outcome == RunOutcome::Complete && description.rules.logsTheRun) LogRun(description);
+    if (outcome == RunOutcome::Complete && description.rules.logsTheRun) {
+        LogOnItsOwn(application_.session, application_.clock, "Report Run - " + description.reportName);
+    }
     return outcome;
 }
 
@@ -195,13 +197,6 @@ std::string ReportRun::GraphText(const RunDescription& description, ado::Records
     std::string graph;
     if (description.drawsGraph) Attempt([&] { graph = BuildBarGraph(calls, kGraphHeight, kBarWidth); });
     return graph;
-}
-
-void ReportRun::LogRun(const RunDescription& description) const {
-    Session& session = application_.session;
-    Attempt([&] { OpenDatabase(session); });
-    Attempt([&] { WriteLog(session, application_.clock, "Report Run - " + description.reportName); });
-    CloseDatabase(session);
 }
 
 }  // namespace tallix

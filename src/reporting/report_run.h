@@ -58,7 +58,6 @@ private:
     void OpenCalls(const RunDescription& description, ado::Recordset& calls);
     PageTotals WriteRows(const RunDescription& description, ado::Recordset& calls, Page& page);
     std::string GraphText(const RunDescription& description, ado::Recordset& calls) const;
-    void LogRun(const RunDescription& description) const;
     void WalkRecords(const RunDescription& description, ado::Recordset& calls, RowResolver& rows, Page& page);
 
     Application& application_;

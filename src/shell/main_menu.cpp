@@ -3,8 +3,6 @@
 #include <system_error>
 
 #include "foundation/access_log.h"
-#include "foundation/attempt.h"
-#include "foundation/database.h"
 
 namespace tallix {
 namespace {
@@ -18,10 +16,7 @@ std::string ConnectedLine(const Session& session) {
 }
 
 void NoteLoggedOut(Application& application) {
-    Session& session = application.session;
-    Attempt([&] { OpenDatabase(session); });
-    Attempt([&] { WriteLog(session, application.clock, "Logged Out"); });
-    CloseDatabase(session);
+    LogOnItsOwn(application.session, application.clock, "Logged Out");
 }
 
 void DeleteLeftovers(const std::filesystem::path& applicationFolder) {

@@ -37,6 +37,16 @@ TEST_F(AccessLogTest, WritesARowInEveryDialect) {
     EXPECT_THAT(Rows(), testing::ElementsAre(row, row, row));
 }
 
+TEST_F(AccessLogTest, ARowOnItsOwnIsPassedOverWhereItFails) {
+    Session& session = test.application.session;
+    LogOnItsOwn(session, test.clock, "Report Printed");
+    LogOnItsOwn(session, test.clock, "Report Run - 5" + session.StrQuote + " x");
+    EXPECT_EQ(session.DBConn, nullptr);
+    EXPECT_THAT(Rows(), testing::ElementsAre(AccessLogRow{"09/03/2021", "14:05", "Ann", "Report Printed"}));
+    session.DBIP = "sqlite:/nowhere/at/all.db";
+    EXPECT_NO_THROW(LogOnItsOwn(session, test.clock, "Logged Out"));
+}
+
 TEST_F(AccessLogTest, ExportAddsToTheFileAndAnEmptyLogLeavesItAlone) {
     EXPECT_EQ(Export(), "");
     EXPECT_FALSE(std::filesystem::exists(test.application.folder / "AccessLog.txt"));
