@@ -18,6 +18,7 @@ namespace {
 constexpr char kScheme[] = "tallix-report";
 constexpr char kReportType[] = "text/html; charset=windows-1252";
 constexpr char kReportEncoding[] = "windows-1252";
+constexpr char kOpenFiles[] = "/proc/self/fd/";
 constexpr char kFlagsVariable[] = "QTWEBENGINE_CHROMIUM_FLAGS";
 constexpr char kAccessibleVariable[] = "QTWEBENGINE_ENABLE_LINUX_ACCESSIBILITY";
 
@@ -81,10 +82,14 @@ void ReportFiles::requestStarted(QWebEngineUrlRequestJob* job) {
     job->reply(type.toUtf8(), picture.release());
 }
 
+// Each request reads the open file from its beginning by itself, even a deleted one: a
+// load that another one replaced may have asked for it already.
 void ReportFiles::SendReport(QWebEngineUrlRequestJob& job) {
     if (!opened_) return job.fail(QWebEngineUrlRequestJob::UrlNotFound);
-    opened_->setParent(&job);
-    job.reply(kReportType, opened_.release());
+    auto report = std::make_unique<QFile>(kOpenFiles + QString::number(opened_->handle()));
+    if (!report->open(QIODevice::ReadOnly)) return job.fail(QWebEngineUrlRequestJob::UrlNotFound);
+    report->setParent(&job);
+    job.reply(kReportType, report.release());
 }
 
 void LocalRequestsOnly::interceptRequest(QWebEngineUrlRequestInfo& request) {

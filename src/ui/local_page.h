@@ -28,7 +28,7 @@ private:
     void SendReport(QWebEngineUrlRequestJob& job);
 
     QString path_;
-    std::unique_ptr<QFile> opened_;
+    std::unique_ptr<QFile> opened_;  ///< null where it could not be opened
 };
 
 /// Lets requests for files of this machine pass, and none other.
