@@ -20,8 +20,9 @@ QPushButton* DialogKeys::ButtonOf(int key) const {
 // What arrives at the window was ignored by the input that has the focus.
 bool DialogKeys::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::KeyPress) return QObject::eventFilter(watched, event);
-    QPushButton* button = ButtonOf(static_cast<QKeyEvent*>(event)->key());
-    if (button == nullptr) return false;
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    QPushButton* button = ButtonOf(key);
+    if (button == nullptr) return key == Qt::Key_Escape && static_cast<QWidget*>(watched)->close();
     button->click();
     return true;
 }

@@ -11,8 +11,8 @@ namespace tallix::ui {
 
 class DialogKeys : public QObject {
 public:
-    /// Belongs to `window`. A key without a button does nothing. A button that has the
-    /// focus is pressed by Enter itself.
+    /// Belongs to `window`. Without its button Enter does nothing, and Escape closes the
+    /// window. A button that has the focus is pressed by Enter itself.
     DialogKeys(QWidget& window, QPushButton* onEnter, QPushButton* onEscape);
 
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -49,6 +49,11 @@ void ProgressLine::Record(std::int64_t record, std::int64_t bound) {
     events_.Serve();
 }
 
+void ProgressLine::ShowText(const QString& text) {
+    text_->setText(text);
+    text_->repaint();
+}
+
 ProgressPanel::ProgressPanel(QWidget& window, const QString& title, const QString& text)
     : QWidget(&window), card_(new QFrame(this)) {
     hide();

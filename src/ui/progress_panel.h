@@ -28,8 +28,9 @@ public:
 
     void Record(std::int64_t record, std::int64_t bound) override;
 
-    /// A text in place of the record's.
-    void ShowText(const QString& text) { text_->setText(text); }
+    /// A text in place of the record's, painted at once: what follows may not come back
+    /// to the event loop for a while.
+    void ShowText(const QString& text);
 
     /// Back to the beginning, with no text.
     void Reset();

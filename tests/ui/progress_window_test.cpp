@@ -20,6 +20,15 @@ public:
     int served = 0;
 };
 
+class PaintCount : public QObject {
+public:
+    bool eventFilter(QObject*, QEvent* event) override {
+        paints += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+    int paints = 0;
+};
+
 class ProgressTest : public test::WindowTest {
 protected:
     static QString TextOf(const ProgressLine& line) { return line.findChild<QLabel*>()->text(); }
@@ -41,8 +50,12 @@ TEST_F(ProgressTest, ALineFollowsItsRecordsAndServesEventsAtEachOfThem) {
     EXPECT_EQ(TextOf(line), "Record 30000 Of 30000");
     EXPECT_EQ(line.findChild<QProgressBar*>()->value(), 30000);
     EXPECT_EQ(events.served, 30000);
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
+    PaintCount count;
+    line.findChild<QLabel*>()->installEventFilter(&count);
     line.ShowText("Done");
     EXPECT_EQ(TextOf(line), "Done");
+    EXPECT_EQ(count.paints, 1) << "before the event loop runs again";
     line.Reset();
     EXPECT_EQ(TextOf(line), "");
 }
