@@ -24,6 +24,10 @@ struct PlotLine {
 class PlotError : public std::runtime_error {
 public:
     PlotError();
+
+    int Number() const { return kNumber; }
+
+private:
     static constexpr int kNumber = 1000;
 };
 

@@ -55,9 +55,7 @@ private:
     QLabel* emergencyCalls_;
     QGroupBox* waiting_;
 
-    // Both stay as they are until the form goes.
-    ado::Recordset calls_;
-    ado::Recordset emergencies_;
+    ado::Recordset calls_;  ///< stays open until the form goes
 };
 
 }  // namespace tallix

@@ -12,7 +12,9 @@ namespace tallix::ui {
 namespace {
 
 // The texts of the program are English, whatever the desktop's language.
-const QLocale kTexts(QLocale::English, QLocale::UnitedKingdom);
+QLocale Texts() {
+    return {QLocale::English, QLocale::UnitedKingdom};
+}
 
 QToolButton* MonthButton(Qt::ArrowType arrow, const QString& tip) {
     auto* button = new QToolButton;
@@ -28,7 +30,7 @@ QToolButton* MonthButton(Qt::ArrowType arrow, const QString& tip) {
 CalendarPanel::CalendarPanel(QWidget* parent)
     : QFrame(parent, Qt::Popup), calendar_(new QCalendarWidget(this)), month_(new QLabel(this)) {
     setFrameShape(QFrame::StyledPanel);
-    calendar_->setLocale(kTexts);
+    calendar_->setLocale(Texts());
     calendar_->setNavigationBarVisible(false);
     calendar_->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
     calendar_->setToolTip("Click a day to select it");
@@ -56,7 +58,7 @@ QLayout* CalendarPanel::MonthRow() {
 }
 
 void CalendarPanel::ShowMonth(int year, int month) {
-    month_->setText(kTexts.standaloneMonthName(month) + " " + QString::number(year));
+    month_->setText(Texts().standaloneMonthName(month) + " " + QString::number(year));
 }
 
 void CalendarPanel::Open(const QDate& today, const QWidget& anchor) {

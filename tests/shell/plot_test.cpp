@@ -18,6 +18,7 @@ TEST(PlotTest, JoinsThreePointsAndMoreAndRefusesUnevenArrays) {
         Plot(x, std::span(y).first(3));
         FAIL() << "uneven arrays were taken";
     } catch (const PlotError& error) {
+        EXPECT_EQ(error.Number(), 1000);
         EXPECT_STREQ(error.what(), "x() and y() are different sizes");
     }
 }
