@@ -8,11 +8,11 @@
 
 #include "custody/automated_backup.h"
 #include "foundation/application.h"
+#include "foundation/form_names.h"
 #include "platform/paths.h"
 #include "scheduling/unattended_runner.h"
 #include "shell/splash_window.h"
 #include "shell/windows.h"
-#include "ui/form_names.h"
 #include "ui/forms.h"
 #include "ui/guarded_application.h"
 #include "ui/message_prompts.h"
@@ -99,10 +99,10 @@ int Run(QApplication& toolkit, const std::string& commandLine) {
                                          },
                                          [&] { tallix::WriteAutomatedBackup(application); }};
     tallix::RegisterWindows(forms, application, flags, printers);
-    forms.Register(tallix::ui::kSplashForm, [&] {
+    forms.Register(tallix::kSplashForm, [&] {
         return std::make_unique<tallix::SplashWindow>(forms, application, commandLine, work, StepInterval());
     });
-    forms.Load(tallix::ui::kSplashForm);
+    forms.Load(tallix::kSplashForm);
     return QApplication::exec();
 }
 

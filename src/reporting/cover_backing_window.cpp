@@ -8,8 +8,8 @@
 
 #include "foundation/access_log.h"
 #include "foundation/database.h"
+#include "foundation/form_names.h"
 #include "ui/dialog_keys.h"
-#include "ui/form_names.h"
 #include "ui/forms.h"
 #include "ui/main_menu_form.h"
 #include "ui/style.h"
@@ -123,8 +123,8 @@ void CoverBackingWindow::SaveAndExit() {
 
 // The Options window waits hidden when it was the one that opened this window.
 void CoverBackingWindow::OnUnload() {
-    const bool fromOptions = OtherForms().Find(ui::kOptionsForm) != nullptr;
-    OtherForms().Show(fromOptions ? ui::kOptionsForm : ui::MainMenuForm(application_.session));
+    const bool fromOptions = OtherForms().Find(kOptionsForm) != nullptr;
+    OtherForms().Show(fromOptions ? kOptionsForm : ui::MainMenuForm(application_.session));
 }
 
 }  // namespace tallix

@@ -1,6 +1,6 @@
 // The destinations of a report as the windows serve them.
 //
-//     DeliverReport(forms, application, printers, choice, ui::kPresetReportsForm);
+//     DeliverReport(forms, application, printers, choice, kPresetReportsForm);
 #pragma once
 
 #include "reporting/destinations.h"

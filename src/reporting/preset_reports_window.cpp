@@ -6,11 +6,11 @@
 #include <algorithm>
 
 #include "foundation/access_rights.h"
+#include "foundation/form_names.h"
 #include "reporting/destinations_window.h"
 #include "reporting/external_applications.h"
 #include "reporting/report_run.h"
 #include "ui/dialog_keys.h"
-#include "ui/form_names.h"
 #include "ui/forms.h"
 #include "ui/main_menu_form.h"
 #include "ui/style.h"
@@ -177,8 +177,7 @@ PresetReportsWindow::DateInput PresetReportsWindow::MakeDateInput(const QString&
     input.calendar->setToolTip("Show calendar");
     connect(input.field, &QLineEdit::textChanged, input.box,
             [box = input.box](const QString& text) { box->setChecked(!text.isEmpty()); });
-    connect(input.calendar, &QPushButton::clicked, this,
-            [this, field = input.field] { OpenCalendar(*field); });
+    connect(input.calendar, &QPushButton::clicked, this, [this, input] { OpenCalendar(input); });
     return input;
 }
 
@@ -219,12 +218,11 @@ QLayout* PresetReportsWindow::ButtonRow() {
 void PresetReportsWindow::ConnectInputs() {
     connect(reports_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &PresetReportsWindow::SelectReport);
+    connect(reports_, &QListView::clicked, this, &PresetReportsWindow::SelectReport);
     for (const QRadioButton* option : {onScreen_, toPrinter_, inApplication_}) {
         connect(option, &QRadioButton::toggled, this, &PresetReportsWindow::EnableDestinationLists);
     }
-    connect(calendar_, &ui::CalendarPanel::DayClicked, this, [this](const QDate& day) {
-        asking_->setText(QString::fromStdString(ShortDate({day.year(), day.month(), day.day()})));
-    });
+    connect(calendar_, &ui::CalendarPanel::DayClicked, this, &PresetReportsWindow::TakeDay);
     connect(run_, &QPushButton::clicked, this, &PresetReportsWindow::RunReport);
     connect(cancel_, &QPushButton::clicked, this, &QWidget::close);
 }
@@ -236,14 +234,15 @@ void PresetReportsWindow::OnLoad() {
     reports_->setFocus();
 }
 
+// No printer and no application is chosen before the person does it.
 void PresetReportsWindow::FillLists() {
     const PresetChoices choices = ReadPresetChoices(application_);
     reportNames_->setStringList(Texts(choices.reports));
     site_->addItems(Texts(choices.sites));
     group_->addItems(Texts(choices.groups));
     printerList_->addItems(Texts(printers_.Names()));
-    printerList_->setCurrentText(QString::fromStdString(printers_.Current()));
     applicationList_->addItems(Texts(ExternalApplications(application_.settings)));
+    for (QComboBox* list : {printerList_, applicationList_}) list->setCurrentIndex(-1);
 }
 
 void PresetReportsWindow::OnUnload() {
@@ -255,6 +254,7 @@ void PresetReportsWindow::closeEvent(QCloseEvent* event) {
     Form::closeEvent(event);
 }
 
+// A click on the report that is selected already reads its file anew.
 void PresetReportsWindow::SelectReport() {
     run_->setEnabled(reports_->selectionModel()->hasSelection());
     EnableInputs(EnabledInputs(Describe().reportFile));
@@ -272,10 +272,16 @@ void PresetReportsWindow::EnableDestinationLists() {
     applicationList_->setEnabled(inApplication_->isChecked());
 }
 
-void PresetReportsWindow::OpenCalendar(QLineEdit& asking) {
-    asking_ = &asking;
+void PresetReportsWindow::OpenCalendar(const DateInput& asking) {
+    asking_ = asking;
     const DateTime now = application_.clock.Now();
-    calendar_->Open(QDate(now.year, now.month, now.day), asking);
+    calendar_->Open(QDate(now.year, now.month, now.day), *asking.field);
+}
+
+// The box is ticked even where the field held this very day.
+void PresetReportsWindow::TakeDay(const QDate& day) {
+    asking_.field->setText(QString::fromStdString(ShortDate({day.year(), day.month(), day.day()})));
+    asking_.box->setChecked(true);
 }
 
 RunDescription PresetReportsWindow::Describe() const {
@@ -349,8 +355,8 @@ void PresetReportsWindow::TellNoData() {
 void PresetReportsWindow::Deliver() {
     records_->ShowText("Transferring To Report Viewer...");
     ui::Forms& forms = OtherForms();
-    DeliverReport(forms, application_, printers_, Choice(), ui::kPresetReportsForm);
-    if (forms.Find(ui::kPresetReportsForm) == this) EndRun();
+    DeliverReport(forms, application_, printers_, Choice(), kPresetReportsForm);
+    if (forms.Find(kPresetReportsForm) == this) EndRun();
 }
 
 }  // namespace tallix

@@ -64,7 +64,8 @@ private:
     void SelectReport();
     void EnableInputs(const EnabledInputs& enabled);
     void EnableDestinationLists();
-    void OpenCalendar(QLineEdit& asking);
+    void OpenCalendar(const DateInput& asking);
+    void TakeDay(const QDate& day);
 
     void RunReport();
     RunDescription Describe() const;
@@ -107,7 +108,7 @@ private:
     QPushButton* run_;
     QPushButton* cancel_;
     ui::CalendarPanel* calendar_;
-    QLineEdit* asking_ = nullptr;  ///< the date field that the calendar writes into
+    DateInput asking_{};  ///< the date that the calendar is asked for
     ui::ProgressPanel* progress_;
     ui::ProgressLine* records_;
     bool running_ = false;

@@ -6,7 +6,7 @@
 #include <QVBoxLayout>
 
 #include "foundation/access_log.h"
-#include "ui/form_names.h"
+#include "foundation/form_names.h"
 #include "ui/forms.h"
 #include "ui/style.h"
 
@@ -81,7 +81,7 @@ void AccessLoggingWindow::OnLoad() {
 }
 
 void AccessLoggingWindow::OnUnload() {
-    OtherForms().Show(ui::kOptionsForm);
+    OtherForms().Show(kOptionsForm);
 }
 
 }  // namespace tallix

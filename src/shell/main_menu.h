@@ -8,6 +8,7 @@
 
 #include "foundation/access_rights.h"
 #include "foundation/application.h"
+#include "foundation/form_names.h"
 
 namespace tallix {
 
@@ -22,14 +23,15 @@ struct MenuEntry {
 
 /// In the order of the menu, which is also that of the entry colours.
 inline constexpr std::array<MenuEntry, 6> kMenuEntries = {{
-    {AccessRight::PresetReports, "Preset Reports", "Click here for preset reports", "Form7",
+    {AccessRight::PresetReports, "Preset Reports", "Click here for preset reports", kPresetReportsForm,
      "preset_reports"},
-    {AccessRight::CustomReports, "Custom Reports", "Click here for custom reports", "Form10",
+    {AccessRight::CustomReports, "Custom Reports", "Click here for custom reports", kCustomReportsForm,
      "custom_reports"},
-    {AccessRight::Archive, "Archive", "Click here for archiving", "Form9", "archive"},
-    {AccessRight::Export, "Export", "", "Form3", "export"},
-    {AccessRight::BackupRestore, "Backup/Restore", "Click here to backup/restore", "Form4", "backup_restore"},
-    {AccessRight::Options, "Options", "Click here for options", "Form2", "options"},
+    {AccessRight::Archive, "Archive", "Click here for archiving", kArchiveForm, "archive"},
+    {AccessRight::Export, "Export", "", kCoverPagesForm, "export"},
+    {AccessRight::BackupRestore, "Backup/Restore", "Click here to backup/restore", kBackupForm,
+     "backup_restore"},
+    {AccessRight::Options, "Options", "Click here for options", kOptionsForm, "options"},
 }};
 
 /// "Connected To: ... As User: ..."

@@ -103,7 +103,7 @@ QLayout* MainWindow::FooterRow() {
     auto* about = new QPushButton("About Tallix Reports", this);
     ui::MakeLink(*about);
     about->setToolTip("Click here to find out more");
-    connect(about, &QPushButton::clicked, this, [this] { Open(ui::kAboutForm); });
+    connect(about, &QPushButton::clicked, this, [this] { Open(kAboutForm); });
     auto* logout = new QPushButton("Logout", this);
     logout->setToolTip("Click here to logout");
     connect(logout, &QPushButton::clicked, this, &MainWindow::LogOut);
@@ -120,9 +120,16 @@ QLayout* MainWindow::FooterRow() {
     return row;
 }
 
+// The Tab key comes to its inputs where the eye does.
 void MainWindow::AddPanel(QWidget& panel) {
     constexpr int kBelowMenu = 2;
     rows_->insertWidget(kBelowMenu, &panel);
+    QWidget* before = entries_.back();
+    for (QWidget* input : panel.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+        if (!(input->focusPolicy() & Qt::TabFocus)) continue;
+        setTabOrder(before, input);
+        before = input;
+    }
 }
 
 void MainWindow::OnLoad() {
@@ -175,7 +182,7 @@ void MainWindow::OpenMakerSite() {
 void MainWindow::LogOut() {
     NoteLoggedOut(application_);
     ui::UnloadInOrder(OtherForms(), ui::kLogoutOrder);
-    OtherForms().Show(ui::kLoginForm);
+    OtherForms().Show(kLoginForm);
 }
 
 void MainWindow::ExitReports() {

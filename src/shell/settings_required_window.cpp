@@ -3,8 +3,8 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "foundation/form_names.h"
 #include "shell/settings_required.h"
-#include "ui/form_names.h"
 #include "ui/forms.h"
 #include "ui/style.h"
 
@@ -95,9 +95,9 @@ void SettingsRequiredWindow::TestAddress() {
 // The login comes even when folders are missing and this window has gone.
 void SettingsRequiredWindow::SaveChanges() {
     SaveDatabaseAddress(application_, address_->text().toStdString(), [this] { Unload(); });
-    OtherForms().Load(ui::kLoginForm);
+    OtherForms().Load(kLoginForm);
     Unload();
-    OtherForms().Show(ui::kLoginForm);
+    OtherForms().Show(kLoginForm);
 }
 
 }  // namespace tallix

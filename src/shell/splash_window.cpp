@@ -6,7 +6,7 @@
 #include <QVBoxLayout>
 #include <utility>
 
-#include "ui/form_names.h"
+#include "foundation/form_names.h"
 #include "ui/forms.h"
 #include "ui/style.h"
 
@@ -133,15 +133,15 @@ void SplashWindow::UnloadSplash() {
 }
 
 void SplashWindow::ShowSettingsRequired() {
-    OtherForms().Show(ui::kSettingsRequiredForm);
+    OtherForms().Show(kSettingsRequiredForm);
 }
 
 void SplashWindow::LoadLogin() {
-    OtherForms().Load(ui::kLoginForm);
+    OtherForms().Load(kLoginForm);
 }
 
 void SplashWindow::ShowLogin() {
-    OtherForms().Show(ui::kLoginForm);
+    OtherForms().Show(kLoginForm);
 }
 
 }  // namespace tallix

@@ -1,5 +1,6 @@
 #include "shell/windows.h"
 
+#include "foundation/form_names.h"
 #include "reporting/cover_backing_window.h"
 #include "reporting/preset_reports_window.h"
 #include "reporting/report_output_window.h"
@@ -9,7 +10,6 @@
 #include "shell/main_window.h"
 #include "shell/settings_required_window.h"
 #include "shell/statistics_window.h"
-#include "ui/form_names.h"
 
 namespace tallix {
 namespace {
@@ -25,15 +25,15 @@ void Register(ui::Forms& forms, const char* name, Application& application, More
 }  // namespace
 
 void RegisterWindows(ui::Forms& forms, Application& application, ReportFlags& flags, ui::Printers& printers) {
-    Register<LoginWindow>(forms, ui::kLoginForm, application);
-    Register<MainWindow>(forms, ui::kMainForm, application);
-    Register<StatisticsWindow>(forms, ui::kStatisticsForm, application);
-    Register<AboutWindow>(forms, ui::kAboutForm, application);
-    Register<SettingsRequiredWindow>(forms, ui::kSettingsRequiredForm, application);
-    Register<AccessLoggingWindow>(forms, ui::kAccessLoggingForm, application);
-    Register<PresetReportsWindow>(forms, ui::kPresetReportsForm, application, flags, printers);
-    Register<CoverBackingWindow>(forms, ui::kCoverPagesForm, application);
-    Register<ReportOutputWindow>(forms, ui::kReportOutputForm, application, printers);
+    Register<LoginWindow>(forms, kLoginForm, application);
+    Register<MainWindow>(forms, kMainForm, application);
+    Register<StatisticsWindow>(forms, kStatisticsForm, application);
+    Register<AboutWindow>(forms, kAboutForm, application);
+    Register<SettingsRequiredWindow>(forms, kSettingsRequiredForm, application);
+    Register<AccessLoggingWindow>(forms, kAccessLoggingForm, application);
+    Register<PresetReportsWindow>(forms, kPresetReportsForm, application, flags, printers);
+    Register<CoverBackingWindow>(forms, kCoverPagesForm, application);
+    Register<ReportOutputWindow>(forms, kReportOutputForm, application, printers);
 }
 
 }  // namespace tallix

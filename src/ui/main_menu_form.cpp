@@ -1,6 +1,6 @@
 #include "ui/main_menu_form.h"
 
-#include "ui/form_names.h"
+#include "foundation/form_names.h"
 
 namespace tallix::ui {
 

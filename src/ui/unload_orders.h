@@ -5,7 +5,7 @@
 #include <array>
 #include <span>
 
-#include "ui/form_names.h"
+#include "foundation/form_names.h"
 #include "ui/forms.h"
 
 namespace tallix::ui {

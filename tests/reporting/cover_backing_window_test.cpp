@@ -4,13 +4,14 @@
 
 #include <QLabel>
 #include <QPushButton>
+#include <QTest>
 
 #include "foundation/ado/recordset.h"
 #include "foundation/database.h"
+#include "foundation/form_names.h"
 #include "support/captioned.h"
 #include "support/test_application.h"
 #include "support/window_test.h"
-#include "ui/form_names.h"
 
 namespace tallix {
 namespace {
@@ -18,16 +19,16 @@ namespace {
 class CoverBackingWindowTest : public test::WindowTest {
 protected:
     CoverBackingWindowTest() {
-        for (const char* name : {ui::kMainForm, ui::kOptionsForm}) {
+        for (const char* name : {kMainForm, kOptionsForm}) {
             forms.Register(name, [this, name] { return std::make_unique<ui::Form>(forms, name); });
         }
-        forms.Register(ui::kCoverPagesForm,
+        forms.Register(kCoverPagesForm,
                        [this] { return std::make_unique<CoverBackingWindow>(forms, world.application); });
     }
 
     template <typename Widget>
     Widget& Captioned(const QString& caption) {
-        return test::Captioned<Widget>(*forms.Load(ui::kCoverPagesForm), caption);
+        return test::Captioned<Widget>(*forms.Load(kCoverPagesForm), caption);
     }
 
     QLineEdit& Title() { return dynamic_cast<QLineEdit&>(*Captioned<QLabel>("Title:").buddy()); }
@@ -48,7 +49,7 @@ TEST_F(CoverBackingWindowTest, ShowsWhatIsStoredAndOffersATitleOnlyWhereOneIsWan
     Captioned<QRadioButton>("Default Title").click();
     EXPECT_FALSE(Title().isEnabled());
 
-    forms.Unload(ui::kCoverPagesForm);
+    forms.Unload(kCoverPagesForm);
     world.settings.Write("CTitle", "1");
     EXPECT_TRUE(Title().isEnabled());
 }
@@ -62,7 +63,7 @@ TEST_F(CoverBackingWindowTest, SavesEachBoxUnderItsKeyAndLogsIt) {
     for (const auto& [caption, key] : keys) {
         Captioned<QCheckBox>(caption).click();
         Captioned<QPushButton>("Save and Exit").click();
-        EXPECT_EQ(forms.Find(ui::kCoverPagesForm), nullptr);
+        EXPECT_EQ(forms.Find(kCoverPagesForm), nullptr);
         for (const auto& [other, otherKey] : keys) {
             EXPECT_EQ(world.settings.Read(otherKey), std::string(key) == otherKey ? "1" : "0") << otherKey;
         }
@@ -79,16 +80,24 @@ TEST_F(CoverBackingWindowTest, SavesEachBoxUnderItsKeyAndLogsIt) {
 }
 
 TEST_F(CoverBackingWindowTest, GoesBackToTheWindowThatOpenedIt) {
-    forms.Show(ui::kCoverPagesForm);
-    forms.Find(ui::kCoverPagesForm)->close();
-    EXPECT_TRUE(forms.Find(ui::kMainForm)->isVisible());
-    forms.Hide(ui::kMainForm);
+    forms.Show(kCoverPagesForm);
+    forms.Find(kCoverPagesForm)->close();
+    EXPECT_TRUE(forms.Find(kMainForm)->isVisible());
+    forms.Hide(kMainForm);
 
-    forms.Load(ui::kOptionsForm);
-    forms.Show(ui::kCoverPagesForm);
-    forms.Find(ui::kCoverPagesForm)->close();
-    EXPECT_TRUE(forms.Find(ui::kOptionsForm)->isVisible());
-    EXPECT_FALSE(forms.Find(ui::kMainForm)->isVisible());
+    forms.Show(kCoverPagesForm);
+    Captioned<QCheckBox>("Enable Cover").click();
+    QTest::keyClick(&Captioned<QCheckBox>("Enable Cover"), Qt::Key_Escape);
+    EXPECT_EQ(forms.Find(kCoverPagesForm), nullptr);
+    EXPECT_NE(world.settings.Read("CCover"), "1");
+    EXPECT_TRUE(forms.Find(kMainForm)->isVisible());
+    forms.Hide(kMainForm);
+
+    forms.Load(kOptionsForm);
+    forms.Show(kCoverPagesForm);
+    forms.Find(kCoverPagesForm)->close();
+    EXPECT_TRUE(forms.Find(kOptionsForm)->isVisible());
+    EXPECT_FALSE(forms.Find(kMainForm)->isVisible());
 }
 
 }  // namespace

@@ -7,11 +7,11 @@
 #include <QToolButton>
 #include <filesystem>
 
+#include "foundation/form_names.h"
 #include "reporting/report_run.h"
 #include "support/captioned.h"
 #include "support/test_application.h"
 #include "support/window_test.h"
-#include "ui/form_names.h"
 #include "ui/qt_events.h"
 
 namespace tallix {
@@ -31,10 +31,10 @@ protected:
         application.session.DBType = world.application.session.DBType;
         application.session.DBIP = world.application.session.DBIP;
         application.session.CurrentAccess = std::string(42, '1');
-        for (const char* name : {ui::kMainForm, ui::kReportOutputForm}) {
+        for (const char* name : {kMainForm, kReportOutputForm}) {
             forms.Register(name, [this, name] { return std::make_unique<ui::Form>(forms, name); });
         }
-        forms.Register(ui::kPresetReportsForm, [this] {
+        forms.Register(kPresetReportsForm, [this] {
             return std::make_unique<PresetReportsWindow>(forms, application, flags, printers);
         });
         world.WriteReport("All Calls", {{"Date", "True"}}, {});
@@ -44,15 +44,15 @@ protected:
 
     // As the main menu does it.
     QWidget& Open() {
-        forms.Show(ui::kMainForm);
-        forms.Show(ui::kPresetReportsForm);
-        forms.Hide(ui::kMainForm);
-        return *forms.Find(ui::kPresetReportsForm);
+        forms.Show(kMainForm);
+        forms.Show(kPresetReportsForm);
+        forms.Hide(kMainForm);
+        return *forms.Find(kPresetReportsForm);
     }
 
     template <typename Widget>
     Widget& Captioned(const QString& caption) {
-        return test::Captioned<Widget>(*forms.Find(ui::kPresetReportsForm), caption);
+        return test::Captioned<Widget>(*forms.Find(kPresetReportsForm), caption);
     }
 
     QWidget& Labelled(const QString& caption) { return *Captioned<QLabel>(caption).buddy(); }
@@ -97,7 +97,7 @@ TEST_F(PresetReportsWindowTest, OpensWithItsListsAndWithNothingToRun) {
     EXPECT_TRUE(Captioned<QRadioButton>("To Printer").isVisible());
     EXPECT_FALSE(Captioned<QCheckBox>("GRAPH").isVisible());
 
-    forms.Unload(ui::kPresetReportsForm);
+    forms.Unload(kPresetReportsForm);
     application.session.CurrentAccess[36] = '0';
     Open();
     EXPECT_FALSE(Captioned<QRadioButton>("To Printer").isVisible());
@@ -124,6 +124,11 @@ TEST_F(PresetReportsWindowTest, AReportEnablesTheInputsThatItAsksForAndKeepsWhat
         EXPECT_EQ(Captioned<QPushButton>("...").isEnabled(), key == "Date");
     }
     EXPECT_TRUE(Captioned<QPushButton>("Run Report").isEnabled());
+    world.WriteReport("All Calls", {}, {{"Group", "true"}});
+    auto& reports = dynamic_cast<QListView&>(Labelled("Available Reports"));
+    QTest::mouseClick(reports.viewport(), Qt::LeftButton, {},
+                      reports.visualRect(reports.currentIndex()).center());
+    EXPECT_TRUE(Labelled("Group:").isEnabled()) << "read again at a second click";
     std::filesystem::remove(PresetReportFile(application.folder, "Of Extension"));
     Select("Of Extension");
     for (const auto& [key, caption] : inputs) EXPECT_FALSE(Labelled(caption).isEnabled()) << key;
@@ -154,6 +159,11 @@ TEST_F(PresetReportsWindowTest, ADateIsTypedOrPicked) {
     EXPECT_FALSE(panel.isVisible());
     EXPECT_EQ(field.text(), "05/02/2021");
     EXPECT_TRUE(box.isChecked());
+
+    box.setChecked(false);
+    Captioned<QPushButton>("...").click();
+    emit calendar.clicked(QDate(2021, 2, 5));
+    EXPECT_TRUE(box.isChecked()) << "the day that the field held before";
 }
 
 TEST_F(PresetReportsWindowTest, EveryRunEndsAtTheMainMenuOrAtTheReport) {
@@ -175,15 +185,15 @@ TEST_F(PresetReportsWindowTest, EveryRunEndsAtTheMainMenuOrAtTheReport) {
         Select(c.report);
         Type("Extension:", c.extension);
         Captioned<QPushButton>("Run Report").click();
-        EXPECT_EQ(forms.Find(ui::kPresetReportsForm), nullptr) << c.extension;
-        EXPECT_EQ(IsVisible(ui::kReportOutputForm), c.message == nullptr) << c.extension;
-        EXPECT_EQ(IsVisible(ui::kMainForm), c.message != nullptr) << c.extension;
+        EXPECT_EQ(forms.Find(kPresetReportsForm), nullptr) << c.extension;
+        EXPECT_EQ(IsVisible(kReportOutputForm), c.message == nullptr) << c.extension;
+        EXPECT_EQ(IsVisible(kMainForm), c.message != nullptr) << c.extension;
         EXPECT_EQ(std::filesystem::exists(PageFile(application)), c.leavesPage) << c.extension;
         ASSERT_EQ(world.prompts.messages.size(), c.message ? 1U : 0U) << c.extension;
         if (c.message) {
             EXPECT_THAT(world.prompts.messages[0].text, StartsWith(c.message));
         }
-        forms.Unload(ui::kReportOutputForm);
+        forms.Unload(kReportOutputForm);
     }
 }
 
@@ -197,6 +207,9 @@ TEST_F(PresetReportsWindowTest, TheDestinationEnablesItsListAndAPrinterThatIsGon
         if (list->accessibleName() == "In External Application") applicationList = list;
     }
     EXPECT_FALSE(printerList->isEnabled() || applicationList->isEnabled());
+    EXPECT_EQ(printerList->count(), 2);
+    EXPECT_EQ(printerList->currentIndex(), -1);
+    EXPECT_EQ(applicationList->currentIndex(), -1);
     Captioned<QRadioButton>("In External Application").click();
     EXPECT_TRUE(!printerList->isEnabled() && applicationList->isEnabled());
     Captioned<QRadioButton>("To Printer").click();
@@ -209,7 +222,7 @@ TEST_F(PresetReportsWindowTest, TheDestinationEnablesItsListAndAPrinterThatIsGon
     EXPECT_TRUE(window.isVisible());
     EXPECT_FALSE(window.findChild<ui::ProgressPanel*>()->isVisible());
     Captioned<QPushButton>("Cancel").click();
-    EXPECT_TRUE(IsVisible(ui::kMainForm));
+    EXPECT_TRUE(IsVisible(kMainForm));
 }
 
 TEST_F(PresetReportsWindowTest, AnswersDuringARunAndIsNotDisturbedByIt) {
@@ -225,7 +238,7 @@ TEST_F(PresetReportsWindowTest, AnswersDuringARunAndIsNotDisturbedByIt) {
     QTimer heart;
     heart.callOnTimeout([&] {
         ++beats;
-        EXPECT_EQ(forms.Find(ui::kPresetReportsForm), &window);
+        EXPECT_EQ(forms.Find(kPresetReportsForm), &window);
         EXPECT_TRUE(window.findChild<ui::ProgressPanel*>()->isVisible());
         for (const QLabel* label : window.findChildren<QLabel*>()) {
             sawRecords = sawRecords || label->text().endsWith(" Of 524288");
@@ -239,13 +252,13 @@ TEST_F(PresetReportsWindowTest, AnswersDuringARunAndIsNotDisturbedByIt) {
         heart.start(1);
         Captioned<QPushButton>("Run Report").click();
         heart.stop();
-        EXPECT_TRUE(IsVisible(ui::kReportOutputForm));
+        EXPECT_TRUE(IsVisible(kReportOutputForm));
         QCoreApplication::exit(0);
     });
     EXPECT_EQ(RunToTheEnd(), 0);
     EXPECT_GE(beats, 2);
     EXPECT_TRUE(sawRecords);
-    EXPECT_EQ(forms.Find(ui::kPresetReportsForm), nullptr);
+    EXPECT_EQ(forms.Find(kPresetReportsForm), nullptr);
     EXPECT_TRUE(failures.empty());
 }
 

@@ -6,10 +6,12 @@
 #include <signal.h>
 
 #include <QElapsedTimer>
+#include <QTest>
 #include <thread>
 
 #include "foundation/ado/recordset.h"
 #include "foundation/database.h"
+#include "foundation/form_names.h"
 #include "foundation/page_setup.h"
 #include "reporting/destinations_window.h"
 #include "reporting/report_run.h"
@@ -17,7 +19,6 @@
 #include "support/run_program.h"
 #include "support/test_application.h"
 #include "support/window_test.h"
-#include "ui/form_names.h"
 
 namespace tallix {
 namespace {
@@ -40,15 +41,15 @@ public:
 class ReportOutputTest : public test::WindowTest {
 protected:
     ReportOutputTest() {
-        for (const char* name : {ui::kMainForm, ui::kPresetReportsForm}) {
+        for (const char* name : {kMainForm, kStatisticsForm, kPresetReportsForm}) {
             forms.Register(name, [this, name] { return std::make_unique<ui::Form>(forms, name); });
         }
-        forms.Register(ui::kReportOutputForm, [this] {
+        forms.Register(kReportOutputForm, [this] {
             return std::make_unique<ReportOutputWindow>(forms, test_.application, printers_);
         });
         test_.application.session.CurrentAccess = std::string(42, '1');
-        forms.Load(ui::kMainForm);
-        forms.Load(ui::kPresetReportsForm);
+        forms.Load(kMainForm);
+        forms.Load(kPresetReportsForm);
     }
     ~ReportOutputTest() override {
         for (const QString& name : forms.Loaded()) forms.Unload(name);
@@ -71,7 +72,7 @@ protected:
     }
 
     void Deliver(const DestinationChoice& choice) {
-        DeliverReport(forms, test_.application, printers_, choice, ui::kPresetReportsForm);
+        DeliverReport(forms, test_.application, printers_, choice, kPresetReportsForm);
     }
 
     template <typename Condition>
@@ -84,7 +85,7 @@ protected:
         return condition();
     }
 
-    QWidget* Output() { return forms.Find(ui::kReportOutputForm); }
+    QWidget* Output() { return forms.Find(kReportOutputForm); }
     QWidget* WaitingFrame() { return Output()->findChild<QWidget*>("WaitingFrame"); }
     QPushButton* Button(const QString& caption) {
         for (auto* button : Output()->findChildren<QPushButton*>()) {
@@ -124,11 +125,11 @@ std::string TextOf(const std::filesystem::path& pdf) {
 
 TEST_F(ReportOutputTest, ShowsTheReportAndDeletesItWhenClosed) {
     WritePage(3);
-    forms.Show(ui::kMainForm);
+    forms.Show(kMainForm);
     Deliver({});
     ASSERT_TRUE(Output()->isVisible());
-    EXPECT_FALSE(forms.Find(ui::kMainForm)->isVisible());
-    EXPECT_EQ(forms.Find(ui::kPresetReportsForm), nullptr);
+    EXPECT_FALSE(forms.Find(kMainForm)->isVisible());
+    EXPECT_EQ(forms.Find(kPresetReportsForm), nullptr);
     EXPECT_TRUE(Says(kWaiting));
     EXPECT_TRUE(WaitFor([&] { return !WaitingFrame()->isVisible(); }));
 
@@ -140,8 +141,12 @@ TEST_F(ReportOutputTest, ShowsTheReportAndDeletesItWhenClosed) {
     EXPECT_THAT(text.toStdString(), HasSubstr("Caf\xC3\xA9"));
     EXPECT_THAT(text.toStdString(), HasSubstr("Total Number Of Records: 3"));
 
-    Button("Close")->click();
-    EXPECT_TRUE(forms.Find(ui::kMainForm)->isVisible());
+    Output()->activateWindow();
+    view->setFocus();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(Output()));
+    QTest::keyClick(Output()->windowHandle(), Qt::Key_Escape);
+    EXPECT_TRUE(WaitFor([&] { return Output() == nullptr; }));
+    EXPECT_TRUE(forms.Find(kMainForm)->isVisible());
     EXPECT_FALSE(std::filesystem::exists(PageFile(test_.application)));
 }
 
@@ -169,7 +174,7 @@ TEST_F(ReportOutputTest, AProcessThatEndsWaitsForItsPrinting) {
     WritePage(20);
     Later([&] {
         Deliver({.destination = Destination::ToPrinter, .printer = kPrinter});
-        forms.Unload(ui::kMainForm);
+        forms.Unload(kMainForm);
     });
     EXPECT_EQ(RunToTheEnd(), 0);
     for (int waited = 0; server.Jobs().empty() && waited < kPatience; waited += kPause) {
@@ -182,7 +187,7 @@ TEST_F(ReportOutputTest, APrinterThatIsGonePrintsNothingAndLeavesTheRequestOpen)
     const test::PrintServer server(kPrinter);
     WritePage(1);
     Deliver({.destination = Destination::ToPrinter, .printer = "Back_Office"});
-    EXPECT_NE(forms.Find(ui::kPresetReportsForm), nullptr);
+    EXPECT_NE(forms.Find(kPresetReportsForm), nullptr);
     EXPECT_EQ(Output(), nullptr);
     EXPECT_FALSE(SpoolDocument({.printer = "Back_Office"}, "%PDF-1.4"));
 }
@@ -201,11 +206,37 @@ TEST_F(ReportOutputTest, PrintReportIsLoggedWhetherOrNotThePersonPrints) {
     EXPECT_THAT(LoggedEvents(), ElementsAre("Report Run - Calls", "Report Printed", "Report Printed"));
 }
 
+TEST_F(ReportOutputTest, ADatabaseThatIsGoneIsPassedOverAndTheSessionsMenuComesBack) {
+    test_.application.session.UseStatsMain = true;
+    forms.Show(kStatisticsForm);
+    Deliver({});
+    EXPECT_FALSE(forms.Find(kStatisticsForm)->isVisible());
+    test_.application.session.DBIP = "sqlite:/nowhere/at/all.db";
+    Button("Print Report")->click();
+    Button("Close")->click();
+    EXPECT_TRUE(forms.Find(kStatisticsForm)->isVisible());
+    EXPECT_FALSE(forms.Find(kMainForm)->isVisible());
+}
+
 TEST_F(ReportOutputTest, WithoutTheRightThereIsNoPrintButton) {
     test_.application.session.CurrentAccess[6] = '0';
     Deliver({});
     EXPECT_FALSE(Button("Print Report")->isVisible());
     EXPECT_FALSE(Button("Export As PDF")->isVisible());
+}
+
+TEST_F(ReportOutputTest, ALoadThatReplacesAnotherFindsTheReportAlthoughItIsDeleted) {
+    WritePage(2);
+    auto* output = dynamic_cast<ReportOutputWindow*>(forms.Load(kReportOutputForm));
+    for (int load = 0; load < 5; ++load) {
+        output->Navigate();
+        QTest::qWait(load * kPause / 2);  // the request of some loads is under way by then
+    }
+    output->Navigate();
+    std::filesystem::remove(PageFile(test_.application));
+    forms.Show(kReportOutputForm);
+    EXPECT_TRUE(WaitFor([&] { return !WaitingFrame()->isVisible(); }));
+    EXPECT_EQ(output->findChild<QWebEngineView*>()->title(), "Tallix Reports - Calls");
 }
 
 TEST_F(ReportOutputTest, AReportThatIsGoneAndADeadRendererSaySoAndLeaveTheProgramAlive) {

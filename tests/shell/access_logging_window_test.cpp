@@ -3,10 +3,10 @@
 #include <gmock/gmock.h>
 
 #include "foundation/access_log.h"
+#include "foundation/form_names.h"
 #include "support/captioned.h"
 #include "support/test_application.h"
 #include "support/window_test.h"
-#include "ui/form_names.h"
 
 namespace tallix {
 namespace {
@@ -14,19 +14,19 @@ namespace {
 class AccessLoggingWindowTest : public test::WindowTest {
 protected:
     AccessLoggingWindowTest() {
-        forms.Register(ui::kAccessLoggingForm,
+        forms.Register(kAccessLoggingForm,
                        [this] { return std::make_unique<AccessLoggingWindow>(forms, test_.application); });
         test_.Insert("tbllogging", kRow);
         Open();
     }
 
     void Open() {
-        forms.Show(ui::kAccessLoggingForm);
-        list_ = forms.Find(ui::kAccessLoggingForm)->findChild<ui::ListView*>();
+        forms.Show(kAccessLoggingForm);
+        list_ = forms.Find(kAccessLoggingForm)->findChild<ui::ListView*>();
     }
 
     void Click(const QString& caption) {
-        test::Captioned<QPushButton>(*forms.Find(ui::kAccessLoggingForm), caption).click();
+        test::Captioned<QPushButton>(*forms.Find(kAccessLoggingForm), caption).click();
     }
 
     const test::TestApplication::Row kRow = {
@@ -38,7 +38,7 @@ protected:
 };
 
 TEST_F(AccessLoggingWindowTest, ShowsTheLogAndExportsIt) {
-    EXPECT_EQ(forms.Find(ui::kAccessLoggingForm)->windowTitle(), "Tallix Reports Tool - Access Logging");
+    EXPECT_EQ(forms.Find(kAccessLoggingForm)->windowTitle(), "Tallix Reports Tool - Access Logging");
     EXPECT_THAT(list_->Rows().All(), testing::ElementsAre(kShown));
     Click("Export Log");
     EXPECT_THAT(test::ReadLines(test_.application.folder / "AccessLog.txt"),
@@ -57,11 +57,11 @@ TEST_F(AccessLoggingWindowTest, KeepsTheClearedRowsUntilItIsOpenedAgain) {
 }
 
 TEST_F(AccessLoggingWindowTest, GivesWayToTheOptionsHoweverItIsClosed) {
-    forms.Register(ui::kOptionsForm, [this] { return std::make_unique<ui::Form>(forms, "Options"); });
-    forms.Load(ui::kOptionsForm);
-    forms.Find(ui::kAccessLoggingForm)->close();
-    EXPECT_THAT(forms.Loaded(), testing::ElementsAre(ui::kOptionsForm));
-    EXPECT_TRUE(forms.Find(ui::kOptionsForm)->isVisible());
+    forms.Register(kOptionsForm, [this] { return std::make_unique<ui::Form>(forms, "Options"); });
+    forms.Load(kOptionsForm);
+    forms.Find(kAccessLoggingForm)->close();
+    EXPECT_THAT(forms.Loaded(), testing::ElementsAre(kOptionsForm));
+    EXPECT_TRUE(forms.Find(kOptionsForm)->isVisible());
 }
 
 }  // namespace

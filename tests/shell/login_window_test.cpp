@@ -5,10 +5,10 @@
 #include <QTest>
 
 #include "foundation/encryption_tools.h"
+#include "foundation/form_names.h"
 #include "support/captioned.h"
 #include "support/test_application.h"
 #include "support/window_test.h"
-#include "ui/form_names.h"
 #include "ui/forms.h"
 
 namespace tallix {
@@ -34,12 +34,12 @@ protected:
                                   {"AccessType", EncipherForStorage(std::string(42, '1'))},
                                   {"GroupID", "0"}});
         application_.session = std::move(test_.application.session);
-        forms.Register(ui::kMainForm, [this] { return std::make_unique<ui::Form>(forms, "Main"); });
-        forms.Register(ui::kLoginForm, [this] { return std::make_unique<LoginWindow>(forms, application_); });
-        forms.Show(ui::kLoginForm);
+        forms.Register(kMainForm, [this] { return std::make_unique<ui::Form>(forms, "Main"); });
+        forms.Register(kLoginForm, [this] { return std::make_unique<LoginWindow>(forms, application_); });
+        forms.Show(kLoginForm);
     }
 
-    QWidget* Window() { return forms.Find(ui::kLoginForm); }
+    QWidget* Window() { return forms.Find(kLoginForm); }
     QLineEdit* Field(const QString& tip) {
         for (auto* field : Window()->findChildren<QLineEdit*>()) {
             if (field->toolTip() == tip) return field;
@@ -92,12 +92,12 @@ TEST_F(LoginWindowTest, TheButtonLagsOneKeyAndGoesByTheFieldTypedInLast) {
 TEST_F(LoginWindowTest, EnterInThePasswordLogsInThoughTheButtonIsDisabled) {
     QTest::keyClicks(UserName(), "ann");
     Enter(UserName());
-    EXPECT_THAT(forms.Loaded(), ElementsAre(ui::kLoginForm));
+    EXPECT_THAT(forms.Loaded(), ElementsAre(kLoginForm));
     QTest::keyClicks(Password(), "S");
     ASSERT_FALSE(CanLogIn());
     Enter(Password());
-    EXPECT_THAT(forms.Loaded(), ElementsAre(ui::kMainForm));
-    EXPECT_TRUE(forms.Find(ui::kMainForm)->isVisible());
+    EXPECT_THAT(forms.Loaded(), ElementsAre(kMainForm));
+    EXPECT_TRUE(forms.Find(kMainForm)->isVisible());
     EXPECT_FALSE(application_.session.DBConn);
 }
 
@@ -139,7 +139,7 @@ TEST_F(LoginWindowTest, ShowsThatItIsBusyAndCannotBeClosedMeanwhile) {
     };
     LogIn("ann", "wrong");
     EXPECT_GT(glances, 1);
-    EXPECT_THAT(forms.Loaded(), ElementsAre(ui::kLoginForm));
+    EXPECT_THAT(forms.Loaded(), ElementsAre(kLoginForm));
 }
 
 TEST_F(LoginWindowTest, ADatabaseThatIsGoneIsAFailureWithItsText) {
@@ -149,7 +149,7 @@ TEST_F(LoginWindowTest, ADatabaseThatIsGoneIsAFailureWithItsText) {
 }
 
 TEST_F(LoginWindowTest, ExitLeavesNothingLoaded) {
-    forms.Load(ui::kMainForm);
+    forms.Load(kMainForm);
     Button("Exit Application").click();
     EXPECT_THAT(forms.Loaded(), IsEmpty());
 }

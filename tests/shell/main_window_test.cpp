@@ -5,12 +5,12 @@
 #include <QTest>
 
 #include "foundation/database.h"
+#include "foundation/form_names.h"
 #include "shell/about_window.h"
 #include "shell/statistics_window.h"
 #include "support/captioned.h"
 #include "support/test_application.h"
 #include "support/window_test.h"
-#include "ui/form_names.h"
 #include "ui/forms.h"
 
 namespace tallix {
@@ -24,18 +24,17 @@ protected:
     MainWindowTest() {
         test_.settings.Write("NoUpdates", "1");
         test_.application.session.CurrentAccess = std::string(42, '1');
-        forms.Register(ui::kMainForm,
-                       [this] { return std::make_unique<MainWindow>(forms, test_.application); });
-        forms.Register(ui::kStatisticsForm,
+        forms.Register(kMainForm, [this] { return std::make_unique<MainWindow>(forms, test_.application); });
+        forms.Register(kStatisticsForm,
                        [this] { return std::make_unique<StatisticsWindow>(forms, test_.application); });
-        forms.Register(ui::kAboutForm,
+        forms.Register(kAboutForm,
                        [this] { return std::make_unique<AboutWindow>(forms, test_.application); });
-        for (const char* name : {ui::kPresetReportsForm, ui::kCoverPagesForm, ui::kLoginForm}) {
+        for (const char* name : {kPresetReportsForm, kCoverPagesForm, kLoginForm}) {
             forms.Register(name, [this, name] { return std::make_unique<ui::Form>(forms, name); });
         }
     }
 
-    QWidget* Menu(const char* form = ui::kMainForm) {
+    QWidget* Menu(const char* form = kMainForm) {
         forms.Show(form);
         return forms.Find(form);
     }
@@ -71,7 +70,7 @@ TEST_F(MainWindowTest, ShowsWhoIsConnectedAndTheEntriesThatTheRightsAllow) {
     EXPECT_EQ(menu->findChild<QLabel*>("Connected")->text().toStdString(),
               "Connected To: " + test_.application.session.DBIP + " As User: Ann");
     EXPECT_THAT(ShownEntries(menu), ElementsAre("Preset Reports", "Archive", "Options"));
-    forms.Unload(ui::kMainForm);
+    forms.Unload(kMainForm);
 
     test_.application.session.CurrentAccess = "000000";
     EXPECT_THAT(ShownEntries(Menu()), IsEmpty());
@@ -81,13 +80,13 @@ TEST_F(MainWindowTest, ShowsWhoIsConnectedAndTheEntriesThatTheRightsAllow) {
 TEST_F(MainWindowTest, AnEntryOpensItsWindowAndHidesTheMenuByMouseAndByKey) {
     QWidget* menu = Menu();
     Button(menu, "Export").click();
-    EXPECT_TRUE(forms.Find(ui::kCoverPagesForm)->isVisible());
+    EXPECT_TRUE(forms.Find(kCoverPagesForm)->isVisible());
     EXPECT_FALSE(menu->isVisible());
     menu->show();
     QTest::keyClick(&Button(menu, "Preset Reports"), Qt::Key_Return);
-    EXPECT_TRUE(forms.Find(ui::kPresetReportsForm)->isVisible());
+    EXPECT_TRUE(forms.Find(kPresetReportsForm)->isVisible());
     EXPECT_FALSE(menu->isVisible());
-    EXPECT_EQ(forms.Find(ui::kMainForm), menu);
+    EXPECT_EQ(forms.Find(kMainForm), menu);
 }
 
 TEST_F(MainWindowTest, AnEntryWhoseWindowIsNotThereLeavesTheMenu) {
@@ -113,26 +112,26 @@ TEST_F(MainWindowTest, PicturesComeWithTheProgramPlainAndColoured) {
 
 TEST_F(MainWindowTest, AboutShowsTheVersionAndReturnsByTheSessionsMenu) {
     for (const bool statistics : {false, true}) {
-        const char* form = statistics ? ui::kStatisticsForm : ui::kMainForm;
+        const char* form = statistics ? kStatisticsForm : kMainForm;
         test_.application.session.UseStatsMain = statistics;
         Button(Menu(form), "About Tallix Reports").click();
-        QWidget* about = forms.Find(ui::kAboutForm);
+        QWidget* about = forms.Find(kAboutForm);
         EXPECT_EQ(about->findChild<QLabel*>("Version")->text(), "Version: 1.4.6");
         EXPECT_FALSE(forms.Find(form)->isVisible());
         about->close();
         EXPECT_TRUE(forms.Find(form)->isVisible());
-        EXPECT_EQ(forms.Find(ui::kAboutForm), nullptr);
+        EXPECT_EQ(forms.Find(kAboutForm), nullptr);
     }
 }
 
 TEST_F(MainWindowTest, LogoutNotesItAndLeavesAFreshLoginAlone) {
-    forms.Load(ui::kPresetReportsForm);
-    forms.Load(ui::kAboutForm);
-    const QWidget* oldLogin = forms.Load(ui::kLoginForm);
+    forms.Load(kPresetReportsForm);
+    forms.Load(kAboutForm);
+    const QWidget* oldLogin = forms.Load(kLoginForm);
     Button(Menu(), "Logout").click();
-    EXPECT_THAT(forms.Loaded(), ElementsAre(ui::kLoginForm));
-    EXPECT_NE(forms.Find(ui::kLoginForm), oldLogin);
-    EXPECT_TRUE(forms.Find(ui::kLoginForm)->isVisible());
+    EXPECT_THAT(forms.Loaded(), ElementsAre(kLoginForm));
+    EXPECT_NE(forms.Find(kLoginForm), oldLogin);
+    EXPECT_TRUE(forms.Find(kLoginForm)->isVisible());
     EXPECT_THAT(Log(), ElementsAre("Logged Out"));
 }
 
@@ -156,11 +155,22 @@ TEST_F(MainWindowTest, TheUpdateNoticeComesOnceAndIsNoLinkWithoutANewerVersion) 
 
 TEST_F(MainWindowTest, TheStatisticsMenuCountsTheCallsAndLeavesWithoutAWord) {
     for (int call = 0; call < 3; ++call) test_.InsertCall();
-    QWidget* menu = Menu(ui::kStatisticsForm);
+    QWidget* menu = Menu(kStatisticsForm);
     Button(menu, "Refresh Stats").click();
     EXPECT_EQ(menu->findChild<QLabel*>("TotalCalls")->text(), "3");
     EXPECT_TRUE(menu->findChild<QWidget*>("PleaseWait")->isVisible());
     EXPECT_TRUE(test_.application.session.DBConn);
+
+    std::vector<std::string> stops;
+    const QWidget* stop = &Button(menu, "Options");
+    while (stops.size() < 6) {
+        stop = stop->nextInFocusChain();
+        if (!(stop->focusPolicy() & Qt::TabFocus)) continue;
+        const auto* button = qobject_cast<const QPushButton*>(stop);
+        stops.push_back((button ? button->text() : stop->accessibleName()).toStdString());
+    }
+    EXPECT_THAT(stops, ElementsAre("Calls by Extension", "Calls", "Refresh Stats", "About Tallix Reports",
+                                   "Logout", "Exit Reports"));
     Button(menu, "Exit Reports").click();
     EXPECT_THAT(forms.Loaded(), IsEmpty());
     EXPECT_THAT(Log(), IsEmpty());

@@ -4,10 +4,10 @@
 
 #include <QTest>
 
+#include "foundation/form_names.h"
 #include "support/captioned.h"
 #include "support/test_application.h"
 #include "support/window_test.h"
-#include "ui/form_names.h"
 
 namespace tallix {
 namespace {
@@ -16,11 +16,11 @@ class SettingsRequiredWindowTest : public test::WindowTest {
 protected:
     SettingsRequiredWindowTest() {
         test_.application.session.DBIP.clear();
-        forms.Register(ui::kSettingsRequiredForm,
+        forms.Register(kSettingsRequiredForm,
                        [this] { return std::make_unique<SettingsRequiredWindow>(forms, test_.application); });
-        forms.Register(ui::kLoginForm, [this] { return std::make_unique<ui::Form>(forms, "Login"); });
-        forms.Show(ui::kSettingsRequiredForm);
-        window_ = forms.Find(ui::kSettingsRequiredForm);
+        forms.Register(kLoginForm, [this] { return std::make_unique<ui::Form>(forms, "Login"); });
+        forms.Show(kSettingsRequiredForm);
+        window_ = forms.Find(kSettingsRequiredForm);
         field_ = window_->findChild<QLineEdit*>();
     }
 
@@ -64,8 +64,8 @@ TEST_F(SettingsRequiredWindowTest, SavingIsForTheNextStartAndLeadsToTheLogin) {
     EXPECT_EQ(test_.settings.Read("DBIP"), "10.0.0.5");
     EXPECT_EQ(test_.application.session.DBIP, "");
     EXPECT_THAT(test_.prompts.messages, testing::IsEmpty());
-    EXPECT_THAT(forms.Loaded(), testing::ElementsAre(ui::kLoginForm));
-    EXPECT_TRUE(forms.Find(ui::kLoginForm)->isVisible());
+    EXPECT_THAT(forms.Loaded(), testing::ElementsAre(kLoginForm));
+    EXPECT_TRUE(forms.Find(kLoginForm)->isVisible());
 }
 
 TEST_F(SettingsRequiredWindowTest, EachMissingFolderHasItsMessageBeforeTheLogin) {
@@ -73,7 +73,7 @@ TEST_F(SettingsRequiredWindowTest, EachMissingFolderHasItsMessageBeforeTheLogin)
     std::filesystem::remove_all(test_.application.folder / "Company Docs");
     Test("10.0.0.5");
     Later([&] { Button("Save Changes").click(); });
-    Later([&] { forms.Unload(ui::kLoginForm); });
+    Later([&] { forms.Unload(kLoginForm); });
     EXPECT_EQ(RunToTheEnd(), 0);
     ASSERT_EQ(test_.prompts.messages.size(), 2);
     EXPECT_EQ(test_.prompts.messages[1].icon, MessageIcon::Critical);

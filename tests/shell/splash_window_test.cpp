@@ -6,9 +6,9 @@
 #include <QRegularExpression>
 #include <algorithm>
 
+#include "foundation/form_names.h"
 #include "support/test_application.h"
 #include "support/window_test.h"
-#include "ui/form_names.h"
 
 namespace tallix {
 namespace {
@@ -18,19 +18,19 @@ protected:
     SplashWindowTest() { test_.settings.Write("DBIP", "10.0.0.5"); }
 
     SplashWindow* LoadSplash(const std::string& commandLine) {
-        forms.Register(ui::kSplashForm, [this, commandLine] {
+        forms.Register(kSplashForm, [this, commandLine] {
             return std::make_unique<SplashWindow>(forms, test_.application, commandLine, Work(),
                                                   std::chrono::milliseconds(5));
         });
-        return dynamic_cast<SplashWindow*>(forms.Load(ui::kSplashForm));
+        return dynamic_cast<SplashWindow*>(forms.Load(kSplashForm));
     }
 
     UnattendedWork Work() {
-        return {nullptr, [this] { visibleAtTheDump_ = forms.Find(ui::kSplashForm)->isVisible(); }};
+        return {nullptr, [this] { visibleAtTheDump_ = forms.Find(kSplashForm)->isVisible(); }};
     }
 
     std::ptrdiff_t VisibleTicks() const {
-        const auto ticks = forms.Find(ui::kSplashForm)->findChildren<QWidget*>(QRegularExpression("^Tick"));
+        const auto ticks = forms.Find(kSplashForm)->findChildren<QWidget*>(QRegularExpression("^Tick"));
         return std::count_if(ticks.begin(), ticks.end(),
                              [](const QWidget* tick) { return tick->isVisible(); });
     }
@@ -41,14 +41,14 @@ protected:
 
 TEST_F(SplashWindowTest, ShowsItsStepsToAPersonAndMakesWayForTheLogin) {
     std::ptrdiff_t ticksAtTheLogin = 0;
-    forms.Register(ui::kLoginForm, [&] {
+    forms.Register(kLoginForm, [&] {
         ticksAtTheLogin = VisibleTicks();
         return std::make_unique<ui::Form>(forms, "Login");
     });
     SplashWindow* splash = LoadSplash("");
     QObject::connect(splash, &QObject::destroyed, [&] {
-        EXPECT_TRUE(forms.Find(ui::kLoginForm)->isVisible());
-        forms.Unload(ui::kLoginForm);
+        EXPECT_TRUE(forms.Find(kLoginForm)->isVisible());
+        forms.Unload(kLoginForm);
     });
     EXPECT_EQ(splash->findChild<QLabel*>("Version")->text(), "Version: 1.4.6");
     EXPECT_TRUE(splash->isVisible());

@@ -1,7 +1,7 @@
 // The names by which forms are loaded, shown and unloaded.
 #pragma once
 
-namespace tallix::ui {
+namespace tallix {
 
 inline constexpr char kMainForm[] = "Form1";
 inline constexpr char kOptionsForm[] = "Form2";
@@ -18,4 +18,4 @@ inline constexpr char kAboutForm[] = "Form13";
 inline constexpr char kStatisticsForm[] = "Form18";
 inline constexpr char kAccessLoggingForm[] = "Form20";
 
-}  // namespace tallix::ui
+}  // namespace tallix
