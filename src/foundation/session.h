@@ -14,8 +14,8 @@ struct Session {
     std::string DBIP;
     std::string SQLUser;
     std::string SQLPass;
-    std::string StrQuote = "\"";  ///< delimiter of string literals
-    std::string IdQuote;          ///< delimiter of a quoted column name, set at every connect
+    std::string StrQuote = "\"";              ///< delimiter of string literals
+    std::string IdQuote;                      ///< delimiter of a quoted column name, set at every connect
     std::unique_ptr<ado::Connection> DBConn;  ///< present only during an operation
     std::string ReportsLocation;
     std::string DocsLocation;

@@ -113,21 +113,9 @@ void LoginWindow::ArrangeRows() {
 }
 
 QLayout* LoginWindow::TitleRow() {
-    auto* title = new QLabel("Tallix", this);
-    ui::MakeHeading(*title);
     auto* subtitle = new QLabel("Reports Tool", this);
     ui::MakeSubheading(*subtitle);
-    auto* names = new QVBoxLayout;
-    names->setSpacing(0);
-    names->addStretch();
-    names->addWidget(title);
-    names->addWidget(subtitle);
-    auto* row = new QHBoxLayout;
-    row->setSpacing(ui::kMargin);
-    row->addWidget(new ui::ProductMark(this));
-    row->addLayout(names);
-    row->addStretch();
-    return row;
+    return ui::ProductTitle(this, "Tallix", subtitle);
 }
 
 QLayout* LoginWindow::InputRows() {

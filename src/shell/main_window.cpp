@@ -81,22 +81,11 @@ void MainWindow::ArrangeRows() {
 }
 
 QLayout* MainWindow::TitleRow() {
-    auto* title = new QLabel("Reports Tool", this);
-    ui::MakeHeading(*title);
     connected_->setObjectName("Connected");
     connected_->setTextFormat(Qt::PlainText);
     connected_->setWordWrap(true);
     ui::MakeQuiet(*connected_);
-    auto* texts = new QVBoxLayout;
-    texts->setSpacing(0);
-    texts->addStretch();
-    texts->addWidget(title);
-    texts->addWidget(connected_);
-    auto* row = new QHBoxLayout;
-    row->setSpacing(ui::kMargin);
-    row->addWidget(new ui::ProductMark(this));
-    row->addLayout(texts, 1);
-    return row;
+    return ui::ProductTitle(this, "Reports Tool", connected_);
 }
 
 QLayout* MainWindow::FooterRow() {

@@ -1,6 +1,9 @@
 #include "ui/artwork.h"
 
+#include <QHBoxLayout>
+#include <QLabel>
 #include <QPainter>
+#include <QVBoxLayout>
 #include <array>
 
 #include "ui/style.h"
@@ -54,6 +57,21 @@ void ProductMark::paintEvent(QPaintEvent*) {
         painter.drawRoundedRect(QRect(left, height() - barHeight, kBarWidth, barHeight), 2, 2);
         left += kBarWidth + kBarGap;
     }
+}
+
+QLayout* ProductTitle(QWidget* window, const QString& heading, QLabel* below) {
+    auto* title = new QLabel(heading, window);
+    MakeHeading(*title);
+    auto* texts = new QVBoxLayout;
+    texts->setSpacing(0);
+    texts->addStretch();
+    texts->addWidget(title);
+    texts->addWidget(below);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(kMargin);
+    row->addWidget(new ProductMark(window));
+    row->addLayout(texts, 1);
+    return row;
 }
 
 }  // namespace tallix::ui

@@ -3,6 +3,9 @@
 
 #include <QWidget>
 
+class QLabel;
+class QLayout;
+
 namespace tallix::ui {
 
 /// A round tick of 3 grid steps. Keeps its place while hidden.
@@ -25,5 +28,8 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override;
 };
+
+/// The row that windows begin with: the mark, and beside it a heading over `below`.
+QLayout* ProductTitle(QWidget* window, const QString& heading, QLabel* below);
 
 }  // namespace tallix::ui
