@@ -15,7 +15,12 @@ inline constexpr char kArchiveForm[] = "Form9";
 inline constexpr char kCustomReportsForm[] = "Form10";
 inline constexpr char kSettingsRequiredForm[] = "Form11";
 inline constexpr char kAboutForm[] = "Form13";
+inline constexpr char kSitesForm[] = "Form14";
+inline constexpr char kMappingsForm[] = "Form15";
+inline constexpr char kSchedulesForm[] = "Form16";
+inline constexpr char kCallCostingsForm[] = "Form17";
 inline constexpr char kStatisticsForm[] = "Form18";
+inline constexpr char kCallCostMapForm[] = "Form19";
 inline constexpr char kAccessLoggingForm[] = "Form20";
 
 }  // namespace tallix

@@ -1,7 +1,5 @@
 #include "ui/progress_panel.h"
 
-#include <QEvent>
-#include <QPainter>
 #include <QVBoxLayout>
 
 #include "ui/style.h"
@@ -11,7 +9,6 @@ namespace {
 
 constexpr std::chrono::milliseconds kPaintInterval{50};
 constexpr int kCardWidth = 48 * kGrid;
-constexpr int kVeilOpacity = 160;  ///< of 255
 
 }  // namespace
 
@@ -55,45 +52,16 @@ void ProgressLine::ShowText(const QString& text) {
 }
 
 ProgressPanel::ProgressPanel(QWidget& window, const QString& title, const QString& text)
-    : QWidget(&window), card_(new QFrame(this)) {
-    hide();
+    : Overlay(window, title) {
     setCursor(Qt::BusyCursor);
-    card_->setFrameShape(QFrame::StyledPanel);
-    card_->setAutoFillBackground(true);
-    card_->setBackgroundRole(QPalette::Base);
-    card_->setFixedWidth(kCardWidth);
-    auto* heading = new QLabel(title, card_);
-    MakeSubheading(*heading);
-    auto* rows = new QVBoxLayout(card_);
-    rows->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-    rows->setSpacing(kSpacing * 2);
-    rows->addWidget(heading);
-    rows->addWidget(new QLabel(text, card_));
-    auto* centre = new QVBoxLayout(this);
-    centre->addWidget(card_, 0, Qt::AlignCenter);
-    window.installEventFilter(this);
+    Card().setFixedWidth(kCardWidth);
+    CardRows().addWidget(new QLabel(text, &Card()));
 }
 
 ProgressLine& ProgressPanel::AddLine(EventQueue& events, const QString& pattern) {
-    auto* line = new ProgressLine(events, pattern, card_);
-    card_->layout()->addWidget(line);
+    auto* line = new ProgressLine(events, pattern, &Card());
+    CardRows().addWidget(line);
     return *line;
-}
-
-bool ProgressPanel::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::Resize) resize(parentWidget()->size());
-    return QWidget::eventFilter(watched, event);
-}
-
-void ProgressPanel::showEvent(QShowEvent*) {
-    resize(parentWidget()->size());
-    raise();
-}
-
-void ProgressPanel::paintEvent(QPaintEvent*) {
-    QColor veil = palette().window().color();
-    veil.setAlpha(kVeilOpacity);
-    QPainter(this).fillRect(rect(), veil);
 }
 
 }  // namespace tallix::ui

@@ -7,13 +7,13 @@
 //     ... records.Record(n, m) ...
 #pragma once
 
-#include <QFrame>
 #include <QLabel>
 #include <QProgressBar>
 #include <chrono>
 
 #include "foundation/event_queue.h"
 #include "foundation/run_progress.h"
+#include "ui/overlay.h"
 
 namespace tallix::ui {
 
@@ -45,7 +45,7 @@ private:
     Moment shown_{};
 };
 
-class ProgressPanel : public QWidget {
+class ProgressPanel : public Overlay {
     Q_OBJECT
 public:
     /// Hidden until shown. Covers `window`, whose inputs the caller disables.
@@ -53,15 +53,6 @@ public:
 
     /// The line belongs to the panel.
     ProgressLine& AddLine(EventQueue& events, const QString& pattern);
-
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
-protected:
-    void paintEvent(QPaintEvent* event) override;
-    void showEvent(QShowEvent* event) override;
-
-private:
-    QFrame* card_;
 };
 
 }  // namespace tallix::ui

@@ -42,11 +42,12 @@ const Borders& AllowedIncludes() {
     return borders;
 }
 
-/// The layer of a file by its path below src: its folder, save for windows, their list and
-/// main.
+/// The layer of a file by its path below src: its folder, save for windows, the pages of
+/// windows, the list of windows and main.
 std::string LayerOf(const fs::path& file) {
     if (file.parent_path() == "shell" && file.stem() == "windows") return "main";
     if (file.stem().string().ends_with("_window")) return "window";
+    if (file.parent_path() == "admin" && file.stem().string().ends_with("_page")) return "window";
     return file.has_parent_path() ? file.begin()->string() : file.stem().string();
 }
 

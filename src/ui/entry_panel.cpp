@@ -1,0 +1,80 @@
+#include "ui/entry_panel.h"
+
+#include <QHBoxLayout>
+
+#include "ui/dialog_keys.h"
+#include "ui/style.h"
+
+namespace tallix::ui {
+namespace {
+
+constexpr int kInputWidth = 36 * kGrid;
+
+}  // namespace
+
+EntryPanel::EntryPanel(QWidget& page)
+    : Overlay(page, QString()),
+      inputs_(new QFormLayout),
+      save_(new QPushButton("Save", &Card())),
+      cancel_(new QPushButton("Cancel", &Card())) {
+    inputs_->setSpacing(kSpacing);
+    inputs_->setLabelAlignment(Qt::AlignLeft);
+    CardRows().addLayout(inputs_);
+    auto* buttons = new QHBoxLayout;
+    buttons->setSpacing(kSpacing);
+    buttons->addStretch();
+    buttons->addWidget(save_);
+    buttons->addWidget(cancel_);
+    CardRows().addLayout(buttons);
+    connect(save_, &QPushButton::clicked, this, &EntryPanel::Saved);
+    connect(cancel_, &QPushButton::clicked, this, [this] {
+        hide();
+        emit Cancelled();
+    });
+    new DialogKeys(*this, save_, cancel_);
+}
+
+QLabel& EntryPanel::AddInput(const QString& label, QWidget* input) {
+    auto* words = new QLabel(label, &Card());
+    words->setBuddy(input);
+    input->setMinimumWidth(kInputWidth);
+    inputs_->addRow(words, input);
+    setTabOrder(input, save_);
+    setTabOrder(save_, cancel_);
+    return *words;
+}
+
+void EntryPanel::AddRow(QWidget* row) {
+    inputs_->addRow(row);
+}
+
+void EntryPanel::AddRow(QLayout* row) {
+    inputs_->addRow(row);
+}
+
+void EntryPanel::Open(const QString& title) {
+    SetTitle(title);
+    show();
+    if (const QList<QWidget*> chain = FocusChain(); !chain.isEmpty()) chain.first()->setFocus();
+}
+
+QList<QWidget*> EntryPanel::FocusChain() const {
+    QList<QWidget*> chain;
+    for (QWidget* next = nextInFocusChain(); next != this; next = next->nextInFocusChain()) {
+        const bool takesTab = (next->focusPolicy() & Qt::TabFocus) != 0;
+        if (isAncestorOf(next) && takesTab && next->isEnabled() && next->isVisible()) chain.append(next);
+    }
+    return chain;
+}
+
+// What lies beneath is greyed and cannot be clicked, so the keyboard must not reach it either.
+bool EntryPanel::focusNextPrevChild(bool next) {
+    const QList<QWidget*> chain = FocusChain();
+    if (chain.isEmpty()) return false;
+    const qsizetype place = chain.indexOf(focusWidget());
+    const qsizetype step = next ? 1 : chain.size() - 1;
+    chain[(place + step) % chain.size()]->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    return true;
+}
+
+}  // namespace tallix::ui
