@@ -172,18 +172,21 @@ TEST_F(PresetReportsWindowTest, EveryRunEndsAtTheMainMenuOrAtTheReport) {
         const char* extension;
         const char* message;  ///< the opening of what the person is told; null for a report
         bool leavesPage;
+        bool vanishes = false;  ///< the report's file, between its choice and the run
     };
     const Case cases[] = {{"All Calls", "x", nullptr, true},
                           {"Of Extension", "", "You have not entered a value for extension", false},
                           {"Of Extension", "20x", "You have not entered a numeric value", false},
                           {"Of Nobody", "", "The report does not contain any data.\nIf you", true},
-                          {"Of Extension", "2\"0'1", "You have not entered a numeric", false}};
+                          {"Of Extension", "2\"0'1", "You have not entered a numeric", false},
+                          {"All Calls", "2\"0'1", nullptr, true, true}};
     world.InsertCall();
     for (const Case& c : cases) {
         world.prompts.messages.clear();
         Open();
         Select(c.report);
         Type("Extension:", c.extension);
+        if (c.vanishes) std::filesystem::remove(PresetReportFile(application.folder, c.report));
         Captioned<QPushButton>("Run Report").click();
         EXPECT_EQ(forms.Find(kPresetReportsForm), nullptr) << c.extension;
         EXPECT_EQ(IsVisible(kReportOutputForm), c.message == nullptr) << c.extension;
@@ -195,6 +198,24 @@ TEST_F(PresetReportsWindowTest, EveryRunEndsAtTheMainMenuOrAtTheReport) {
         }
         forms.Unload(kReportOutputForm);
     }
+}
+
+TEST_F(PresetReportsWindowTest, QuotesInEveryFieldHarmNothing) {
+    world.InsertCall();
+    world.WriteReport("Of Quotes", {{"Date", "True"}},
+                      {{"Date", "True"}, {"Duration", "True"}, {"Group", "True"}, {"Time", "True"}});
+    const QString text = "'\"; DELETE FROM tblphonedata; --\"";
+    for (const char* report : {"Of Quotes", "All Calls"}) {
+        const QWidget& window = Open();
+        Select(report);
+        for (QLineEdit* field : window.findChildren<QLineEdit*>()) field->setText(text);
+        for (QComboBox* list : window.findChildren<QComboBox*>()) {
+            if (list->isEditable()) list->setCurrentText(text);
+        }
+        Captioned<QPushButton>("Run Report").click();
+        EXPECT_EQ(forms.Find(kPresetReportsForm), nullptr);
+    }
+    EXPECT_TRUE(IsVisible(kReportOutputForm)) << "the calls are still there";
 }
 
 TEST_F(PresetReportsWindowTest, TheDestinationEnablesItsListAndAPrinterThatIsGoneKeepsTheWindow) {
