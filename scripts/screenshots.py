@@ -1,6 +1,7 @@
-"""Walks through the windows and takes their pictures: screenshots.py WALK PROGRAM PICTURES
+"""Walks through the windows and takes their pictures: screenshots.py WALK PICTURES PROGRAM...
 
-WALK is first_run, for a program without settings, or session, for one that is set up.
+WALK is first_run, for a program without settings, session, for one that is set up, or the
+name of a window that another program shows by itself.
 """
 import os
 import pathlib
@@ -82,18 +83,31 @@ def watch_run(person, camera):
     camera.take("preset_progress", settle=0)
 
 
+def choose_covers(person, camera):
+    person.press("Export")
+    person.find("Tallix Reports Tool - Report Cover/Backing")
+    camera.take("cover_backing")
+    person.press("Save and Exit")
+
+
 def session(person, camera):
     start(person, camera)
     look_at_about(person, camera)
+    choose_covers(person, camera)
     read_report(person, camera)
     watch_run(person, camera)
 
 
-def main(walk, program, pictures):
+def statistics(person, camera):
+    person.find("Your version of Tallix is up to date!")
+    camera.take("statistics")
+
+
+def main(walk, pictures, *program):
     os.environ["TALLIX_STEP_MS"] = STEP_MS
     with Desktop():
         Atspi.generate_mouse_event(1279, 899, "abs")  # the pointer would highlight what is under it
-        process = subprocess.Popen([program])
+        process = subprocess.Popen(program)
         try:
             walk(Person(), Camera(pictures))
         finally:
@@ -101,4 +115,5 @@ def main(walk, program, pictures):
             process.wait()
 
 
-main({"first_run": first_run, "session": session}[sys.argv[1]], *sys.argv[2:])
+WALKS = {"first_run": first_run, "session": session, "statistics": statistics}
+main(WALKS[sys.argv[1]], *sys.argv[2:])

@@ -21,7 +21,8 @@ export QT_LOGGING_RULES="*.info=false;*.debug=false"
 export TALLIX_HOME="$work/home" TALLIX_REGISTRY="$work/settings" Temp="$work/temp"
 
 cd "$work/home"
-/usr/bin/python3 "$driver" first_run "$build/src/Tallix_Reports" "$pictures"
+/usr/bin/python3 "$driver" first_run "$pictures" "$build/src/Tallix_Reports"
 "$build/tools/Tallix_Setup" --demo 300000 --admin-password Larkfield7 >/dev/null
 sed -i "s|sqlite:$work/home/|sqlite:|" "$TALLIX_REGISTRY/HKLM.reg" # an address that fits on its line
-/usr/bin/python3 "$driver" session "$build/src/Tallix_Reports" "$pictures"
+/usr/bin/python3 "$driver" session "$pictures" "$build/src/Tallix_Reports"
+/usr/bin/python3 "$driver" statistics "$pictures" "$build/tests/show_form" Form18

@@ -34,6 +34,7 @@ MainWindow::MainWindow(ui::Forms& forms, Application& application, const Kind& k
       application_(application),
       kind_(kind),
       rows_(new QVBoxLayout(this)),
+      middle_(new QHBoxLayout),
       grid_(new QGridLayout),
       connected_(new QLabel(this)) {
     MakeEntries();
@@ -74,7 +75,9 @@ void MainWindow::ArrangeRows() {
     rows_->setContentsMargins(ui::kMargin * 2, ui::kMargin + ui::kSpacing, ui::kMargin * 2, ui::kMargin);
     rows_->setSpacing(ui::kMargin);
     rows_->addLayout(TitleRow());
-    rows_->addWidget(menu);
+    middle_->setSpacing(ui::kMargin);
+    middle_->addWidget(menu, 0, Qt::AlignTop);
+    rows_->addLayout(middle_);
     rows_->addWidget(noticeLabel_, 0, Qt::AlignLeft);
     rows_->addLayout(FooterRow());
     rows_->setSizeConstraint(QLayout::SetFixedSize);
@@ -111,8 +114,7 @@ QLayout* MainWindow::FooterRow() {
 
 // The Tab key comes to its inputs where the eye does.
 void MainWindow::AddPanel(QWidget& panel) {
-    constexpr int kBelowMenu = 2;
-    rows_->insertWidget(kBelowMenu, &panel);
+    middle_->addWidget(&panel);
     QWidget* before = entries_.back();
     for (QWidget* input : panel.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
         if (!(input->focusPolicy() & Qt::TabFocus)) continue;

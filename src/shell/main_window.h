@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QTimer>
@@ -40,7 +41,7 @@ protected:
     /// The button "Exit Reports".
     virtual void ExitReports();
 
-    /// Puts a panel below the entries.
+    /// Puts a panel beside the entries: below them it would not fit on a small screen.
     void AddPanel(QWidget& panel);
 
     Application& Program() const { return application_; }
@@ -63,6 +64,7 @@ private:
     UpdateNotice notice_;
     QTimer updateTimer_;
     QVBoxLayout* rows_;
+    QHBoxLayout* middle_;  ///< the entries and the panel beside them
     QGridLayout* grid_;
     std::vector<ui::EntryButton*> entries_;
     QLabel* connected_;

@@ -16,8 +16,8 @@ namespace tallix {
 namespace {
 
 constexpr std::chrono::milliseconds kRefreshDelay{1000};
-constexpr int kPictureSize = 12 * ui::kGrid;
-constexpr int kListHeight = 14 * ui::kGrid;
+constexpr int kPictureSize = 10 * ui::kGrid;
+constexpr int kListHeight = 8 * ui::kGrid;
 constexpr std::size_t kPlotColour = 0;
 
 QTreeWidget* MakeList(const QStringList& columns, const QString& name, QWidget* parent) {
@@ -82,7 +82,7 @@ StatisticsWindow::StatisticsWindow(ui::Forms& forms, Application& application)
 QGroupBox* StatisticsWindow::StatisticsPanel() {
     auto* panel = new QGroupBox("Call Stats", this);
     auto* rows = new QVBoxLayout(panel);
-    rows->setSpacing(ui::kSpacing * 2);
+    rows->setSpacing(ui::kSpacing);
     rows->addLayout(Values());
     rows->addLayout(Lists());
     rows->addLayout(Pictures());
