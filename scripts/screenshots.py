@@ -115,5 +115,14 @@ def main(walk, pictures, *program):
             process.wait()
 
 
-WALKS = {"first_run": first_run, "session": session, "statistics": statistics}
+def shows(caption, name):
+    """The walk to a window that is there at once."""
+    def look(person, camera):
+        person.find(caption)
+        camera.take(name)
+    return look
+
+
+WALKS = {"first_run": first_run, "session": session, "statistics": statistics,
+         "cost_map": shows("Tallix Reports Tool - Call Cost Mappings", "cost_map")}
 main(WALKS[sys.argv[1]], *sys.argv[2:])

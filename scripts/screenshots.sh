@@ -26,3 +26,4 @@ cd "$work/home"
 sed -i "s|sqlite:$work/home/|sqlite:|" "$TALLIX_REGISTRY/HKLM.reg" # an address that fits on its line
 /usr/bin/python3 "$driver" session "$pictures" "$build/src/Tallix_Reports"
 /usr/bin/python3 "$driver" statistics "$pictures" "$build/tests/show_form" Form18
+/usr/bin/python3 "$driver" cost_map "$pictures" "$build/tests/show_form" Form19

@@ -1,5 +1,7 @@
 #include "shell/windows.h"
 
+#include "costing/call_cost_map_window.h"
+#include "costing/call_costings_window.h"
 #include "foundation/form_names.h"
 #include "reporting/cover_backing_window.h"
 #include "reporting/preset_reports_window.h"
@@ -32,6 +34,8 @@ void RegisterWindows(ui::Forms& forms, Application& application, ReportFlags& fl
     Register<SettingsRequiredWindow>(forms, kSettingsRequiredForm, application);
     Register<AccessLoggingWindow>(forms, kAccessLoggingForm, application);
     Register<PresetReportsWindow>(forms, kPresetReportsForm, application, flags, printers);
+    Register<CallCostingsWindow>(forms, kCallCostingsForm, application);
+    Register<CallCostMapWindow>(forms, kCallCostMapForm, application);
     Register<CoverBackingWindow>(forms, kCoverPagesForm, application);
     Register<ReportOutputWindow>(forms, kReportOutputForm, application, printers);
 }
