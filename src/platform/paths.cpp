@@ -32,6 +32,10 @@ fs::path WithoutSlashBehind(const fs::path& folder) {
     return plain.has_filename() || plain == plain.root_path() ? plain : plain.parent_path();
 }
 
+fs::path RunningProgram() {
+    return fs::read_symlink("/proc/self/exe");
+}
+
 fs::path HomeFolder() {
     fs::path home = FromEnvironment("HOME");
     if (!home.empty()) return home;
@@ -50,15 +54,6 @@ void RequireOwnFolder(const fs::path& folder) {
     if (open && chmod(folder.c_str(), kPrivate) != 0) {
         throw std::runtime_error("the folder " + folder.string() + " is open to others");
     }
-}
-
-fs::path PrivateTempFolder() {
-    fs::path folder = fs::temp_directory_path() / ("tallix-" + std::to_string(geteuid()));
-    if (mkdir(folder.c_str(), kPrivate) != 0 && errno != EEXIST) {
-        throw std::system_error(errno, std::generic_category(), "the folder " + folder.string());
-    }
-    RequireOwnFolder(folder);
-    return folder;
 }
 
 }  // namespace
@@ -82,22 +77,39 @@ fs::path FindIgnoringCase(const fs::path& path) {
 }
 
 fs::path ApplicationFolder() {
-    const fs::path home = FromEnvironment("TALLIX_HOME");
-    return WithoutSlashBehind(home.empty() ? fs::read_symlink("/proc/self/exe").parent_path() : home);
+    const fs::path home = FromEnvironment(kApplicationFolderVariable);
+    return WithoutSlashBehind(home.empty() ? RunningProgram().parent_path() : home);
+}
+
+fs::path ProgramFile(const fs::path& applicationFolder) {
+    fs::path program = applicationFolder / kProgramName;
+    const fs::path running = RunningProgram();
+    std::error_code failure;
+    const bool standsIn = !fs::exists(program, failure) && running.filename() == kProgramName;
+    return standsIn ? running : program;
 }
 
 fs::path TempFolder() {
-    const fs::path temp = FromEnvironment("Temp");
-    return temp.empty() ? PrivateTempFolder() : temp;
+    const fs::path temp = FromEnvironment(kTempVariable);
+    return temp.empty() ? PrivateFolder() : temp;
+}
+
+fs::path PrivateFolder() {
+    fs::path folder = fs::temp_directory_path() / ("tallix-" + std::to_string(geteuid()));
+    if (mkdir(folder.c_str(), kPrivate) != 0 && errno != EEXIST) {
+        throw std::system_error(errno, std::generic_category(), "the folder " + folder.string());
+    }
+    RequireOwnFolder(folder);
+    return folder;
 }
 
 fs::path MachineSettingsFolder() {
-    const fs::path registry = FromEnvironment("TALLIX_REGISTRY");
+    const fs::path registry = FromEnvironment(kRegistryVariable);
     return registry.empty() ? fs::path(kMachineSettings) : registry;
 }
 
 fs::path UserSettingsFolder() {
-    fs::path registry = FromEnvironment("TALLIX_REGISTRY");
+    fs::path registry = FromEnvironment(kRegistryVariable);
     if (!registry.empty()) return registry;
     const fs::path config = FromEnvironment("XDG_CONFIG_HOME");
     return (config.is_absolute() ? config : HomeFolder() / ".config") / "tallix";

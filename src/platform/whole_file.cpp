@@ -1,92 +1,20 @@
 #include "platform/whole_file.h"
 
-#include <fcntl.h>
-#include <sys/file.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
-#include <array>
 #include <cerrno>
 #include <string_view>
-#include <utility>
+
+#include "platform/descriptor.h"
+#include "platform/file_lock.h"
 
 namespace tallix {
 namespace {
 
 namespace fs = std::filesystem;
 
-constexpr mode_t kLockMode = 0640;
 constexpr mode_t kPrivate = 0600;
 constexpr mode_t kPermissions = 07777;
-constexpr std::size_t kReadSize = 16384;
-
-class Descriptor {
-public:
-    Descriptor(const fs::path& file, int flags, mode_t mode = 0)
-        : number_(open(file.c_str(), flags | O_CLOEXEC, mode)) {}
-    ~Descriptor() {
-        if (number_ >= 0) close(number_);
-    }
-    Descriptor(Descriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    Descriptor& operator=(Descriptor&&) = delete;
-
-    bool IsOpen() const { return number_ >= 0; }
-    int Number() const { return number_; }
-
-private:
-    int number_;
-};
-
-fs::path Beside(const fs::path& file, std::string_view ending) {
-    return file.parent_path() / ("." + file.filename().string() + std::string(ending));
-}
-
-bool IsSameFile(int number, const fs::path& file) {
-    struct stat held {};
-    struct stat named {};
-    return fstat(number, &held) == 0 && stat(file.c_str(), &named) == 0 && held.st_ino == named.st_ino &&
-           held.st_dev == named.st_dev;
-}
-
-/// An exclusive lock on a file beside the one that is to be written. The lock file is
-/// removed at the end; whoever then holds a lock on the removed one tries again.
-class WriteLock {
-public:
-    explicit WriteLock(fs::path file) : file_(std::move(file)), held_(Take()) {}
-    ~WriteLock() {
-        if (held_) unlink(file_.c_str());
-    }
-    WriteLock(const WriteLock&) = delete;
-    WriteLock& operator=(const WriteLock&) = delete;
-
-    bool IsHeld() const { return held_.has_value(); }
-
-private:
-    std::optional<Descriptor> Take() const {
-        while (true) {
-            Descriptor descriptor(file_, O_RDONLY | O_CREAT | O_NOFOLLOW, kLockMode);
-            if (!descriptor.IsOpen()) return {};
-            while (flock(descriptor.Number(), LOCK_EX) != 0) {
-                if (errno != EINTR) return {};
-            }
-            if (IsSameFile(descriptor.Number(), file_)) return descriptor;
-        }
-    }
-
-    fs::path file_;
-    std::optional<Descriptor> held_;
-};
-
-bool WriteAll(int number, std::string_view text) {
-    while (!text.empty()) {
-        const ssize_t written = write(number, text.data(), text.size());
-        if (written < 0 && errno != EINTR) return false;
-        if (written > 0) text.remove_prefix(static_cast<std::size_t>(written));
-    }
-    return true;
-}
 
 /// Owner and permissions of the file that is replaced. The owner can be kept by root
 /// alone; anybody else's new file is their own.
@@ -105,7 +33,7 @@ bool WriteNewFile(const fs::path& file, std::string_view text, mode_t modeWhenNe
     const Descriptor descriptor(file, O_WRONLY | O_CREAT | O_EXCL, previous ? kPrivate : modeWhenNew);
     if (!descriptor.IsOpen()) return false;
     if (previous && !KeepOwnerAndMode(descriptor.Number(), *previous)) return false;
-    return WriteAll(descriptor.Number(), text) && fsync(descriptor.Number()) == 0;
+    return WriteAll(descriptor, text) && fsync(descriptor.Number()) == 0;
 }
 
 /// The rename is on the disk once its folder is. A folder that cannot be synced (some
@@ -140,13 +68,8 @@ std::optional<std::string> ReadWholeFile(const fs::path& file) {
     struct stat state {};
     if (!descriptor.IsOpen() || fstat(descriptor.Number(), &state) != 0 || !S_ISREG(state.st_mode)) return {};
     std::string text;
-    std::array<char, kReadSize> block;
-    while (true) {
-        const ssize_t size = read(descriptor.Number(), block.data(), block.size());
-        if (size == 0) return text;
-        if (size < 0 && errno != EINTR) return {};
-        if (size > 0) text.append(block.data(), static_cast<std::size_t>(size));
-    }
+    if (!ReadToEnd(descriptor, text)) return {};
+    return text;
 }
 
 bool RewriteWholeFile(const fs::path& file, mode_t modeWhenNew, const Rewrite& rewrite) {
@@ -154,7 +77,7 @@ bool RewriteWholeFile(const fs::path& file, mode_t modeWhenNew, const Rewrite& r
     std::error_code failure;
     const fs::path real = fs::weakly_canonical(fs::absolute(file), failure);
     if (failure || !real.has_filename()) return false;
-    const WriteLock lock(Beside(real, ".lock"));
+    const FileLock lock(Beside(real, ".lock"));
     return lock.IsHeld() && Replace(real, modeWhenNew, rewrite);
 }
 

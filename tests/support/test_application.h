@@ -16,6 +16,7 @@
 #include "support/fixed_clock.h"
 #include "support/scripted_prompts.h"
 #include "support/temp_folder.h"
+#include "support/test_crontab.h"
 
 namespace tallix::test {
 
@@ -56,6 +57,7 @@ private:
     TempFolder folder_;
 
 public:
+    TestCrontab crontab;
     ScriptedPrompts prompts;
     FixedClock clock;
     NoEvents events;
