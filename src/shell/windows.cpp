@@ -2,6 +2,7 @@
 
 #include "costing/call_cost_map_window.h"
 #include "costing/call_costings_window.h"
+#include "admin/options_window.h"
 #include "foundation/form_names.h"
 #include "reporting/cover_backing_window.h"
 #include "reporting/preset_reports_window.h"
@@ -32,6 +33,7 @@ void RegisterWindows(ui::Forms& forms, Application& application, ReportFlags& fl
     Register<StatisticsWindow>(forms, kStatisticsForm, application);
     Register<AboutWindow>(forms, kAboutForm, application);
     Register<SettingsRequiredWindow>(forms, kSettingsRequiredForm, application);
+    Register<OptionsWindow>(forms, kOptionsForm, application);
     Register<AccessLoggingWindow>(forms, kAccessLoggingForm, application);
     Register<PresetReportsWindow>(forms, kPresetReportsForm, application, flags, printers);
     Register<CallCostingsWindow>(forms, kCallCostingsForm, application);

@@ -1,0 +1,203 @@
+#include "admin/options_window.h"
+
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+#include <type_traits>
+
+#include "admin/email_page.h"
+#include "admin/folders_page.h"
+#include "admin/language_page.h"
+#include "admin/network_page.h"
+#include "admin/report_design_page.h"
+#include "admin/serial_page.h"
+#include "admin/site_summary_page.h"
+#include "admin/system_page.h"
+#include "foundation/access_rights.h"
+#include "ui/dialog_keys.h"
+#include "ui/forms.h"
+#include "ui/main_menu_form.h"
+#include "ui/style.h"
+
+namespace tallix {
+namespace {
+
+constexpr int kListWidth = 24 * ui::kGrid;
+constexpr QSize kWindowSize{120 * ui::kGrid, 80 * ui::kGrid};
+constexpr int kPage = Qt::UserRole;  ///< an entry's place in the stack; none for a group
+
+bool IsGroup(const QListWidgetItem& entry) {
+    return !entry.data(kPage).isValid();
+}
+
+}  // namespace
+
+OptionsWindow::OptionsWindow(ui::Forms& forms, Application& application)
+    : Form(forms, "Tallix Reports Tool - Options"),
+      application_(application),
+      entries_(new QListWidget),
+      title_(new QLabel),
+      stack_(new QStackedWidget),
+      save_(new QPushButton("Save and Exit")),
+      exit_(new QPushButton("Exit Without Saving")) {
+    entries_->setFixedWidth(kListWidth);
+    entries_->setAccessibleName("Pages");
+    entries_->setSpacing(ui::kGrid / 4);
+    MakePages();
+    auto* columns = new QHBoxLayout;
+    columns->setSpacing(3 * ui::kSpacing);
+    columns->addWidget(entries_);
+    columns->addLayout(PageColumn(), 1);
+    auto* rows = new QVBoxLayout(this);
+    rows->setContentsMargins(ui::kMargin, ui::kMargin, ui::kMargin, ui::kMargin);
+    rows->setSpacing(2 * ui::kSpacing);
+    rows->addLayout(columns, 1);
+    rows->addLayout(ButtonRow());
+    connect(entries_, &QListWidget::currentItemChanged, this, &OptionsWindow::ShowPage);
+    new ui::DialogKeys(*this, nullptr, exit_);
+    resize(kWindowSize);
+}
+
+QLayout* OptionsWindow::PageColumn() {
+    ui::MakeSubheading(*title_);
+    auto* column = new QVBoxLayout;
+    column->setSpacing(2 * ui::kSpacing);
+    column->addWidget(title_);
+    column->addWidget(stack_, 1);
+    return column;
+}
+
+QLayout* OptionsWindow::ButtonRow() {
+    save_->setToolTip("Close and save changes");
+    exit_->setToolTip("Close without saving changes");
+    connect(save_, &QPushButton::clicked, this, &OptionsWindow::SaveAndExit);
+    connect(exit_, &QPushButton::clicked, this, &OptionsWindow::close);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(ui::kSpacing);
+    row->addStretch();
+    row->addWidget(save_);
+    row->addWidget(exit_);
+    return row;
+}
+
+// The side list goes by subject; the lists are loaded in an order of their own.
+void OptionsWindow::MakePages() {
+    AddGroup("Organisation");
+    auto* sites = AddPage<SiteSummaryPage>("Sites");
+    AddGroup("Call collection");
+    AddPage<SerialPage>("Serial Port");
+    AddPage<NetworkPage>("Network");
+    AddGroup("Reports");
+    AddPage<ReportDesignPage>("Report Design");
+    AddPage<FoldersPage>("Folders");
+    AddGroup("System");
+    AddPage<SystemPage>("System Settings");
+    AddPage<LanguagePage>("Language and Currency");
+    AddPage<EmailPage>("Email");
+    tools_ = AddPage<ToolsPage>("Tools");
+    lists_ = {sites};
+    connect(sites, &SiteSummaryPage::WindowWanted, this, &OptionsWindow::Open);
+    connect(tools_, &ToolsPage::WindowWanted, this, &OptionsWindow::Open);
+}
+
+void OptionsWindow::AddGroup(const QString& title) {
+    auto* entry = new QListWidgetItem(title, entries_);
+    entry->setFlags(Qt::NoItemFlags);
+    QFont bold = entries_->font();
+    bold.setBold(true);
+    entry->setFont(bold);
+    entry->setForeground(palette().shadow());
+}
+
+template <typename Page>
+Page* OptionsWindow::AddPage(const QString& title) {
+    auto* page = new Page(application_, stack_);
+    auto* entry = new QListWidgetItem(title, entries_);
+    entry->setData(kPage, stack_->addWidget(page));
+    if constexpr (std::is_base_of_v<SettingsPage, Page>) settings_.push_back(page);
+    return page;
+}
+
+void OptionsWindow::ShowPage(const QListWidgetItem* entry) {
+    if (entry == nullptr || IsGroup(*entry)) return;
+    title_->setText(entry->text());
+    stack_->setCurrentIndex(entry->data(kPage).toInt());
+}
+
+void OptionsWindow::OnLoad() {
+    for (OptionsPage* page : lists_) page->Load();
+    const OptionsValues values = LoadOptions(application_);
+    for (SettingsPage* page : settings_) page->ShowValues(values);
+    ApplyRights();
+    ShowFirstPage();
+}
+
+void OptionsWindow::ApplyRights() {
+    const std::string& access = application_.session.CurrentAccess;
+    for (int row = 0; row < entries_->count(); ++row) {
+        QListWidgetItem& entry = *entries_->item(row);
+        if (IsGroup(entry)) continue;
+        auto* page = static_cast<OptionsPage*>(stack_->widget(entry.data(kPage).toInt()));
+        page->ApplyRights(access);
+        entry.setHidden(!page->IsGranted(access));
+    }
+    HideEmptyGroups();
+    save_->setEnabled(Allows(access, AccessRight::SaveAndExit));
+}
+
+// From the bottom up: a group shows when an entry between it and the next one does.
+void OptionsWindow::HideEmptyGroups() {
+    bool hasEntries = false;
+    for (int row = entries_->count() - 1; row >= 0; --row) {
+        QListWidgetItem& entry = *entries_->item(row);
+        if (!IsGroup(entry)) {
+            hasEntries = hasEntries || !entry.isHidden();
+            continue;
+        }
+        entry.setHidden(!hasEntries);
+        hasEntries = false;
+    }
+}
+
+void OptionsWindow::ShowFirstPage() {
+    for (int row = 0; row < entries_->count(); ++row) {
+        if (IsGroup(*entries_->item(row)) || entries_->item(row)->isHidden()) continue;
+        entries_->setCurrentRow(row);
+        return;
+    }
+}
+
+void OptionsWindow::Open(const QString& form) {
+    OtherForms().Show(form);
+    if (OtherForms().Find(form) != nullptr) hide();
+}
+
+OptionsOnScreen OptionsWindow::OnScreen() const {
+    OptionsOnScreen screen;
+    for (const SettingsPage* page : settings_) page->TakeValues(screen.values);
+    screen.automaticBackup = tools_->AutomaticBackup();
+    return screen;
+}
+
+void OptionsWindow::SaveAndExit() {
+    SaveOptions(application_, OnScreen());
+    Unload();
+}
+
+bool OptionsWindow::MayBeLeft() {
+    return true;
+}
+
+void OptionsWindow::closeEvent(QCloseEvent* event) {
+    if (MayBeLeft()) {
+        Form::closeEvent(event);
+    } else {
+        event->ignore();
+    }
+}
+
+void OptionsWindow::OnUnload() {
+    ui::ShowMainMenu(OtherForms(), application_.session);
+}
+
+}  // namespace tallix

@@ -1,0 +1,27 @@
+// Sites: how many there are, and the way to the window that edits them.
+#pragma once
+
+#include <QLabel>
+
+#include "admin/options_page.h"
+#include "foundation/application.h"
+
+namespace tallix {
+
+class SiteSummaryPage : public OptionsPage {
+    Q_OBJECT
+public:
+    SiteSummaryPage(Application& application, QWidget* parent);
+
+    void Load() override;
+    bool IsGranted(std::string_view access) const override;
+
+signals:
+    void WindowWanted(const QString& form);
+
+private:
+    Application& application_;
+    QLabel* count_;
+};
+
+}  // namespace tallix
