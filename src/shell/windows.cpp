@@ -1,8 +1,8 @@
 #include "shell/windows.h"
 
+#include "admin/options_window.h"
 #include "costing/call_cost_map_window.h"
 #include "costing/call_costings_window.h"
-#include "admin/options_window.h"
 #include "foundation/form_names.h"
 #include "reporting/cover_backing_window.h"
 #include "reporting/preset_reports_window.h"
