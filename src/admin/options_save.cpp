@@ -1,5 +1,6 @@
 #include "admin/options_save.h"
 
+#include "custody/backup_task.h"
 #include "foundation/access_log.h"
 #include "foundation/database.h"
 
@@ -26,8 +27,9 @@ void NoteSave(Application& application, const OptionsOnScreen&) {
     CloseDatabase(application.session);
 }
 
-void EmptyExtensions(Application& application, const OptionsOnScreen&) {
+void EmptyExtensions(Application& application, const OptionsOnScreen& screen) {
     OpenDatabase(application.session);
+    if (!screen.storeExtensions) return;
     OpenConnection(application.session).Execute("DELETE FROM tblextensions");
 }
 
@@ -47,7 +49,8 @@ void WriteGeneralSettings(Application& application, const OptionsOnScreen& scree
     WriteSettings(application.settings, screen.values, kGeneralKeys);
 }
 
-void FillExtensions(Application& application, const OptionsOnScreen&) {
+void FillExtensions(Application& application, const OptionsOnScreen& screen) {
+    if (screen.storeExtensions) screen.storeExtensions(application.session);
     CloseDatabase(application.session);
 }
 
@@ -55,7 +58,9 @@ void WriteServiceSettings(Application& application, const OptionsOnScreen& scree
     WriteSettings(application.settings, screen.values, kServiceKeys);
 }
 
-void SetBackupTask(Application&, const OptionsOnScreen&) {}
+void SetBackupTask(Application& application, const OptionsOnScreen& screen) {
+    (screen.automaticBackup ? CreateBackupTask : DeleteBackupTask)(application);
+}
 
 void WriteReportSettings(Application& application, const OptionsOnScreen& screen) {
     WriteSettings(application.settings, screen.values, kReportKeys);

@@ -13,7 +13,8 @@ namespace tallix {
 /// What is on the screen when the window is saved.
 struct OptionsOnScreen {
     OptionsValues values;
-    bool automaticBackup = true;  ///< whether the backup task is made or removed
+    std::function<void(Session&)> storeExtensions{};  ///< adds them over the open connection
+    bool automaticBackup = true;                      ///< whether the backup task is made or removed
 };
 
 using SaveStep = void (*)(Application& application, const OptionsOnScreen& screen);

@@ -125,6 +125,7 @@ QWidget& SettingsPage::AddSetting(QFormLayout& panel, std::string_view key, QWid
     const OptionSetting& setting = SettingOf(key);
     QWidget* control = MakeControl(setting);
     controls_[setting.key] = control;
+    control->setObjectName(Text(setting.key));
     QWidget* row = behind == nullptr ? control : SideBySide(control, behind);
     if (setting.kind == SettingKind::Switch) {
         panel.addRow(row);

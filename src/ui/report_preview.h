@@ -9,6 +9,7 @@
 namespace tallix::ui {
 
 class ReportPreview : public QWidget {
+    Q_OBJECT
 public:
     /// The parts whose colour can be set, from top to bottom.
     enum class Part { TitleBar, TableHeader, TableDivide, TotalBar };

@@ -1,0 +1,170 @@
+#include "admin/options_save.h"
+
+#include <gmock/gmock.h>
+
+#include "foundation/access_log.h"
+#include "foundation/ado/recordset.h"
+#include "foundation/database.h"
+#include "support/test_application.h"
+
+namespace tallix {
+namespace {
+
+using Names = std::vector<std::string>;
+using testing::ElementsAreArray;
+
+class OptionsSaveTest : public testing::Test {
+protected:
+    OptionsSaveTest() {
+        std::filesystem::create_directories(Collector());
+        world.Insert("tblextensions", {{"ExtensionNo", "201"}});
+        screen.storeExtensions = [](Session& session) {
+            OpenConnection(session).Execute("INSERT INTO tblextensions(ExtensionNo) VALUES('305')");
+        };
+        screen.values = LoadOptions(world.application);
+        for (auto& [key, value] : screen.values) {
+            const bool isFile = key.ends_with(".dat");
+            const SettingKind kind = isFile ? SettingKind::Text : SettingOf(key).kind;
+            value = "A\r\n" + key + " £";
+            if (kind == SettingKind::Colour) value = "00100" + std::to_string(1000 + key[3]);
+            if (kind == SettingKind::Options || kind == SettingKind::Switch) {
+                value = SettingOf(key).choices.back().stored;
+            }
+        }
+    }
+
+    std::filesystem::path Collector() const { return world.Folder() / "Collector"; }
+
+    std::vector<std::string> Extensions() {
+        OpenDatabase(world.application.session);
+        ado::Recordset rows;
+        rows.Open("SELECT * FROM tblextensions", OpenConnection(world.application.session));
+        return rows.RecordCount() == 0 ? Names{} : Names{std::string(rows.Text("ExtensionNo"))};
+    }
+
+    /// Everything that the save has done so far, each by a name.
+    std::set<std::string> Done() {
+        std::set<std::string> done;
+        for (const auto& [key, value] : screen.values) {
+            if (!world.settings.Read(key).empty()) done.insert(key);
+            if (std::filesystem::exists(Collector() / key)) done.insert(key);
+        }
+        if (!world.settings.Read("LocalIP").empty()) done.insert("LocalIP");
+        if (!world.crontab.Text().empty()) done.insert("task");
+        for (const Message& message : world.prompts.messages)
+            done.insert(message.title + ": " + message.text);
+        return done;
+    }
+
+    test::TestApplication world;
+    OptionsOnScreen screen;
+};
+
+TEST_F(OptionsSaveTest, EverySettingComesBackAsItWasSaved) {
+    SaveOptions(world.application, screen);
+    for (const auto& [key, value] : screen.values) {
+        if (key.ends_with(".dat")) continue;
+        EXPECT_EQ(world.settings.Read(key), value) << key;
+    }
+    EXPECT_EQ(world.settings.Read("LocalIP"), "A\r\nCurrency £");
+    EXPECT_EQ(world.settings.Read("CommMethod"), "2");
+    EXPECT_EQ(test::ReadBytes(Collector() / "COMM.dat"), "A\r\nCOMM.dat \xA3\r\n");
+    EXPECT_EQ(LoadOptions(world.application), screen.values);
+}
+
+TEST_F(OptionsSaveTest, TakesItsStepsInTheirOrder) {
+    const std::vector<Names> expected = {{},
+                                         {},
+                                         {"AreaCode", "CommMethod", "LocalIP", "SwitchBaud", "SwitchBits",
+                                          "SwitchComm", "SwitchParity", "SwitchStop"},
+                                         {"COMM.dat", "IP.dat"},
+                                         {"CostCompute", "Currency", "Lang", "ListenFeed", "ListenPort",
+                                          "ProxyIP", "ProxyPort", "ReportAlign", "UseProxy"},
+                                         {},
+                                         {"DebugLogging", "SMTPAuth", "SMTPEmail", "SMTPPass", "SMTPPort",
+                                          "SMTPSSL", "SMTPServer", "SMTPUser", "TimeClosed", "TimeOpen"},
+                                         {"task"},
+                                         {"DocsLocation", "LostCalls", "Providers", "ReportsLocation",
+                                          "V1Reports", "rptTBC", "rptTC", "rptTDC", "rptTHC"},
+                                         {"Save Settings: Settings saved!"}};
+    std::set<std::string> before;
+    for (std::size_t i = 0; i < kSaveSteps.size(); ++i) {
+        kSaveSteps.at(i)(world.application, screen);
+        const std::set<std::string> after = Done();
+        Names added;
+        std::set_difference(after.begin(), after.end(), before.begin(), before.end(),
+                            std::back_inserter(added));
+        EXPECT_THAT(added, ElementsAreArray(expected.at(i))) << "step " << i + 1;
+        before = after;
+    }
+    EXPECT_THAT(Extensions(), testing::ElementsAre("305"));
+    EXPECT_EQ(ReadAccessLog(world.application.session).at(0).back(), "System Settings Saved");
+}
+
+TEST_F(OptionsSaveTest, AFailureEndsItWhereItIsWithTheExtensionsLost) {
+    std::filesystem::remove(Collector());
+    EXPECT_THROW(SaveOptions(world.application, screen), std::runtime_error);
+    EXPECT_THAT(Extensions(), testing::IsEmpty());
+    EXPECT_NE(world.settings.Read("SwitchStop"), "");
+    EXPECT_EQ(world.settings.Read("CostCompute"), "");
+    EXPECT_THAT(world.prompts.messages, testing::IsEmpty());
+}
+
+TEST_F(OptionsSaveTest, ASettingThatCannotBeWrittenShowsItsMessageAndStopsNothing) {
+    std::filesystem::remove_all(world.Folder() / "settings");
+    std::ofstream(world.Folder() / "settings") << "no folder";
+    screen.automaticBackup = false;
+    SaveOptions(world.application, screen);
+    const std::size_t settings = screen.values.size() - kCommandFiles.size() + 1;  // and LocalIP
+    ASSERT_EQ(world.prompts.messages.size(), settings + 1);
+    EXPECT_EQ(world.prompts.messages.front().title, "fWriteValue");
+    EXPECT_EQ(world.prompts.messages.back().text, "Settings saved!");
+    EXPECT_THAT(Extensions(), testing::ElementsAre("305"));
+}
+
+TEST_F(OptionsSaveTest, WhatHangsOnASwitchKeepsItsValueWhileTheSwitchIsOff) {
+    for (const char* key : {"UseProxy", "ListenFeed"}) screen.values[key] = "0";
+    for (const char* key : {"ProxyIP", "ProxyPort", "ListenPort"}) world.settings.Write(key, "old");
+    screen.values["Currency"] = "Any";
+    SaveOptions(world.application, screen);
+    for (const char* key : {"ProxyIP", "ProxyPort", "ListenPort"}) EXPECT_EQ(world.settings.Read(key), "old");
+    EXPECT_EQ(world.settings.Read("LocalIP"), "");
+}
+
+TEST_F(OptionsSaveTest, ShowsWhatIsStoredByTheRuleOfEachSetting) {
+    struct Rule {
+        const char* key;
+        const char* stored;
+        std::string shown;
+    };
+    const std::string folder = world.application.folder.string();
+    for (const auto& [key, stored, shown] :
+         std::vector<Rule>{{"LostCalls", "", "0"},
+                           {"LostCalls", "yes", "1"},
+                           {"CostCompute", "", "1"},
+                           {"CostCompute", "2", "0"},
+                           {"SMTPAuth", "", "1"},
+                           {"SMTPAuth", "0", "0"},
+                           {"CommMethod", "", "1"},
+                           {"CommMethod", "3", "1"},
+                           {"CommMethod", "2", "2"},
+                           {"Providers", "", "2"},
+                           {"Lang", "1", "1033"},
+                           {"Lang", "1041", "1041"},
+                           {"Currency", "", "£"},
+                           {"Currency", "?", "?"},
+                           {"ListenPort", "", "1752"},
+                           {"TimeClosed", "", "17:30"},
+                           {"ReportAlign", "", "C"},
+                           {"rptTC", "2", "002001118"},
+                           {"rptTC", "256000000", "002001118"},
+                           {"rptTC", "000000255", "000000255"},
+                           {"ReportsLocation", "", folder},
+                           {"DocsLocation", "", folder + "\\Company Docs"}}) {
+        world.settings.Write(key, stored);
+        EXPECT_EQ(LoadOptions(world.application).at(key), shown) << key << " " << stored;
+    }
+}
+
+}  // namespace
+}  // namespace tallix
