@@ -51,6 +51,10 @@ void SiteSummaryPage::Load() {
     count_->setText(QString::number(CountSites(application_.session)));
 }
 
+void SiteSummaryPage::showEvent(QShowEvent*) {
+    Load();
+}
+
 bool SiteSummaryPage::IsGranted(std::string_view access) const {
     return Allows(access, AccessRight::SiteData);
 }

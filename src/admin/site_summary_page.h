@@ -19,6 +19,10 @@ public:
 signals:
     void WindowWanted(const QString& form);
 
+protected:
+    /// Counts anew: the window of the sites may have been open.
+    void showEvent(QShowEvent* event) override;
+
 private:
     Application& application_;
     QLabel* count_;

@@ -91,7 +91,9 @@ TEST_F(OptionsWindowTest, GivesWayToTheWindowsItOpensAndStaysWhereThereIsNone) {
     Click("Configure Sites");
     EXPECT_FALSE(Window().isVisible());
     EXPECT_TRUE(forms.Find(kSitesForm)->isVisible());
+    world.Insert("tblsite", {{"ID", "002"}});
     forms.Show(kOptionsForm);
+    EXPECT_EQ(Window().findChild<QLabel*>("SiteCount")->text(), "2");
     QTest::keyClick(&Window(), Qt::Key_Escape);
     EXPECT_EQ(forms.Find(kOptionsForm), nullptr);
     EXPECT_TRUE(forms.Find(kMainForm)->isVisible());
