@@ -3,9 +3,11 @@
 #include <fmt/format.h>
 
 #include <QApplication>
+#include <array>
 #include <fstream>
 
 #include "costing/cost_computation.h"
+#include "custody/archive.h"
 #include "custody/automated_backup.h"
 #include "floors.h"
 #include "foundation/database.h"
@@ -16,6 +18,10 @@
 namespace tallix::bench {
 
 namespace {
+
+constexpr std::array kArchiveColumns = {"Date",      "Time",    "Duration", "Extension", "NumRings",
+                                        "OrigNum",   "DestNum", "Internal", "Error",     "Supervision",
+                                        "Speedcall", "Forward", "Trunk",    "Account",   "Site"};
 
 constexpr const char* kAllCalls = "SELECT * FROM tblphonedata";
 
@@ -86,6 +92,35 @@ std::int64_t Dump(World& world) {
         std::filesystem::file_size(world.application.folder / kAutomatedBackupName));
 }
 
+/// A window of nobody that asks for all calls to be archived.
+class ArchiveOfAll : public ArchiveView {
+public:
+    ArchiveOfAll(ArchiveDestination destination, const std::filesystem::path& file)
+        : request_{.period = ArchivePeriod::SelectedMonths,
+                   .firstMonth = "00",
+                   .lastMonth = "99",
+                   .destination = destination,
+                   .target = {"archive", file.string()}} {}
+
+    void ShowProgress() override {}
+    ArchiveRequest Request() const override { return request_; }
+    void LockInputs() override {}
+    RunProgress& Records() override { return nobody_; }
+    void ClearInputs() override {}
+    void HideProgress() override {}
+    void ResetProgress() override {}
+
+private:
+    ArchiveRequest request_;
+    NoProgress nobody_;
+};
+
+std::int64_t Archive(World& world, ArchiveDestination destination) {
+    ArchiveOfAll view(destination, world.application.folder / "archive.SAF");
+    RunArchive(world.application, view);
+    return 0;
+}
+
 void FetchAndWrite(World& world, std::int64_t bytes) {
     OpenBareClient(world.Parts())->Fetch(kAllCalls);
     WriteBytes((world.application.tempFolder / "floor").string(), bytes);
@@ -112,6 +147,49 @@ void SendCosts(World& world, std::int64_t) {
     }
 }
 
+// Archiving takes the calls away: they come back from a copy of the table.
+void BringCallsBack(World& world) {
+    const std::unique_ptr<BareClient> client = OpenBareClient(world.Parts());
+    client->Execute("CREATE TABLE IF NOT EXISTS benchcalls AS SELECT * FROM tblphonedata");
+    for (const char* statement : {"DELETE FROM tblarchive", "DELETE FROM tblphonedata",
+                                  "INSERT INTO tblphonedata SELECT * FROM benchcalls"}) {
+        client->Execute(statement);
+    }
+}
+
+/// Sends a statement for each call, which `statement` makes of its values in the order of
+/// the table.
+void SendForEachCall(World& world, const std::function<std::string(const ado::Recordset&)>& statement) {
+    OpenDatabase(world.application.session);
+    ado::Recordset calls;
+    calls.Open(kAllCalls, OpenConnection(world.application.session));
+    const std::unique_ptr<BareClient> client = OpenBareClient(world.Parts());
+    for (std::int64_t i = 0; i < calls.RecordCount(); ++i, calls.MoveNext()) {
+        if (statement) client->Execute(statement(calls));
+        client->Execute(fmt::format("DELETE FROM tblphonedata WHERE ID = {}", calls.Text("ID")));
+    }
+}
+
+std::string ArchiveRow(const ado::Recordset& calls) {
+    std::string values;
+    for (const char* column : kArchiveColumns) {
+        if (!values.empty()) values += ", ";
+        values.append("'").append(calls.Text(column)).append("'");
+    }
+    return fmt::format("INSERT INTO tblarchive({}) VALUES ({})", fmt::join(kArchiveColumns, ", "), values);
+}
+
+void SendArchiveRows(World& world, std::int64_t) {
+    OpenBareClient(world.Parts())->Fetch(kAllCalls);
+    SendForEachCall(world, ArchiveRow);
+}
+
+void WriteArchiveText(World& world, std::int64_t) {
+    const std::int64_t bytes = OpenBareClient(world.Parts())->Fetch(kAllCalls);
+    WriteBytes((world.application.tempFolder / "floor").string(), bytes);
+    SendForEachCall(world, {});
+}
+
 }  // namespace
 
 std::vector<Job> Jobs() {
@@ -134,6 +212,11 @@ std::vector<Job> Jobs() {
          {},
          true},
         {"preset page, coloured, all columns, progress shown", 3, PresetPage, FetchBothAndWrite, {}, true},
+        {"archive to a table", 1.3,
+         [](World& world) { return Archive(world, ArchiveDestination::ToDatabase); }, SendArchiveRows,
+         BringCallsBack, true},
+        {"archive to a file", 1.3, [](World& world) { return Archive(world, ArchiveDestination::ToFile); },
+         WriteArchiveText, BringCallsBack, true},
     };
 }
 

@@ -15,7 +15,7 @@ struct Job {
     double limit = 0;                         ///< greatest ratio to the floor
     std::function<std::int64_t(World&)> run;  ///< returns the bytes written
     std::function<void(World&, std::int64_t bytes)> floor;
-    std::function<void(World&)> prepare = {};  ///< before the job, not measured
+    std::function<void(World&)> prepare = {};  ///< before the job and its floor, not measured
     bool isReport = false;                     ///< its memory is held against the text fetched
 };
 

@@ -28,6 +28,7 @@ void PrintHead() {
 bool Run(const Job& job, World& world, const std::string& engine, std::int64_t text) {
     if (job.prepare) job.prepare(world);
     const Measured measured = Measure([&] { return job.run(world); });
+    if (job.prepare) job.prepare(world);
     const Measured floor = Measure([&] {
         job.floor(world, measured.result);
         return std::int64_t{0};

@@ -20,6 +20,12 @@ struct EngineAddress {
     std::string password;
 };
 
+/// Agrees to whatever it is asked.
+class AgreeingPrompts : public UnattendedPrompts {
+public:
+    Answer Show(const Message&) override { return Answer::Yes; }
+};
+
 class World {
 public:
     /// Lays down tables, reference data and `calls` calls on the engine where it has none.
@@ -32,7 +38,7 @@ public:
 private:
     void Fill(std::uint64_t calls);
 
-    UnattendedPrompts prompts_;
+    AgreeingPrompts prompts_;
     SystemClock clock_;
     NoEvents events_;
     SettingsStore settings_;

@@ -18,11 +18,12 @@ bool BufferedFile::Close() {
     return complete_;
 }
 
-void BufferedFile::Flush() {
+bool BufferedFile::Flush() {
     if (file_ && std::fwrite(waiting_.data(), 1, waiting_.size(), file_.get()) != waiting_.size()) {
         complete_ = false;
     }
     waiting_.clear();
+    return complete_;
 }
 
 }  // namespace tallix

@@ -28,6 +28,9 @@ public:
         if (waiting_.size() >= kPiece) Flush();
     }
 
+    /// Writes what is waiting. Returns IsComplete.
+    bool Flush();
+
     /// Writes what is waiting and closes. Returns IsComplete.
     bool Close();
 
@@ -38,8 +41,6 @@ private:
     struct CloseFile {
         void operator()(std::FILE* file) const { std::fclose(file); }
     };
-
-    void Flush();
 
     static constexpr std::size_t kPiece = std::size_t{256} * 1024;
 

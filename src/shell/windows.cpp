@@ -3,6 +3,7 @@
 #include "admin/options_window.h"
 #include "costing/call_cost_map_window.h"
 #include "costing/call_costings_window.h"
+#include "custody/archive_window.h"
 #include "foundation/form_names.h"
 #include "reporting/cover_backing_window.h"
 #include "reporting/preset_reports_window.h"
@@ -39,6 +40,7 @@ void RegisterWindows(ui::Forms& forms, Application& application, ReportFlags& fl
     Register<CallCostingsWindow>(forms, kCallCostingsForm, application);
     Register<CallCostMapWindow>(forms, kCallCostMapForm, application);
     Register<CoverBackingWindow>(forms, kCoverPagesForm, application);
+    Register<ArchiveWindow>(forms, kArchiveForm, application);
     Register<ReportOutputWindow>(forms, kReportOutputForm, application, printers);
 }
 

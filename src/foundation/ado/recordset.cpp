@@ -135,7 +135,12 @@ void Recordset::AddNew() {
 }
 
 void Recordset::Collect(std::string_view name, Value value) {
-    const Column column = Require(name);
+    Collect(Require(name), value);
+}
+
+void Recordset::Collect(Column column, Value value) {
+    RequireOpen();
+    if (!column) throw DatabaseError("The result has no such column");
     if (!changes_) changes_ = std::make_unique<Changes>();
     if (!changes_->adding) RequireRow();
     changes_->pending[column.index_] = value;

@@ -87,6 +87,7 @@ public:
     /// Sets a column of the new or the current row; nothing for NULL. Reaches the
     /// server with Update. Throws DatabaseError for an unknown column.
     void Collect(std::string_view name, Value value);
+    void Collect(Column column, Value value);
 
     /// Stores the row. Throws DatabaseError when the server refuses; what was set is
     /// then dropped.

@@ -1,0 +1,193 @@
+// Calls leave tblphonedata for a file or a table, with the same outcome on every server,
+// and none is lost when the work breaks off.
+#include <gmock/gmock.h>
+#include <signal.h>
+#include <sys/resource.h>
+
+#include <thread>
+
+#include "custody/archive.h"
+#include "foundation/ado/recordset.h"
+#include "foundation/database.h"
+#include "foundation/errors.h"
+#include "foundation/schema.h"
+#include "support/run_program.h"
+#include "support/test_application.h"
+#include "support/test_servers.h"
+
+namespace tallix {
+namespace {
+
+using test::ReadLines;
+using test::RunProgram;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+/// Answers as a window would, and notes what it was told.
+class NotedView : public ArchiveView, public RunProgress {
+public:
+    void ShowProgress() override { told += "show "; }
+    ArchiveRequest Request() const override { return request; }
+    void LockInputs() override { told += "lock "; }
+    RunProgress& Records() override { return *this; }
+    void ClearInputs() override { told += "clear "; }
+    void HideProgress() override { told += "hide "; }
+    void ResetProgress() override { told += "reset"; }
+    void Record(std::int64_t record, std::int64_t) override {
+        if (record == strikesAt) strike();
+    }
+
+    ArchiveRequest request;
+    std::string told;
+    std::int64_t strikesAt = 0;
+    std::function<void()> strike;
+};
+
+std::vector<std::string> Stored(const test::TestApplication& test, const std::string& table,
+                                const char* column = "ID") {
+    ado::Connection connection;
+    connection.ConnectionString = ConnectionText(test.application.session);
+    connection.Open();
+    ado::Recordset rows;
+    rows.Open("select * from " + table + (table == "tbllogging" ? "" : " order by ID"), connection);
+    std::vector<std::string> texts;
+    for (std::int64_t i = 0; i < rows.RecordCount(); ++i, rows.MoveNext()) {
+        texts.emplace_back(rows.Item(column).value_or("NULL"));
+    }
+    return texts;
+}
+
+ArchiveRequest WholeYear(const char* year, ArchiveDestination destination) {
+    return {.period = ArchivePeriod::EntireYear,
+            .year = year,
+            .destination = destination,
+            .target = {"any", "x"}};
+}
+
+class Archives : public testing::TestWithParam<const char*> {
+protected:
+    Archives() {
+        test::FreshDatabase(engine_);
+        test_.Execute("INSERT INTO tblphonedata(Trunk) VALUES ('T')");  // a call without a date
+        for (const char* date : {"15/03/2009", "01/01/2010", "31/06/2010", "02/07/2010", "05/05/10"}) {
+            test_.InsertCall({{"Date", date}, {"Account", "Zoë"}});
+        }
+        test_.prompts.answers = {Answer::Yes};
+    }
+
+    const test::TestEngine& engine_ = test::EngineNamed(GetParam());
+    test::TestApplication test_{{engine_.dbType, engine_.address, engine_.user, engine_.password}};
+    NotedView view_;
+};
+
+TEST_P(Archives, TakeTheCallsWhoseTextLiesBetweenTheMonths) {
+    const std::string file = test_.Folder() / "out.SAF";
+    view_.request = {ArchivePeriod::SelectedMonths, "",           "01/2010", "06/2010",
+                     ArchiveDestination::ToFile,    {"any", file}};
+    RunArchive(test_.application, view_);
+    EXPECT_EQ(view_.told, "show lock clear hide reset");
+    EXPECT_THAT(Stored(test_, "tblphonedata"), ElementsAre("1", "5", "6"));
+    EXPECT_EQ(RunProgram("/usr/bin/unzip", {"-t", file}).status, 0);
+    EXPECT_EQ(RunProgram("/usr/bin/unzip", {"-p", file, "archive.tmp"}).out,
+              "Tallix Archive File\r\nGenerated on: 09/03/2021\r\n"
+              "2 15/03/2009 10:15:00 00:02:30 201 3 201 01632960123 0 0 0 0 0 T001 Zo\xEB\r\n"
+              "3 01/01/2010 10:15:00 00:02:30 201 3 201 01632960123 0 0 0 0 0 T001 Zo\xEB\r\n"
+              "4 31/06/2010 10:15:00 00:02:30 201 3 201 01632960123 0 0 0 0 0 T001 Zo\xEB\r\n");
+    EXPECT_FALSE(std::filesystem::exists(test_.application.folder / "archive.tmp"));
+    EXPECT_EQ(test_.prompts.messages.back().title, "Archive Complete!");
+    EXPECT_THAT(Stored(test_, "tbllogging", "Data"), ElementsAre("Data Archived"));
+}
+
+TEST_P(Archives, TakeTheYearIntoTheTableWithNullsAndSites) {
+    test_.Execute("UPDATE tblphonedata SET Error = NULL, Site = '002' WHERE ID = 5");
+    view_.request = WholeYear("2010", ArchiveDestination::ToDatabase);
+    RunArchive(test_.application, view_);
+    EXPECT_THAT(Stored(test_, "tblphonedata"), ElementsAre("1", "2", "6"));
+    EXPECT_THAT(Stored(test_, "tblarchive"), ElementsAre("1", "2", "3"));
+    EXPECT_THAT(Stored(test_, "tblarchive", "Date"), ElementsAre("01/01/2010", "31/06/2010", "02/07/2010"));
+    EXPECT_THAT(Stored(test_, "tblarchive", "Error"), ElementsAre("0", "0", "NULL"));
+    EXPECT_THAT(Stored(test_, "tblarchive", "Site"), ElementsAre("001", "001", "002"));
+    test_.Execute("DELETE FROM tblphonedata");
+    test_.prompts.answers = {Answer::Yes};
+    EXPECT_THROW(RunArchive(test_.application, view_), DatabaseError)
+        << "a set that was not opened is closed";
+    EXPECT_EQ(test_.prompts.messages.back().icon, MessageIcon::Critical);
+}
+
+INSTANTIATE_TEST_SUITE_P(Engines, Archives, testing::ValuesIn(test::kSessionEngines));
+
+/// A MariaDB of this test's own, which it may stop.
+class OwnServer {
+public:
+    OwnServer() {
+        std::filesystem::permissions(folder_.Path(), std::filesystem::perms(0755));
+        RunProgram("/bin/bash", {kScript, "start", data_});
+        const std::string line = ReadLines(data_ + "/env").at(0);
+        address.DBIP = line.substr(line.find('=') + 1);
+    }
+    ~OwnServer() { RunProgram("/bin/bash", {kScript, "stop", data_}); }
+
+    void Stop() const {
+        const pid_t process = std::stoi(test::ReadBytes(data_ + "/mariadb.pid"));
+        kill(process, SIGTERM);
+        while (kill(process, 0) == 0) std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    }
+
+    test::DatabaseAddress address = {"1", "", "Tallix", "norvadat"};
+
+private:
+    static constexpr const char* kScript = TALLIX_SOURCE_DIR "/scripts/servers.sh";
+    test::TempFolder folder_;
+    std::string data_ = folder_.Path() / "servers";
+};
+
+TEST(BrokenArchive, LosesNoCallWithItsServer) {
+    for (const auto destination : {ArchiveDestination::ToDatabase, ArchiveDestination::ToFile}) {
+        OwnServer server;
+        test::TestApplication test(server.address);
+        OpenDatabase(test.application.session);
+        LayDownSchema(OpenConnection(test.application.session), TALLIX_SOURCE_DIR "/data/schema");
+        for (int call = 0; call < 6; ++call) test.InsertCall();
+        NotedView view;
+        view.request = WholeYear("2021", destination);
+        view.strikesAt = 4;
+        const std::size_t rows = destination == ArchiveDestination::ToDatabase ? 3 : 0;
+        view.strike = [&] {
+            EXPECT_THAT(Stored(test, "tblphonedata"), ElementsAre("4", "5", "6"));
+            EXPECT_THAT(Stored(test, "tblarchive"), SizeIs(rows));
+            server.Stop();
+        };
+        test.prompts.answers = {Answer::Yes};
+        EXPECT_THROW(RunArchive(test.application, view), DatabaseError);
+        EXPECT_EQ(view.told, "show lock ");
+        EXPECT_THAT(ReadLines(test.application.folder / "archive.tmp"), SizeIs(rows > 0 ? 0 : 2 + 4));
+    }
+}
+
+TEST(BrokenArchive, LosesNoCallWithAFullDiskButAllWithoutItsZipFile) {
+    const test::TestEngine& engine = test::EngineNamed("mariadb");
+    test::FreshDatabase(engine);
+    test::TestApplication test({engine.dbType, engine.address, engine.user, engine.password});
+    for (int call = 0; call < 6; ++call) test.InsertCall();
+    NotedView view;
+    view.request = WholeYear("2021", ArchiveDestination::ToFile);
+    view.request.target.location = test.Folder() / "absent/out.SAF";
+    test.prompts.answers = {Answer::Yes, Answer::Yes};
+    rlimit whole{};
+    getrlimit(RLIMIT_FSIZE, &whole);
+    const rlimit small = {300, whole.rlim_max};
+    const auto before = signal(SIGXFSZ, SIG_IGN);
+    setrlimit(RLIMIT_FSIZE, &small);  // what a full disk is, for this process alone
+    EXPECT_THROW(RunArchive(test.application, view), std::runtime_error);
+    setrlimit(RLIMIT_FSIZE, &whole);
+    signal(SIGXFSZ, before);
+    EXPECT_THAT(ReadLines(test.application.folder / "archive.tmp"), SizeIs(2 + 3 + 1)) << "the last in part";
+    EXPECT_THAT(Stored(test, "tblphonedata"), ElementsAre("4", "5", "6"));
+    RunArchive(test.application, view);
+    EXPECT_THAT(Stored(test, "tblphonedata"), IsEmpty());
+    EXPECT_EQ(test.prompts.messages.back().title, "Archive Complete!");
+}
+
+}  // namespace
+}  // namespace tallix
