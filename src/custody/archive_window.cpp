@@ -58,7 +58,6 @@ ArchiveWindow::ArchiveWindow(ui::Forms& forms, Application& application)
       selectedMonths_(new QRadioButton("Selected Months")),
       periods_(Group(this, {entireYear_, selectedMonths_})),
       year_(new QLineEdit),
-      yearHint_(new QLabel(kYearHint)),
       firstMonth_(MonthList()),
       lastMonth_(MonthList()),
       toFile_(new QRadioButton("To File")),
@@ -104,11 +103,12 @@ void ArchiveWindow::AddPeriodRows(QGridLayout& grid) {
     year_->setFixedWidth(kFieldWidth);
     year_->setAccessibleName(entireYear_->text());
     year_->setAccessibleDescription(kYearHint);
-    ui::MakeQuiet(*yearHint_);
+    QLabel* hint = LabelFor(*year_, kYearHint);
+    ui::MakeQuiet(*hint);
     QLabel* between = LabelFor(*firstMonth_, "Between:");
     QLabel* andLabel = LabelFor(*lastMonth_, "And");
     grid.addWidget(entireYear_, 0, 0);
-    grid.addLayout(Row({year_, yearHint_}), 0, 2);
+    grid.addLayout(Row({year_, hint}), 0, 2);
     grid.addWidget(selectedMonths_, 1, 0);
     grid.addWidget(between, 1, 1);
     grid.addLayout(Row({firstMonth_, andLabel, lastMonth_}), 1, 2);
@@ -188,12 +188,17 @@ void ArchiveWindow::ConnectInputs() {
 }
 
 void ArchiveWindow::EnableInputs() {
-    for (QWidget* widget : {static_cast<QWidget*>(year_), static_cast<QWidget*>(yearHint_)}) {
-        widget->setEnabled(entireYear_->isChecked());
-    }
+    year_->setEnabled(entireYear_->isChecked());
     for (QWidget* list : {firstMonth_, lastMonth_}) list->setEnabled(selectedMonths_->isChecked());
     for (QWidget* field : {name_, location_}) field->setEnabled(toFile_->isChecked());
     browse_->setEnabled(toFile_->isChecked());
+    EnableLabels();
+}
+
+void ArchiveWindow::EnableLabels() {
+    for (QLabel* label : findChildren<QLabel*>()) {
+        if (label->buddy()) label->setEnabled(label->buddy()->isEnabled());
+    }
 }
 
 void ArchiveWindow::Browse() {
@@ -233,6 +238,7 @@ void ArchiveWindow::LockInputs() {
     for (QRadioButton* option : {entireYear_, selectedMonths_, toFile_, toDatabase_}) {
         option->setEnabled(false);
     }
+    EnableLabels();
 }
 
 // Nothing may be archived twice by pressing the button twice: the period is chosen anew.

@@ -40,6 +40,7 @@ private:
     void ConnectInputs();
 
     void EnableInputs();
+    void EnableLabels();
     void Browse();
 
     void ShowProgress() override;
@@ -55,7 +56,6 @@ private:
     QRadioButton* selectedMonths_;
     QButtonGroup* periods_;
     QLineEdit* year_;
-    QLabel* yearHint_;
     QComboBox* firstMonth_;
     QComboBox* lastMonth_;
     QRadioButton* toFile_;
