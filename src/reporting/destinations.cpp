@@ -2,7 +2,6 @@
 
 #include "platform/move_file.h"
 #include "platform/shell_command.h"
-#include "reporting/external_applications.h"
 #include "reporting/report_run.h"
 
 namespace tallix {
@@ -32,9 +31,10 @@ void Print(Application& application, DeliveryWindows& windows, const std::string
 }
 
 // A comma text that is still there, held by an application, stays and is what opens.
-void OpenInApplication(const Application& application, DeliveryWindows& windows, const std::string& entry) {
+void OpenInApplication(const Application& application, DeliveryWindows& windows,
+                       const DestinationChoice& choice) {
     MoveWithoutReplacing(PageFile(application), CommaTextFile(application));
-    const std::string command = ExternalCommand(application, entry);
+    const std::string command = ExternalCommand(application, choice.application, choice.editorFile);
     if (!command.empty()) Shell(command);
     windows.UnloadRequest();
 }
@@ -48,7 +48,7 @@ void DeliverReport(Application& application, DeliveryWindows& windows, const Des
         case Destination::ToPrinter:
             return Print(application, windows, choice.printer);
         case Destination::InExternalApplication:
-            return OpenInApplication(application, windows, choice.application);
+            return OpenInApplication(application, windows, choice);
     }
 }
 

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "foundation/application.h"
+#include "reporting/external_applications.h"
 
 namespace tallix {
 
@@ -17,8 +18,9 @@ enum class Destination { OnScreen, ToPrinter, InExternalApplication };
 /// What a person chose in the frame "Output Report".
 struct DestinationChoice {
     Destination destination = Destination::OnScreen;
-    std::string printer{};      ///< text of the printer list, for ToPrinter
-    std::string application{};  ///< text of the application list, for InExternalApplication
+    std::string printer{};                   ///< text of the printer list, for ToPrinter
+    std::string application{};               ///< text of the application list, for InExternalApplication
+    std::string editorFile{kCommaTextPath};  ///< what the text editor is told to open
 };
 
 /// The windows and the print system, as the destinations use them.

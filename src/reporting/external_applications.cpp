@@ -73,8 +73,8 @@ std::optional<std::string> FolderOf(const SettingsStore& settings, const Command
     return std::string(Left(value, Len(value) - row.tail));
 }
 
-std::string QuotedFile(const Application& application) {
-    return "\"" + application.tempFolder.string() + "\\rpt.csv\"";
+std::string QuotedFile(const Application& application, std::string_view file) {
+    return "\"" + application.tempFolder.string() + std::string(file) + "\"";
 }
 
 std::string SystemRoot() {
@@ -93,15 +93,16 @@ std::vector<std::string> ExternalApplications(const SettingsStore& settings) {
     return entries;
 }
 
-std::string ExternalCommand(const Application& application, std::string_view entry) {
+std::string ExternalCommand(const Application& application, std::string_view entry,
+                            std::string_view editorFile) {
     if (EqualNoCase(entry, kNotepad)) {
-        return SystemRoot() + "\\SYSTEM32\\notepad.exe " + QuotedFile(application);
+        return SystemRoot() + "\\SYSTEM32\\notepad.exe " + QuotedFile(application, editorFile);
     }
     for (const CommandRow& row : kCommands) {
         if (!EqualNoCase(entry, row.entry)) continue;
         const std::optional<std::string> folder = FolderOf(application.settings, row);
         if (!folder) return "";
-        return *folder + "\\" + std::string(row.program) + " " + QuotedFile(application);
+        return *folder + "\\" + std::string(row.program) + " " + QuotedFile(application, kCommaTextPath);
     }
     return "";
 }

@@ -25,9 +25,13 @@ inline constexpr std::string_view kOpenOffice3Program = "\\soffice.exe";
 /// settings name, and the text editor, which is always there.
 std::vector<std::string> ExternalApplications(const SettingsStore& settings);
 
+/// The comma text of a run, below the folder for working files.
+inline constexpr std::string_view kCommaTextPath = "\\rpt.csv";
+
 /// The command line that opens the comma text in the application of an entry, with
 /// "\" between folders and the file between double quotes. Empty for an entry that has
-/// no command.
-std::string ExternalCommand(const Application& application, std::string_view entry);
+/// no command. `editorFile` is what the text editor gets in place of kCommaTextPath.
+std::string ExternalCommand(const Application& application, std::string_view entry,
+                            std::string_view editorFile = kCommaTextPath);
 
 }  // namespace tallix

@@ -12,6 +12,8 @@ namespace {
 constexpr int kRowsOnFirstSheet = 62;
 constexpr int kRowsOnSheet = 75;
 
+constexpr std::string_view kHeadTable = R"(<TABLE width="100%" border="0" valign="middle" cellpadding="5">)";
+
 std::string ColouredHeadOpening(const std::string& colour) {
     return fmt::format(R"(<TH bgcolor="{}"><font color="white">)", colour);
 }
@@ -37,8 +39,7 @@ void WriteHtmlHead(AnsiFile& file, std::string_view reportName) {
     file.Line("TH{font-size:70%;}");
     file.Line("</style>");
     file.Line("</HEAD><BODY>");
-    file.Line(R"(<TABLE width="100%" border="0" valign="middle" cellpadding="5">)");
-    file.Line("<TR>");
+    file.Lines({kHeadTable, "<TR>"});
 }
 
 Page::Page(const std::filesystem::path& file, const PageDescription& description)
@@ -46,10 +47,14 @@ Page::Page(const std::filesystem::path& file, const PageDescription& description
       file_(file),
       rowOpening_(fmt::format(R"(<TR align="{}">)", description.settings.alignment)),
       shadedRowOpening_(fmt::format(R"(<TR align="{}" bgcolor="{}">)", description.settings.alignment,
-                                    description.settings.colours.shading)) {}
+                                    description.settings.colours.shading)) {
+    if (description.shape == PageShape::Bare)
+        rowOpening_ += "\r\n";  // the cells stand on a line of their own
+}
 
 void Page::WriteHead() {
     if (description_.shape == PageShape::CommaText) return WriteCommaHead();
+    if (description_.shape == PageShape::Bare) return WriteBareHead();
     WriteHtmlHead(file_, description_.reportName);
     if (description_.shape == PageShape::Coloured) {
         WriteColouredHead();
@@ -73,6 +78,12 @@ void Page::WriteAddress() {
     if (description_.siteName) file_.Line(fmt::format("<b>{}</b><br>", *description_.siteName));
     for (const std::string& line : description_.addressLines) file_.Line(line + "<br>");
     file_.Lines({"</TD>", "</TR>", "</TABLE>"});
+}
+
+void Page::WriteBareHead() {
+    file_.Lines({"<HTML>", fmt::format("<TITLE>Tallix Reports - {}</TITLE>", description_.reportName),
+                 "<BODY>", kHeadTable, "<TR>"});
+    WritePlainHead();
 }
 
 void Page::WritePlainHead() {
@@ -135,7 +146,7 @@ void Page::WriteColumnHeads(const std::vector<std::string_view>& labels) {
 
 void Page::WriteRow(const std::vector<std::string_view>& cells) {
     if (description_.shape == PageShape::CommaText) return WriteCommaRow(cells);
-    WriteRepeatedHeads();
+    if (description_.shape != PageShape::Bare) WriteRepeatedHeads();
     const bool shade = shaded_ && description_.shape == PageShape::Coloured;
     row_ = shade ? shadedRowOpening_ : rowOpening_;
     for (const std::string_view cell : cells) row_.append("<TD>").append(cell).append("</TD>");
@@ -162,7 +173,7 @@ void Page::WriteTotals(const PageTotals& totals) {
     const std::string text = CountText(totals);
     if (description_.shape == PageShape::CommaText) return file_.Lines({"", text});
     file_.Lines({"</TABLE>", "<BR>"});
-    if (description_.shape == PageShape::Plain) return file_.Line(fmt::format("<B>{}</B>", text));
+    if (description_.shape != PageShape::Coloured) return file_.Line(fmt::format("<B>{}</B>", text));
     file_.Lines({R"(<TABLE width="100%" border="0" cellspacing="0">)", "<TH>",
                  fmt::format(R"(<TD bgcolor="{}">)", description_.settings.colours.totalBar),
                  R"(<FONT face="arial" color="white">)", fmt::format("<B>{}</B></font>", text), "</TD>",

@@ -1,6 +1,6 @@
-// The report file: one text file in one of three shapes, chosen once per run. Comma
-// text is for applications; the plain and the coloured page are HTML for the screen
-// and the printer.
+// The report file: one text file in one of four shapes, chosen once per run. Comma
+// text is for applications; the plain, the coloured and the bare page are HTML for the
+// screen and the printer.
 //
 // The shapes are a contract with whoever reads the files: every piece stands to the
 // letter, tags that are never closed included.
@@ -21,7 +21,8 @@
 
 namespace tallix {
 
-enum class PageShape { CommaText, Plain, Coloured };
+/// A bare page is the plain one without a print style, repeated heads and settings.
+enum class PageShape { CommaText, Plain, Coloured, Bare };
 
 /// What the page says of the run as a whole.
 struct PageDescription {
@@ -41,7 +42,7 @@ struct PageDescription {
 struct PageTotals {
     std::int32_t records = 0;
     bool showsCost = false;
-    std::string cost;  ///< currency and amount
+    std::string cost{};  ///< currency and amount
 };
 
 class Page {
@@ -65,6 +66,7 @@ public:
 private:
     void WriteCommaHead();
     void WriteAddress();
+    void WriteBareHead();
     void WritePlainHead();
     void WriteColouredHead();
     void WriteBanner();

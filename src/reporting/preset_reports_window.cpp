@@ -1,18 +1,11 @@
 #include "reporting/preset_reports_window.h"
 
-#include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 #include <algorithm>
 
 #include "foundation/access_rights.h"
-#include "foundation/form_names.h"
-#include "reporting/destinations_window.h"
-#include "reporting/external_applications.h"
-#include "reporting/report_run.h"
 #include "ui/dialog_keys.h"
-#include "ui/forms.h"
-#include "ui/main_menu_form.h"
 #include "ui/style.h"
 
 namespace tallix {
@@ -21,20 +14,6 @@ namespace {
 constexpr int kListWidth = 34 * ui::kGrid;
 constexpr int kFieldWidth = 20 * ui::kGrid;
 constexpr int kShownTimes = 12;
-
-QStringList Texts(const std::vector<std::string>& list) {
-    QStringList texts;
-    for (const std::string& text : list) texts << QString::fromStdString(text);
-    return texts;
-}
-
-std::string TextOf(const QComboBox& list) {
-    return list.currentText().toStdString();
-}
-
-std::string TextOf(const QLineEdit& field) {
-    return field.text().toStdString();
-}
 
 // Holds every minute of the day, and nothing until a person chooses or types one.
 QComboBox* TimeList() {
@@ -52,11 +31,8 @@ QComboBox* TimeList() {
 
 PresetReportsWindow::PresetReportsWindow(ui::Forms& forms, Application& application, ReportFlags& flags,
                                          ui::Printers& printers)
-    : Form(forms, "Tallix Reports Tool - Preset Reports"),
-      application_(application),
+    : ReportRunWindow(forms, "Tallix Reports Tool - Preset Reports", application, printers),
       flags_(flags),
-      printers_(printers),
-      content_(new QWidget(this)),
       reports_(new QListView),
       reportNames_(new QStringListModel(this)),
       timeFrom_(TimeList()),
@@ -69,30 +45,19 @@ PresetReportsWindow::PresetReportsWindow(ui::Forms& forms, Application& applicat
       greaterThan_(new QRadioButton("Greater Than")),
       lessThan_(new QRadioButton("Less Than")),
       graph_(new QCheckBox("GRAPH", this)),
-      destinationFrame_(new QGroupBox("Output Report")),
-      onScreen_(new QRadioButton("On Screen")),
-      toPrinter_(new QRadioButton("To Printer")),
-      inApplication_(new QRadioButton("In External Application")),
-      printerList_(new QComboBox),
-      applicationList_(new QComboBox),
       run_(new QPushButton("Run Report")),
       cancel_(new QPushButton("Cancel")),
-      calendar_(new ui::CalendarPanel(this)),
-      progress_(new ui::ProgressPanel(*this, "Please Wait", "Your selected report is being generated.")),
-      records_(&progress_->AddLine(application.events, "Processing Record %1 Of %2")) {
+      calendar_(new ui::CalendarPanel(this)) {
     graph_->hide();
-    auto* columns = new QHBoxLayout(content_);
+    auto* columns = new QHBoxLayout(Content());
     columns->setContentsMargins(ui::kMargin, ui::kMargin, ui::kMargin, ui::kMargin);
     columns->setSpacing(ui::kMargin);
     columns->addWidget(ReportColumn());
     columns->addLayout(FilterColumn(), 1);
-    auto* whole = new QVBoxLayout(this);
-    whole->setContentsMargins(0, 0, 0, 0);
-    whole->addWidget(content_);
+    greaterThan_->setChecked(true);
     NameInputs();
     ConnectInputs();
     EnableInputs({});
-    EnableDestinationLists();
     new ui::DialogKeys(*this, run_, cancel_);
 }
 
@@ -115,11 +80,10 @@ QWidget* PresetReportsWindow::ReportColumn() {
 }
 
 QLayout* PresetReportsWindow::FilterColumn() {
-    FillDestinationFrame();
     auto* rows = new QVBoxLayout;
     rows->setSpacing(ui::kMargin);
     rows->addLayout(FilterGrid());
-    rows->addWidget(destinationFrame_);
+    rows->addWidget(&Output());
     rows->addStretch();
     rows->addLayout(ButtonRow());
     return rows;
@@ -183,26 +147,9 @@ PresetReportsWindow::DateInput PresetReportsWindow::MakeDateInput(const QString&
 
 void PresetReportsWindow::NameInputs() {
     timeTo_->setAccessibleName("Time:");
-    printerList_->setAccessibleName(toPrinter_->text());
-    applicationList_->setAccessibleName(inApplication_->text());
     duration_->setToolTip("Enter a duration (eg 00:01:00)");
     run_->setToolTip("Click here to run the report");
     cancel_->setToolTip("Click here to close");
-}
-
-void PresetReportsWindow::FillDestinationFrame() {
-    auto* grid = new QGridLayout(destinationFrame_);
-    grid->setContentsMargins(ui::kSpacing * 2, ui::kSpacing * 2, ui::kSpacing * 2, ui::kSpacing * 2);
-    grid->setHorizontalSpacing(ui::kSpacing * 2);
-    grid->setVerticalSpacing(ui::kSpacing);
-    grid->addWidget(onScreen_, 0, 0);
-    grid->addWidget(toPrinter_, 1, 0);
-    grid->addWidget(printerList_, 1, 1);
-    grid->addWidget(inApplication_, 2, 0);
-    grid->addWidget(applicationList_, 2, 1);
-    grid->setColumnStretch(1, 1);
-    onScreen_->setChecked(true);
-    greaterThan_->setChecked(true);
 }
 
 QLayout* PresetReportsWindow::ButtonRow() {
@@ -219,9 +166,6 @@ void PresetReportsWindow::ConnectInputs() {
     connect(reports_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &PresetReportsWindow::SelectReport);
     connect(reports_, &QListView::clicked, this, &PresetReportsWindow::SelectReport);
-    for (const QRadioButton* option : {onScreen_, toPrinter_, inApplication_}) {
-        connect(option, &QRadioButton::toggled, this, &PresetReportsWindow::EnableDestinationLists);
-    }
     connect(calendar_, &ui::CalendarPanel::DayClicked, this, &PresetReportsWindow::TakeDay);
     connect(run_, &QPushButton::clicked, this, &PresetReportsWindow::RunReport);
     connect(cancel_, &QPushButton::clicked, this, &QWidget::close);
@@ -229,29 +173,16 @@ void PresetReportsWindow::ConnectInputs() {
 
 void PresetReportsWindow::OnLoad() {
     FillLists();
-    destinationFrame_->setVisible(
-        Allows(application_.session.CurrentAccess, AccessRight::PresetReportDestination));
+    Output().setVisible(Allows(Program().session.CurrentAccess, AccessRight::PresetReportDestination));
     reports_->setFocus();
 }
 
-// No printer and no application is chosen before the person does it.
 void PresetReportsWindow::FillLists() {
-    const PresetChoices choices = ReadPresetChoices(application_);
+    const PresetChoices choices = ReadPresetChoices(Program());
     reportNames_->setStringList(Texts(choices.reports));
     site_->addItems(Texts(choices.sites));
     group_->addItems(Texts(choices.groups));
-    printerList_->addItems(Texts(printers_.Names()));
-    applicationList_->addItems(Texts(ExternalApplications(application_.settings)));
-    for (QComboBox* list : {printerList_, applicationList_}) list->setCurrentIndex(-1);
-}
-
-void PresetReportsWindow::OnUnload() {
-    ui::ShowMainMenu(OtherForms(), application_.session);
-}
-
-void PresetReportsWindow::closeEvent(QCloseEvent* event) {
-    if (running_) return event->ignore();
-    Form::closeEvent(event);
+    FillOutput();
 }
 
 // A click on the report that is selected already reads its file anew.
@@ -267,14 +198,9 @@ void PresetReportsWindow::EnableInputs(const EnabledInputs& enabled) {
     }
 }
 
-void PresetReportsWindow::EnableDestinationLists() {
-    printerList_->setEnabled(toPrinter_->isChecked());
-    applicationList_->setEnabled(inApplication_->isChecked());
-}
-
 void PresetReportsWindow::OpenCalendar(const DateInput& asking) {
     asking_ = asking;
-    const DateTime now = application_.clock.Now();
+    const DateTime now = Program().clock.Now();
     calendar_->Open(QDate(now.year, now.month, now.day), *asking.field);
 }
 
@@ -288,7 +214,7 @@ RunDescription PresetReportsWindow::Describe() const {
     const QModelIndex selected = reports_->selectionModel()->selectedIndexes().value(0);
     const std::string name = selected.data().toString().toStdString();
     return {.reportName = name,
-            .reportFile = PresetReportFile(application_.folder, name),
+            .reportFile = PresetReportFile(Program().folder, name),
             .inputs = {.extension = TextOf(*extension_),
                        .account = TextOf(*account_),
                        .site = TextOf(*site_),
@@ -297,66 +223,11 @@ RunDescription PresetReportsWindow::Describe() const {
                        .endDate = TextOf(*end_.field),
                        .timeFrom = TextOf(*timeFrom_),
                        .timeTo = TextOf(*timeTo_)},
-            .commaText = inApplication_->isChecked(),
+            .commaText = Output().Choice().destination == Destination::InExternalApplication,
             .demandsExtension = enabled_[Input::Extension],
             .demandsAccount = enabled_[Input::Account],
             .drawsGraph = graph_->isChecked(),
             .rules = kPresetRules};
-}
-
-DestinationChoice PresetReportsWindow::Choice() const {
-    DestinationChoice choice = {.printer = TextOf(*printerList_), .application = TextOf(*applicationList_)};
-    if (toPrinter_->isChecked()) choice.destination = Destination::ToPrinter;
-    if (inApplication_->isChecked()) choice.destination = Destination::InExternalApplication;
-    return choice;
-}
-
-void PresetReportsWindow::RunReport() {
-    const RunDescription description = Describe();
-    BeginRun();
-    const RunOutcome outcome = ReportRun(application_, flags_, *records_).Make(description);
-    switch (outcome) {
-        case RunOutcome::Refused:
-            return Refuse(*RefusalOf(description));
-        case RunOutcome::NoData:
-            return TellNoData();
-        case RunOutcome::Complete:
-            return Deliver();
-    }
-}
-
-// The person may click and type while a run serves the events: nothing but the window's
-// frame answers, and the run works on what was filled in before.
-void PresetReportsWindow::BeginRun() {
-    running_ = true;
-    content_->setEnabled(false);
-    records_->Reset();
-    progress_->show();
-    application_.events.Serve();
-}
-
-void PresetReportsWindow::EndRun() {
-    running_ = false;
-    progress_->hide();
-    content_->setEnabled(true);
-}
-
-void PresetReportsWindow::Refuse(const Message& refusal) {
-    application_.prompts.Show(refusal);
-    Unload();
-}
-
-void PresetReportsWindow::TellNoData() {
-    Unload();
-    application_.prompts.Show(NoDataMessage());
-}
-
-// With no printer of the chosen name the window stays, for another choice.
-void PresetReportsWindow::Deliver() {
-    records_->ShowText("Transferring To Report Viewer...");
-    ui::Forms& forms = OtherForms();
-    DeliverReport(forms, application_, printers_, Choice(), kPresetReportsForm);
-    if (forms.Find(kPresetReportsForm) == this) EndRun();
 }
 
 }  // namespace tallix

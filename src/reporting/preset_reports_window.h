@@ -6,7 +6,6 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGridLayout>
-#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
@@ -16,18 +15,14 @@
 #include <array>
 #include <vector>
 
-#include "foundation/application.h"
 #include "reporting/catalogue.h"
-#include "reporting/destinations.h"
 #include "reporting/preset_request.h"
+#include "reporting/report_run_window.h"
 #include "ui/calendar_panel.h"
-#include "ui/form.h"
-#include "ui/printers.h"
-#include "ui/progress_panel.h"
 
 namespace tallix {
 
-class PresetReportsWindow : public ui::Form {
+class PresetReportsWindow : public ReportRunWindow {
     Q_OBJECT
 public:
     /// `application`, `printers` and `flags`, the process's report switches, must outlive
@@ -37,10 +32,7 @@ public:
 
 protected:
     void OnLoad() override;
-    void OnUnload() override;
-
-    /// Not followed while a run is going: it ends by unloading the window.
-    void closeEvent(QCloseEvent* event) override;
+    Message NoDataMessage() const override { return tallix::NoDataMessage(); }
 
 private:
     struct DateInput {
@@ -56,31 +48,19 @@ private:
     void AddDateRows(QGridLayout& grid);
     DateInput MakeDateInput(const QString& caption);
     void NameInputs();
-    void FillDestinationFrame();
     QLayout* ButtonRow();
     void ConnectInputs();
     void FillLists();
 
     void SelectReport();
     void EnableInputs(const EnabledInputs& enabled);
-    void EnableDestinationLists();
     void OpenCalendar(const DateInput& asking);
     void TakeDay(const QDate& day);
 
-    void RunReport();
+    void RunReport() { Run(Describe(), flags_, Output().Choice()); }
     RunDescription Describe() const;
-    DestinationChoice Choice() const;
-    void BeginRun();
-    void EndRun();
-    void Refuse(const Message& refusal);
-    void TellNoData();
-    void Deliver();
 
-    Application& application_;
     ReportFlags& flags_;
-    ui::Printers& printers_;
-
-    QWidget* content_;
     QListView* reports_;
     QStringListModel* reportNames_;
     std::array<std::vector<QWidget*>, kInputs> inputs_;  ///< labels included
@@ -98,20 +78,10 @@ private:
     QRadioButton* lessThan_;
     QCheckBox* graph_;
 
-    QGroupBox* destinationFrame_;
-    QRadioButton* onScreen_;
-    QRadioButton* toPrinter_;
-    QRadioButton* inApplication_;
-    QComboBox* printerList_;
-    QComboBox* applicationList_;
-
     QPushButton* run_;
     QPushButton* cancel_;
     ui::CalendarPanel* calendar_;
     DateInput asking_{};  ///< the date that the calendar is asked for
-    ui::ProgressPanel* progress_;
-    ui::ProgressLine* records_;
-    bool running_ = false;
 };
 
 }  // namespace tallix

@@ -30,6 +30,7 @@ enum Condition : unsigned {
     kAllSites = 1 << 6,
     kAllGroups = 1 << 7,
     kStartsWithOrder = 1 << 8,
+    kExtensionGiven = 1 << 9,
 };
 
 // The text that a rule appends to the base statement. Behind "%" stand: E the extension
@@ -80,7 +81,13 @@ constexpr Rule kUnattendedWhere[] = {
     {kAlways, " %W"},
 };
 
+constexpr Rule kCustom[] = {
+    {kExtensionGiven, " WHERE Extension = %E"},
+    {kAlways, ""},
+};
+
 std::span<const Rule> RulesFor(const QueryInputs& query) {
+    if (query.rules == QueryRules::Custom) return kCustom;
     const bool plain = query.options.where.empty();
     if (query.rules == QueryRules::Unattended) {
         return plain ? std::span<const Rule>(kUnattendedPlain) : std::span<const Rule>(kUnattendedWhere);
@@ -98,6 +105,7 @@ unsigned ConditionsOf(const QueryInputs& query) {
            When(options.site, kBySite) | When(options.group, kByGroup) |
            When(query.flags[DataKey::DestNum], kShowsDestNum) |
            When(query.flags[DataKey::OrigNum], kShowsOrigNum) |
+           When(!query.inputs.extension.empty(), kExtensionGiven) |
            When(EqualNoCase(query.inputs.site, kAll), kAllSites) |
            When(EqualNoCase(query.inputs.group, kAll), kAllGroups) |
            When(EqualNoCase(Left(options.where, kOrder.size()), kOrder), kStartsWithOrder);
@@ -177,10 +185,11 @@ std::string Expand(std::string_view text, Session& session, const QueryInputs& q
 }  // namespace
 
 std::string BuildQuery(Session& session, const QueryInputs& query) {
-    const bool counts = CountsDialledNumbers(query.flags, query.options);
+    const bool custom = query.rules == QueryRules::Custom;
+    const bool counts = !custom && CountsDialledNumbers(query.flags, query.options);
     std::string statement(counts ? kCountOfNumbers : kAllCalls);
     statement += Expand(RuleText(query), session, query);
-    if (session.DBType == "2") return Replace(statement, "\"", "'");
+    if (session.DBType == "2" && !custom) return Replace(statement, "\"", "'");
     return statement;
 }
 

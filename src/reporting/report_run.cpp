@@ -14,6 +14,7 @@
 #include "platform/paths.h"
 #include "reporting/bar_graph.h"
 #include "reporting/cover_pages.h"
+#include "reporting/custom_rows.h"
 #include "reporting/preset_request.h"
 #include "reporting/query_builder.h"
 #include "reporting/report_columns.h"
@@ -33,8 +34,47 @@ constexpr int kBarWidth = 6;
 
 PageShape ShapeOf(const RunDescription& description, bool coloured) {
     if (description.commaText || description.rules.commaTextOnly) return PageShape::CommaText;
+    if (description.custom) return PageShape::Bare;
     return coloured ? PageShape::Coloured : PageShape::Plain;
 }
+
+// A custom report has nothing of the settings but its look, which is always the same.
+ReportSettings SettingsOf(const RunDescription& description, const SettingsStore& settings) {
+    return description.custom ? ReportSettings{.alignment = "center"} : ReadReportSettings(settings);
+}
+
+/// What becomes of a record. One that is not counted does not bring the end nearer either.
+enum class Verdict { Row, NoRow, NotCounted };
+
+/// The rows of a report that is a file of keys.
+class KeyedRows {
+public:
+    KeyedRows(RecordFilters& filters, RowResolver& rows, const ado::Recordset& calls)
+        : filters_(filters), rows_(rows), columns_(calls) {}
+
+    Verdict Judge(const ado::Recordset& calls) {
+        if (!filters_.Keeps(calls, columns_)) return Verdict::NoRow;
+        return rows_.IsDropped(calls) ? Verdict::NotCounted : Verdict::Row;
+    }
+    const std::vector<std::string_view>& Cells(const ado::Recordset& calls) { return rows_.Resolve(calls); }
+
+private:
+    RecordFilters& filters_;
+    RowResolver& rows_;
+    const CallColumns columns_;
+};
+
+/// The rows of a custom report.
+class ChosenRows {
+public:
+    explicit ChosenRows(CustomRows& rows) : rows_(rows) {}
+
+    Verdict Judge(const ado::Recordset& calls) { return rows_.Keeps(calls) ? Verdict::Row : Verdict::NoRow; }
+    const std::vector<std::string_view>& Cells(const ado::Recordset&) { return rows_.Cells(); }
+
+private:
+    CustomRows& rows_;
+};
 
 std::string_view CurrencyOf(const RunRules& rules, const Session& session) {
     return rules.fixedCurrency.empty() ? std::string_view(session.Currency) : rules.fixedCurrency;
@@ -56,8 +96,8 @@ ReportRun::ReportRun(Application& application, ReportFlags& flags, RunProgress& 
 RunOutcome ReportRun::Make(const RunDescription& description) {
     DeleteWorkingFiles(kPageFiles);
     if (description.rules.writesCovers) DeleteWorkingFiles(kCoverFiles);
-    settings_ = ReadReportSettings(application_.settings);
-    ReadKeys(description);
+    settings_ = SettingsOf(description, application_.settings);
+    if (!description.custom) ReadKeys(description);
     Attempt([&] { OpenDatabase(application_.session); });
     const RunOutcome outcome = RefusalOf(description) ? RunOutcome::Refused : MakePage(description);
     CloseDatabase(application_.session);
@@ -92,7 +132,8 @@ RunOutcome ReportRun::WritePage(const RunDescription& description) {
     if (description.rules.writesCovers) WriteCovers(pageDescription);
     if (description.rules.writesTitle && !options_.title.empty())
         page.WriteTitle(TitleLine(description.inputs));
-    page.WriteColumnHeads(HeadsOf(flags_, settings_.numbers));
+    page.WriteColumnHeads(description.custom ? HeadsOf(*description.custom)
+                                             : HeadsOf(flags_, settings_.numbers));
 
     ado::Recordset calls;
     Attempt([&] { application_.events.ServeDuring([&] { OpenCalls(description, calls); }); });
@@ -149,45 +190,58 @@ void ReportRun::OpenCalls(const RunDescription& description, ado::Recordset& cal
 
 // A set that the server refused has no rows to write.
 PageTotals ReportRun::WriteRows(const RunDescription& description, ado::Recordset& calls, Page& page) {
-    const std::string currency(CurrencyOf(description.rules, application_.session));
     recordsWritten_ = 0;
-    std::int32_t pence = 0;
-    if (calls.IsOpen()) {
-        Tariff tariff(application_.session);
-        const RowContext context = {
-            .session = application_.session,
-            .events = application_.events,
-            .flags = flags_,
-            .settings = settings_,
-            .site = site_,
-            .tariff = tariff,
-            .currency = currency,
-            .dropsShortNumbers = CountsDialledNumbers(flags_, options_) && flags_[DataKey::DestNum]};
-        RowResolver rows(context, CallColumns(calls));
-        WalkRecords(description, calls, rows, page);
-        pence = rows.TotalPence();
+    if (description.custom) {
+        WriteChosenRows(*description.custom, calls, page);
+        return {.records = recordsWritten_};
     }
+    const std::string currency(CurrencyOf(description.rules, application_.session));
+    const std::int32_t pence = calls.IsOpen() ? WriteKeyedRows(description, currency, calls, page) : 0;
     return {.records = recordsWritten_, .showsCost = flags_.Cost(), .cost = currency + TotalText(pence)};
 }
 
-// `Top` bounds the records looked at, kept or not, save those that a count of dialled
-// numbers drops. Rounds past the last record would do nothing.
-void ReportRun::WalkRecords(const RunDescription& description, ado::Recordset& calls, RowResolver& rows,
-                            Page& page) {
-    const CallColumns columns(calls);
+std::int32_t ReportRun::WriteKeyedRows(const RunDescription& description, std::string_view currency,
+                                       ado::Recordset& calls, Page& page) {
+    Tariff tariff(application_.session);
+    const RowContext context = {
+        .session = application_.session,
+        .events = application_.events,
+        .flags = flags_,
+        .settings = settings_,
+        .site = site_,
+        .tariff = tariff,
+        .currency = currency,
+        .dropsShortNumbers = CountsDialledNumbers(flags_, options_) && flags_[DataKey::DestNum]};
+    RowResolver resolver(context, CallColumns(calls));
     RecordFilters filters(description, flags_.Hours(), settings_.timeOpen, settings_.timeClosed);
+    const bool bounded = description.rules.honoursTop && options_.top != 0;
+    WalkRecords(bounded ? options_.top : calls.RecordCount(), calls, KeyedRows(filters, resolver, calls),
+                page);
+    return resolver.TotalPence();
+}
+
+void ReportRun::WriteChosenRows(const CustomReport& report, ado::Recordset& calls, Page& page) {
+    if (!calls.IsOpen()) return;
+    CustomRows rows(application_.session, application_.events, report, calls);
+    WalkRecords(calls.RecordCount(), calls, ChosenRows(rows), page);
+}
+
+// `bound` is the number of records looked at, kept or not, save those that a count of
+// dialled numbers drops. Rounds past the last record would do nothing.
+template <typename Rows>
+void ReportRun::WalkRecords(std::int64_t bound, ado::Recordset& calls, Rows rows, Page& page) {
     const std::int64_t fetched = calls.RecordCount();
-    const std::int64_t bound = description.rules.honoursTop && options_.top != 0 ? options_.top : fetched;
     std::int64_t record = 1;
     for (std::int64_t row = 0; row < fetched && record <= bound; ++row, ++record, calls.MoveNext()) {
         progress_.Record(record, bound);
-        if (!filters.Keeps(calls, columns)) continue;
-        if (rows.IsDropped(calls)) {
+        const Verdict verdict = rows.Judge(calls);
+        if (verdict == Verdict::NoRow) continue;
+        if (verdict == Verdict::NotCounted) {
             page.FlipShading();
             --record;
             continue;
         }
-        page.WriteRow(rows.Resolve(calls));
+        page.WriteRow(rows.Cells(calls));
         ++recordsWritten_;
     }
 }

@@ -58,7 +58,11 @@ private:
     void OpenCalls(const RunDescription& description, ado::Recordset& calls);
     PageTotals WriteRows(const RunDescription& description, ado::Recordset& calls, Page& page);
     std::string GraphText(const RunDescription& description, ado::Recordset& calls) const;
-    void WalkRecords(const RunDescription& description, ado::Recordset& calls, RowResolver& rows, Page& page);
+    std::int32_t WriteKeyedRows(const RunDescription& description, std::string_view currency,
+                                ado::Recordset& calls, Page& page);
+    void WriteChosenRows(const CustomReport& report, ado::Recordset& calls, Page& page);
+    template <typename Rows>
+    void WalkRecords(std::int64_t bound, ado::Recordset& calls, Rows rows, Page& page);
 
     Application& application_;
     ReportFlags& flags_;

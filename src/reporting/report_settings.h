@@ -25,13 +25,13 @@ std::string HtmlColour(const std::string& nineDigits);
 struct ReportSettings {
     NumberTable numbers = NumberTable::Unset;
     bool coloured = false;  ///< the layout that `V1Reports` "1" selects
-    ReportColours colours;
-    std::string alignment;  ///< "Left", "Center" or "Right"
-    bool areaCode = false;  ///< the site's dialling code stands before short numbers
+    ReportColours colours{};
+    std::string alignment{};  ///< "Left", "Center" or "Right"
+    bool areaCode = false;    ///< the site's dialling code stands before short numbers
     bool storedCosts = true;
-    std::string billing;
-    std::string timeOpen;
-    std::string timeClosed;
+    std::string billing{};
+    std::string timeOpen{};
+    std::string timeClosed{};
 };
 
 ReportSettings ReadReportSettings(const SettingsStore& settings);

@@ -24,7 +24,7 @@ struct RunInputs {
     std::string timeTo{};
 };
 
-enum class QueryRules { Preset, Unattended };
+enum class QueryRules { Preset, Unattended, Custom };
 
 enum class TimeRule {
     BothBounds,  ///< applies when both times are given; each bound is exclusive
@@ -81,6 +81,24 @@ inline constexpr RunRules kUnattendedRules = {
     .logsTheRun = false,
 };
 
+/// The custom report of a person at the screen. Its filters are part of its rows.
+inline constexpr RunRules kCustomRules = {
+    .query = QueryRules::Custom,
+    .time = TimeRule::BothBounds,
+    .empty = EmptyResult::Stop,
+    .commaTextOnly = false,
+    .dropsBlankNumbers = false,
+    .honoursTop = false,
+    .writesTitle = false,
+    .generatedOn = "Generated On:",
+    .showsSeconds = false,
+    .fixedCurrency = "",
+    .writesCovers = false,
+    .logsTheRun = true,
+};
+
+struct CustomReport;
+
 struct RunDescription {
     std::string reportName;            ///< in titles and in the log
     std::filesystem::path reportFile;  ///< the file of keys
@@ -90,6 +108,7 @@ struct RunDescription {
     bool demandsAccount = false;    ///< the same for the account code
     bool drawsGraph = false;        ///< a bar chart ends the page
     const RunRules& rules;
+    const CustomReport* custom = nullptr;  ///< in place of the file of keys; must outlive the run
 };
 
 }  // namespace tallix

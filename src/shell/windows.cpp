@@ -6,6 +6,7 @@
 #include "custody/archive_window.h"
 #include "foundation/form_names.h"
 #include "reporting/cover_backing_window.h"
+#include "reporting/custom_reports_window.h"
 #include "reporting/preset_reports_window.h"
 #include "reporting/report_output_window.h"
 #include "shell/about_window.h"
@@ -39,6 +40,7 @@ void RegisterWindows(ui::Forms& forms, Application& application, ReportFlags& fl
     Register<PresetReportsWindow>(forms, kPresetReportsForm, application, flags, printers);
     Register<CallCostingsWindow>(forms, kCallCostingsForm, application);
     Register<CallCostMapWindow>(forms, kCallCostMapForm, application);
+    Register<CustomReportsWindow>(forms, kCustomReportsForm, application, printers);
     Register<CoverBackingWindow>(forms, kCoverPagesForm, application);
     Register<ArchiveWindow>(forms, kArchiveForm, application);
     Register<ReportOutputWindow>(forms, kReportOutputForm, application, printers);

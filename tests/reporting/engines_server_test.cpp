@@ -11,6 +11,7 @@
 #include "demo_data.h"
 #include "foundation/database.h"
 #include "reference_data.h"
+#include "reporting/custom_reports.h"
 #include "reporting/report_run.h"
 #include "support/test_application.h"
 #include "support/test_servers.h"
@@ -73,6 +74,17 @@ void RunReports(TestApplication& test, const std::string& providers, const std::
     }
 }
 
+// Every field of every call, which names extensions by their bare numbers.
+void RunCustomReport(TestApplication& test, Files& files) {
+    CustomReport report;
+    report.shown.fill(true);
+    report.destination = Destination::InExternalApplication;
+    ReportFlags flags;
+    NoProgress progress;
+    ReportRun(test.application, flags, progress).Make(DescribeCustomRun("Mine", report));
+    files["custom"] = ReadBytes(PageFile(test.application));
+}
+
 Files FilesOf(const std::string& engineName) {
     const test::TestEngine& engine = test::EngineNamed(engineName);
     FillWorld(engine);
@@ -85,6 +97,7 @@ Files FilesOf(const std::string& engineName) {
     ComputeCosts(test.application.session, test.settings);
     RunReports(test, "1", "1", files);
     RunReports(test, "2", "0", files);
+    RunCustomReport(test, files);
     WriteAutomatedBackup(test.application);
     files["dump"] = ReadBytes(test.application.folder / kAutomatedBackupName);
     return files;
@@ -109,6 +122,7 @@ std::string FirstDifference(const std::string& expected, const std::string& actu
 TEST(Engines, GiveTheSameReportsAndDumps) {
     const Files expected = FilesOf("sqlite");
     ASSERT_GT(RowsOf(expected.at("dump")), kCalls);
+    ASSERT_GT(RowsOf(expected.at("custom")), kCalls / 2);
     ASSERT_GT(RowsOf(expected.at("All Calls 2 providers 1")), kCalls / 8);
     for (const char* name : {"mariadb", "postgres"}) {
         const Files actual = FilesOf(name);

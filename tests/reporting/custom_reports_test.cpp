@@ -1,0 +1,140 @@
+#include "reporting/custom_reports.h"
+
+#include <gmock/gmock.h>
+
+#include <fstream>
+
+#include "reporting/report_run.h"
+#include "support/test_application.h"
+
+namespace tallix {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+class CustomReportsTest : public testing::Test {
+protected:
+    CustomReport Showing(std::initializer_list<CustomField> fields) {
+        CustomReport report;
+        for (const CustomField field : fields) report.shown[static_cast<std::size_t>(field)] = true;
+        return report;
+    }
+
+    RunOutcome Run(const CustomReport& report) {
+        ReportFlags flags;
+        NoProgress progress;
+        return ReportRun(test_.application, flags, progress).Make(DescribeCustomRun("Mine", report));
+    }
+
+    std::vector<std::string> Page() { return test::ReadLines(PageFile(test_.application)); }
+
+    test::TestApplication test_;
+};
+
+TEST_F(CustomReportsTest, APageIsBareWhateverTheSettings) {
+    test_.settings.Write("V1Reports", "1");
+    test_.settings.Write("ReportAlign", "L");
+    test_.Execute("INSERT INTO tblextensions(ExtensionNo, Name) VALUES ('201', 'Ann')");
+    test_.InsertCall({{"Duration", ""}, {"Internal", "1"}, {"Trunk", "T01"}});
+    CustomReport report = Showing({CustomField::ExtensionName, CustomField::Duration, CustomField::OrigNum,
+                                   CustomField::Internal, CustomField::Trunk});
+    ASSERT_EQ(Run(report), RunOutcome::Complete);
+    const std::vector<std::string> page = Page();
+    EXPECT_EQ((std::vector(page.begin(), page.begin() + 5)),
+              (std::vector<std::string>{"<HTML>", "<TITLE>Tallix Reports - Mine</TITLE>", "<BODY>",
+                                        R"(<TABLE width="100%" border="0" valign="middle" cellpadding="5">)",
+                                        "<TR>"}));
+    EXPECT_THAT(
+        (std::vector(page.end() - 10, page.end())),
+        ElementsAre("<TH>Name:</TH><TH>Duration:</TH><TH>Originator:</TH><TH>Internal:</TH><TH>Trunk:</TH>",
+                    R"(<TR align="center">)",
+                    "<TD>Ann</TD><TD>&nbsp;</TD><TD>201</TD><TD>Yes</TD><TD>Yes</TD>", "</TABLE>", "<BR>",
+                    "<B>Total Number Of Records: 1</B>", "", "</FONT>", "</BODY>", "</HTML>"));
+
+    report.destination = Destination::InExternalApplication;
+    ASSERT_EQ(Run(report), RunOutcome::Complete);
+    EXPECT_THAT(Page(), ElementsAre("Tallix Reports - Mine", HasSubstr("Generated On:09/03/2021 At "),
+                                    "Created By Tallix Reports V1.4.6", "",
+                                    "Name:,Duration:,Originator:,Internal:,Trunk:,",
+                                    "Ann,&nbsp;,201,Yes,Yes,", "", "Total Number Of Records: 1"));
+}
+
+TEST_F(CustomReportsTest, AFilterAppliesWhereItsFieldIsShown) {
+    for (const char* day : {"01", "02", "03"}) {
+        test_.InsertCall({{"Account", ""},
+                          {"Date", std::string(day) + "/03/2021"},
+                          {"Duration", "00:0" + std::string(day + 1) + ":00"}});
+    }
+    test_.InsertCall({{"Extension", "t9"}, {"Date", "never"}, {"Account", "7"}, {"Duration", ""}});
+    using enum CustomField;
+    struct Case {
+        std::initializer_list<CustomField> shown;
+        void (*fill)(CustomReport&);
+        std::vector<std::string> rows;
+    };
+    const Case cases[] = {
+        {{Account}, [](CustomReport& r) { r.startDate = "01/03/2021"; }, {"&nbsp;", "&nbsp;", "&nbsp;", "7"}},
+        {{Date}, [](CustomReport& r) { r.startDate = "01/03/2021"; }, {"02/03/2021", "03/03/2021", "never"}},
+        {{Date},
+         [](CustomReport& r) { r.startDate = "01/03/2021", r.endDate = "03/03/2021"; },
+         {"02/03/2021", "never"}},
+        {{Date},
+         [](CustomReport& r) { r.endDate = "x"; },
+         {"01/03/2021", "02/03/2021", "03/03/2021", "never"}},
+        {{ExtensionName, Date}, [](CustomReport& r) { r.endDate = "02/03/2021"; }, {"&nbsp;,01/03/2021"}},
+        {{Duration}, [](CustomReport& r) { r.duration = "00:02:00", r.greater = true; }, {"00:03:00"}},
+        {{Duration}, [](CustomReport& r) { r.duration = "00:02:00", r.less = true; }, {"00:01:00", "&nbsp;"}},
+        {{Duration, Account}, [](CustomReport& r) { r.duration = "1", r.account = "7"; }, {"7"}},
+        {{Time}, [](CustomReport& r) { r.extension = "t9"; }, {"10:15:00"}},
+    };
+    for (const Case& c : cases) {
+        CustomReport report = Showing(c.shown);
+        report.destination = Destination::InExternalApplication;
+        c.fill(report);
+        ASSERT_EQ(Run(report), RunOutcome::Complete);
+        std::vector<std::string> page = Page();
+        const std::vector<std::string> rows(page.begin() + 5, page.end() - 2);
+        std::vector<std::string> expected;
+        for (const std::string& row : c.rows) expected.push_back(row + ",");
+        EXPECT_EQ(rows, expected) << "case " << &c - cases;
+    }
+    CustomReport report = Showing({Time});
+    report.extension = "2\"0'1";
+    EXPECT_EQ(Run(report), RunOutcome::NoData);
+}
+
+TEST_F(CustomReportsTest, AFileKeepsAReportAndStaysInItsFolder) {
+    const std::string location = test_.Folder().string();
+    const auto folder = CustomReportsFolder(location);
+    std::filesystem::create_directories(folder / "CST_");
+    CustomReport report = Showing({CustomField::Time, CustomField::Account});
+    report.account = "12 \"34\"";
+    report.less = true;
+    report.endDate = "02/03/2021";
+    report.destination = Destination::InExternalApplication;
+    report.application = "Microsoft Notepad";
+    WriteCustomReport(location, "Café", report);
+    EXPECT_THAT(
+        test::ReadLines(folder / "CST_Café.SRT"),
+        ElementsAre("Tallix Reports Tool - Custom Report - V1.0", "", "[Data]", "ExtName=False", "Date=False",
+                    "Time=True", "Duration=False", "Ext=False", "NoR=False", "OrigNum=False", "DestNum=False",
+                    "Internal=False", "Speedcall=False", "Forward=False", "Trunk=False", "Account=True", "",
+                    "[Options]", "Account=12 \"34\"", "Duration=", "Greater=False", "Less=True",
+                    "SDate=", "EDate=02/03/2021", "Extension=", "", "[Destination]", "Screen=False",
+                    "Printer=False", "Application=True", "AppName=Microsoft Notepad"));
+    CustomReport read;
+    ReadCustomReport(location, "Café", read);
+    EXPECT_EQ(read.shown, report.shown);
+    EXPECT_EQ(read.account + read.endDate + read.application,
+              report.account + report.endDate + report.application);
+    EXPECT_TRUE(read.less && read.destination == Destination::InExternalApplication);
+
+    const auto filesBefore = ListReports(folder).size();
+    for (const char* name : {"/../../x", "\\..\\x", "a/b", "a\nb"}) WriteCustomReport(location, name, report);
+    EXPECT_EQ(ListReports(folder).size(), filesBefore);
+    EXPECT_FALSE(std::filesystem::exists(test_.Folder() / "x.SRT"));
+}
+
+}  // namespace
+}  // namespace tallix
