@@ -65,7 +65,7 @@ TEST_F(ArchiveWindowTest, StaysWithItsProgressShownUntilTheRequestIsComplete) {
     test_.prompts.paths = {"/old.saf"};
     Captioned<QPushButton>("Browse").click();
     EXPECT_EQ(location_->text(), "/old.saf.SAF");
-    Captioned<QLineEdit>("/old.saf").clear();
+    Captioned<QLineEdit>("old.saf").clear();
     EXPECT_TRUE(Begin()) << "no name";
     ExpectAsked("stop TALLIX_COLLECTOR\n");
     Captioned<QRadioButton>("To Database").click();
