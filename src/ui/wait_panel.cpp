@@ -5,13 +5,10 @@
 #include <QPointer>
 #include <vector>
 
-#include "ui/progress_panel.h"
-
 namespace tallix::ui {
-namespace {
 
 /// Turns the inputs of a window off and holds it open, for as long as it lives.
-class HeldWindow : public QObject {
+class WaitPanel::HeldWindow : public QObject {
 public:
     explicit HeldWindow(QWidget& window) : window_(window), focus_(window.focusWidget()) {
         for (QWidget* part : window.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
@@ -41,15 +38,24 @@ private:
     std::vector<QPointer<QWidget>> disabled_;
 };
 
-}  // namespace
+WaitPanel::WaitPanel(QWidget& widget, const QString& title, const QString& text)
+    : window_(*widget.window()), held_(std::make_unique<HeldWindow>(window_)), panel_(window_, title, text) {}
+
+WaitPanel::~WaitPanel() = default;
+
+ProgressLine& WaitPanel::AddLine(EventQueue& events, const QString& pattern) {
+    return panel_.AddLine(events, pattern);
+}
+
+void WaitPanel::Show() {
+    panel_.show();
+    window_.repaint();
+}
 
 void WorkUnderPanel(QWidget& widget, EventQueue& events, const QString& title, const QString& text,
                     const std::function<void()>& work) {
-    QWidget& window = *widget.window();
-    const HeldWindow held(window);
-    ProgressPanel panel(window, title, text);
-    panel.show();
-    window.repaint();
+    WaitPanel panel(widget, title, text);
+    panel.Show();
     events.ServeDuring(work);
 }
 

@@ -1,4 +1,4 @@
-// Long work that counts nothing, under a panel that says what is being done.
+// Long work under a panel that says what is being done.
 //
 //     ui::WorkUnderPanel(*this, application.events, "Calculating Call Costings", "Please Wait...",
 //                        [&] { ComputeCosts(session, settings); });
@@ -7,12 +7,38 @@
 #include <QString>
 #include <QWidget>
 #include <functional>
+#include <memory>
 
 #include "foundation/event_queue.h"
+#include "ui/progress_panel.h"
 
 namespace tallix::ui {
 
-/// Does the work with the panel over the window of `widget`. Until it is over the window is
+/// The panel over a window, whose inputs are off and which cannot be closed, for as long as
+/// this lives.
+class WaitPanel {
+public:
+    /// Covers the window of `widget`, which must outlive the panel. Hidden until Show.
+    WaitPanel(QWidget& widget, const QString& title, const QString& text);
+    ~WaitPanel();
+    WaitPanel(const WaitPanel&) = delete;
+    WaitPanel& operator=(const WaitPanel&) = delete;
+
+    /// For work that counts. The line belongs to the panel.
+    ProgressLine& AddLine(EventQueue& events, const QString& pattern);
+
+    /// Shows and paints it.
+    void Show();
+
+private:
+    class HeldWindow;
+
+    QWidget& window_;
+    std::unique_ptr<HeldWindow> held_;
+    ProgressPanel panel_;
+};
+
+/// Does work that counts nothing with the panel over the window of `widget`. Until it is over the window is
 /// painted, and its inputs are off and it cannot be closed. What the work uses is to be left
 /// alone by other windows meanwhile. What it throws is thrown here.
 void WorkUnderPanel(QWidget& widget, EventQueue& events, const QString& title, const QString& text,

@@ -14,8 +14,9 @@ constexpr std::size_t kBytesAStatement = std::size_t{256} * 1024;
 
 }  // namespace
 
-RowBatch::RowBatch(Connection& connection, std::string_view table, const std::vector<std::string>& columns)
-    : connection_(connection) {
+RowBatch::RowBatch(Connection& connection, std::string_view table, const std::vector<std::string>& columns,
+                   Refusal refusal)
+    : connection_(connection), refusal_(refusal) {
     const Server server = connection.Server().Kind();
     head_ = "INSERT INTO " + QuoteIdentifier(table, server) + " (";
     for (std::size_t column = 0; column < columns.size(); ++column) {
@@ -52,10 +53,18 @@ void RowBatch::Flush() {
 
 void RowBatch::SendOneByOne() {
     for (std::size_t row = 0; row < starts_.size(); ++row) {
-        std::string statement = head_;
-        statement += Row(row);
-        if (!Attempt([&] { connection_.Server().Execute(statement); })) ++refused_;
+        if (refusal_ == Refusal::Throws) {
+            SendRow(row);
+        } else if (!Attempt([&] { SendRow(row); })) {
+            ++refused_;
+        }
     }
+}
+
+void RowBatch::SendRow(std::size_t index) {
+    std::string statement = head_;
+    statement += Row(index);
+    connection_.Server().Execute(statement);
 }
 
 std::string_view RowBatch::Row(std::size_t index) const {

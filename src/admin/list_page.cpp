@@ -1,0 +1,35 @@
+#include "admin/list_page.h"
+
+#include "ui/style.h"
+
+namespace tallix {
+
+QBoxLayout* NamedList(const QString& name, ui::ListView& list) {
+    auto* label = new QLabel(name);
+    label->setBuddy(&list);
+    list.setObjectName(name);
+    list.setAccessibleName(name);
+    auto* rows = new QVBoxLayout;
+    rows->setSpacing(ui::kSpacing);
+    rows->addWidget(label);
+    rows->addWidget(&list, 1);
+    return rows;
+}
+
+QBoxLayout* ListButtons(const QList<QPushButton*>& forList, const QList<QPushButton*>& forRow) {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(ui::kSpacing);
+    for (QPushButton* button : forList) row->addWidget(button);
+    row->addStretch();
+    for (QPushButton* button : forRow) row->addWidget(button);
+    return row;
+}
+
+void ArrangePage(QWidget& page, const QList<QLayout*>& parts) {
+    auto* rows = new QVBoxLayout(&page);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(2 * ui::kSpacing);
+    for (QLayout* part : parts) rows->addLayout(part, part == parts.first() ? 1 : 0);
+}
+
+}  // namespace tallix
