@@ -7,7 +7,9 @@
 
 #include "admin/address_book.h"
 #include "admin/extension_groups.h"
+#include "foundation/ado/recordset.h"
 #include "foundation/database.h"
+#include "foundation/errors.h"
 #include "support/test_application.h"
 #include "support/test_servers.h"
 
