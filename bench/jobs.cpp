@@ -180,7 +180,6 @@ std::string ArchiveRow(const ado::Recordset& calls) {
 }
 
 void SendArchiveRows(World& world, std::int64_t) {
-    OpenBareClient(world.Parts())->Fetch(kAllCalls);
     SendForEachCall(world, ArchiveRow);
 }
 

@@ -5,7 +5,7 @@
 namespace tallix {
 namespace {
 
-std::string WithoutDot(std::string ending) {
+std::string WithoutDot(const std::string& ending) {
     return ending.empty() ? ending : ending.substr(1);
 }
 

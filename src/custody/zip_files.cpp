@@ -68,7 +68,7 @@ public:
 
     void Close() {
         if (zip_close(archive_.get()) == 0) {
-            archive_.release();
+            static_cast<void>(archive_.release());  // it is gone with its closing
         } else {
             NoteFailure();
         }
