@@ -78,7 +78,7 @@ private:
 };
 
 KeyLookup::KeyLookup(Session& session, EventQueue& events, const KeyLookupNames& names)
-    : session_(session), events_(events), names_(names) {}
+    : session_(session), events_(events), names_(names), triedTable_(names.form == KeyForm::Bare) {}
 
 KeyLookup::~KeyLookup() = default;
 
@@ -97,11 +97,17 @@ std::optional<std::string_view> KeyLookup::Ask(std::string_view key) {
     return View(answers_.emplace(std::string(key), FirstValue(key)).first->second);
 }
 
+std::string KeyLookup::Literal(std::string_view key) const {
+    if (names_.form == KeyForm::Quoted) return Quoted(session_, key);
+    if (!IsNumeric(key)) throw ConversionError("A bare key is no number");
+    return std::string(key);
+}
+
 std::optional<std::string> KeyLookup::FirstValue(std::string_view key) {
     std::optional<std::string> value;
     Attempt([&] {
         ado::Recordset rows;
-        rows.Open(std::string(names_.statement) + Quoted(session_, key), OpenConnection(session_));
+        rows.Open(std::string(names_.statement) + Literal(key), OpenConnection(session_));
         if (rows.RecordCount() > 0) value = rows.Text(names_.value);
     });
     return value;

@@ -5,7 +5,8 @@
 // The first questions are put to the server one by one. A run that keeps asking gets
 // the table read once and is answered from memory. Memory answers only for keys whose
 // equality means the same on every server (digits and the like, no blank behind); any
-// other key goes to the server each time it is new.
+// other key goes to the server each time it is new. So does each key that is compared as
+// a number: memory knows texts alone.
 #pragma once
 
 #include <cstdint>
@@ -23,11 +24,18 @@
 
 namespace tallix {
 
+/// How a key stands in its statement.
+enum class KeyForm {
+    Quoted,  ///< compared as text
+    Bare,    ///< compared as a number, "0201" with "201"; a key that is no number finds nothing
+};
+
 struct KeyLookupNames {
     std::string_view table;
     std::string_view statement;  ///< up to and including the "=" and what follows it
     std::string_view key;
     std::string_view value;
+    KeyForm form = KeyForm::Quoted;
 };
 
 class KeyLookup {
@@ -52,6 +60,7 @@ private:
     using Memo = std::unordered_map<std::string, std::optional<std::string>, TextHash, std::equal_to<>>;
 
     std::optional<std::string_view> Ask(std::string_view key);
+    std::string Literal(std::string_view key) const;
     std::optional<std::string> FirstValue(std::string_view key);
     void ReadTable();
 
@@ -59,7 +68,7 @@ private:
     EventQueue& events_;
     KeyLookupNames names_;
     Memo answers_;
-    bool triedTable_ = false;
+    bool triedTable_;
     std::unique_ptr<Table> table_;
 };
 
