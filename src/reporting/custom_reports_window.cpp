@@ -60,6 +60,7 @@ CustomReportsWindow::CustomReportsWindow(ui::Forms& forms, Application& applicat
     : ReportRunWindow(forms, "Tallix Reports Tool - Custom Reports", application, printers),
       reports_(new QListWidget),
       name_(new QLineEdit),
+      nameLabel_(LabelOf(name_, "Report Name:")),
       fields_(new QListWidget),
       data_(new QGroupBox("Data")),
       account_(new QLineEdit),
@@ -101,7 +102,7 @@ QLayout* CustomReportsWindow::ReportColumn() {
 
 QLayout* CustomReportsWindow::FieldColumn() {
     auto* column = Column();
-    column->addWidget(LabelOf(name_, "Report Name:"));
+    column->addWidget(nameLabel_);
     column->addWidget(name_);
     column->addSpacing(ui::kSpacing);
     column->addWidget(LabelOf(fields_, "Select data you wish to show"));
@@ -187,14 +188,16 @@ void CustomReportsWindow::ConnectInputs() {
     connect(run_, &QPushButton::clicked, this, &CustomReportsWindow::RunReport);
     connect(cancel_, &QPushButton::clicked, this, &QWidget::close);
     connect(calendar_, &ui::CalendarPanel::DayClicked, this, [this](const QDate& day) {
-        asking_->setText(QString::fromStdString(ShortDate({day.year(), day.month(), day.day()})));
+        asking_.field->setText(QString::fromStdString(ShortDate({day.year(), day.month(), day.day()})));
+        asking_.box->setChecked(true);
     });
 }
 
 void CustomReportsWindow::OnLoad() {
     const Session& session = Program().session;
-    for (QWidget* input : {static_cast<QWidget*>(data_), static_cast<QWidget*>(name_),
-                           static_cast<QWidget*>(save_), static_cast<QWidget*>(run_)}) {
+    for (QWidget* input :
+         {static_cast<QWidget*>(data_), static_cast<QWidget*>(nameLabel_), static_cast<QWidget*>(name_),
+          static_cast<QWidget*>(save_), static_cast<QWidget*>(run_)}) {
         input->setEnabled(false);
     }
     // The right of call cost mappings opens new reports; the one named for it asks nobody.
@@ -229,8 +232,8 @@ void CustomReportsWindow::SelectReport() {
 }
 
 void CustomReportsWindow::BeginNewReport() {
-    for (QWidget* input :
-         {static_cast<QWidget*>(fields_), static_cast<QWidget*>(data_), static_cast<QWidget*>(name_)}) {
+    for (QWidget* input : {static_cast<QWidget*>(fields_), static_cast<QWidget*>(data_),
+                           static_cast<QWidget*>(nameLabel_), static_cast<QWidget*>(name_)}) {
         input->setEnabled(true);
     }
     name_->setText(kFirstName);
@@ -279,7 +282,7 @@ CustomReport CustomReportsWindow::Described() const {
 }
 
 void CustomReportsWindow::OpenCalendar(const DateInput& asking) {
-    asking_ = asking.field;
+    asking_ = asking;
     const DateTime now = Program().clock.Now();
     calendar_->Open(QDate(now.year, now.month, now.day), *asking.field);
 }

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QCheckBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
@@ -52,6 +53,7 @@ private:
 
     QListWidget* reports_;
     QLineEdit* name_;
+    QLabel* nameLabel_;
     QListWidget* fields_;
     QGroupBox* data_;
     QLineEdit* account_;
@@ -67,8 +69,8 @@ private:
     QPushButton* run_;
     QPushButton* cancel_;
     ui::CalendarPanel* calendar_;
-    QLineEdit* asking_ = nullptr;  ///< the date that the calendar is asked for
-    CustomReport report_;          ///< of the latest run
+    DateInput asking_{};   ///< the date that the calendar is asked for
+    CustomReport report_;  ///< of the latest run
 };
 
 }  // namespace tallix

@@ -3,13 +3,20 @@
 #include "foundation/attempt.h"
 #include "foundation/text_conversion.h"
 #include "reporting/call_columns.h"
-#include "reporting/row_resolution.h"
+#include "reporting/site.h"
 
 namespace tallix {
 namespace {
 
 constexpr std::string_view kYes = "Yes";
 constexpr std::string_view kNo = "No";
+
+// Calls hold more digits than the extensions' table; as numbers they are the same.
+constexpr KeyLookupNames kNames = {.table = "tblextensions",
+                                   .statement = "SELECT * FROM tblextensions WHERE ExtensionNo = ",
+                                   .key = "ExtensionNo",
+                                   .value = "Name",
+                                   .form = KeyForm::Bare};
 
 bool IsTrunk(std::string_view extension) {
     return !extension.empty() && (extension.front() == 'T' || extension.front() == 't');
@@ -33,7 +40,7 @@ std::vector<std::string_view> HeadsOf(const CustomReport& report) {
 
 CustomRows::CustomRows(Session& session, EventQueue& events, const CustomReport& report,
                        const ado::Recordset& calls)
-    : report_(report), names_(session, events, kExtensionNames) {
+    : report_(report), names_(session, events, kNames) {
     boundsAreDates_ = Attempt([&] {
         if (!report.startDate.empty()) start_ = DayNumber(report.startDate);
         if (!report.endDate.empty()) end_ = DayNumber(report.endDate);

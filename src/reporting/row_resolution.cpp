@@ -14,6 +14,8 @@ constexpr std::string_view kHomeCountry = "GBR";
 constexpr std::string_view kVoicemail = "Voicemail";
 constexpr std::string_view kNoCost = "0.00";
 
+constexpr KeyLookupNames kNames = {"tblextensions",
+                                   "SELECT * FROM tblextensions WHERE ExtensionNo = ", "ExtensionNo", "Name"};
 constexpr KeyLookupNames kAddressBook = {"tbladdressbook",
                                          "SELECT * FROM tbladdressbook WHERE Number =", "Number", "Name"};
 constexpr KeyLookupNames kStoredCosts = {"tblcostcount",
@@ -68,7 +70,7 @@ RowResolver::RowResolver(const RowContext& context, const CallColumns& columns)
     : context_(context),
       columns_(columns),
       plan_(CellsOf(context.flags, context.settings.numbers)),
-      names_(context.session, context.events, kExtensionNames),
+      names_(context.session, context.events, kNames),
       addressBook_(context.session, context.events, kAddressBook),
       storedCosts_(context.session, context.events, kStoredCosts),
       areas_(context.session, std::string(NumberTableName(context.settings.numbers)), "Code", "Provider"),

@@ -28,11 +28,6 @@
 
 namespace tallix {
 
-/// The names of extensions, for every kind of report. The number stands bare in the
-/// statement: it is compared as a number.
-inline constexpr KeyLookupNames kExtensionNames = {
-    "tblextensions", "SELECT * FROM tblextensions WHERE ExtensionNo = ", "ExtensionNo", "Name"};
-
 /// What the rows of one run have in common. All of it must outlive the resolver.
 struct RowContext {
     Session& session;

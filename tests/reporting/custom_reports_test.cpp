@@ -11,7 +11,6 @@ namespace tallix {
 namespace {
 
 using testing::ElementsAre;
-using testing::HasSubstr;
 
 class CustomReportsTest : public testing::Test {
 protected:
@@ -31,34 +30,6 @@ protected:
 
     test::TestApplication test_;
 };
-
-TEST_F(CustomReportsTest, APageIsBareWhateverTheSettings) {
-    test_.settings.Write("V1Reports", "1");
-    test_.settings.Write("ReportAlign", "L");
-    test_.Execute("INSERT INTO tblextensions(ExtensionNo, Name) VALUES ('201', 'Ann')");
-    test_.InsertCall({{"Duration", ""}, {"Internal", "1"}, {"Trunk", "T01"}});
-    CustomReport report = Showing({CustomField::ExtensionName, CustomField::Duration, CustomField::OrigNum,
-                                   CustomField::Internal, CustomField::Trunk});
-    ASSERT_EQ(Run(report), RunOutcome::Complete);
-    const std::vector<std::string> page = Page();
-    EXPECT_EQ((std::vector(page.begin(), page.begin() + 5)),
-              (std::vector<std::string>{"<HTML>", "<TITLE>Tallix Reports - Mine</TITLE>", "<BODY>",
-                                        R"(<TABLE width="100%" border="0" valign="middle" cellpadding="5">)",
-                                        "<TR>"}));
-    EXPECT_THAT(
-        (std::vector(page.end() - 10, page.end())),
-        ElementsAre("<TH>Name:</TH><TH>Duration:</TH><TH>Originator:</TH><TH>Internal:</TH><TH>Trunk:</TH>",
-                    R"(<TR align="center">)",
-                    "<TD>Ann</TD><TD>&nbsp;</TD><TD>201</TD><TD>Yes</TD><TD>Yes</TD>", "</TABLE>", "<BR>",
-                    "<B>Total Number Of Records: 1</B>", "", "</FONT>", "</BODY>", "</HTML>"));
-
-    report.destination = Destination::InExternalApplication;
-    ASSERT_EQ(Run(report), RunOutcome::Complete);
-    EXPECT_THAT(Page(), ElementsAre("Tallix Reports - Mine", HasSubstr("Generated On:09/03/2021 At "),
-                                    "Created By Tallix Reports V1.4.6", "",
-                                    "Name:,Duration:,Originator:,Internal:,Trunk:,",
-                                    "Ann,&nbsp;,201,Yes,Yes,", "", "Total Number Of Records: 1"));
-}
 
 TEST_F(CustomReportsTest, AFilterAppliesWhereItsFieldIsShown) {
     for (const char* day : {"01", "02", "03"}) {

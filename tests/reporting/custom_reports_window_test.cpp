@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QCalendarWidget>
 #include <QLabel>
 
 #include "foundation/form_names.h"
@@ -44,6 +45,20 @@ protected:
         return *Labelled<QListWidget>("Select data you wish to show").item(place);
     }
 
+    // The button comes to life with its box, and the day brings the box back.
+    void PickAsEndDate(const QDate& day) {
+        auto& box = Captioned<QCheckBox>("End Date");
+        auto& field = dynamic_cast<QLineEdit&>(*box.nextInFocusChain());
+        auto& button = dynamic_cast<QPushButton&>(*field.nextInFocusChain());
+        EXPECT_TRUE(button.isEnabled());
+        button.click();
+        box.setChecked(false);
+        auto& panel = *forms.Find(kCustomReportsForm)->findChild<ui::CalendarPanel*>();
+        emit panel.findChild<QCalendarWidget*>()->clicked(day);
+        EXPECT_EQ(field.text().toStdString(), ShortDate({day.year(), day.month(), day.day()}));
+        EXPECT_TRUE(box.isChecked());
+    }
+
     test::TestApplication test_;
     ui::Printers printers_;
 };
@@ -58,6 +73,7 @@ TEST_F(CustomReportsWindowTest, AReportIsMadeKeptAndRun) {
     Labelled<QLineEdit>("Extension:").setText("201");
     Labelled<QLineEdit>("Report Name:").setText("Mine");
     Captioned<QCheckBox>("End Date").setChecked(true);
+    PickAsEndDate(QDate(2099, 1, 2));
     Captioned<QPushButton>("Save Report").click();
     EXPECT_EQ(test_.prompts.messages.at(0).text, "Report Saved!");
     EXPECT_EQ(Labelled<QListWidget>("Available Reports").count(), 1) << "not listed anew";

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "foundation/code_page.h"
+#include "reporting/custom_reports.h"
 #include "reporting/report_run.h"
 #include "support/test_application.h"
 
@@ -70,6 +71,40 @@ TEST_F(PageTest, HasOneOfThreeShapes) {
         Run({.site = "ALL"}, c.commaText);
         EXPECT_EQ(ReadBytes(PageFile(test.application)), Golden(c.golden, test.application.folder))
             << c.golden << " with V1Reports " << c.v1Reports;
+    }
+}
+
+// One report with every field and every filter. Calls name extensions by number: "0201 " is
+// 201, and a word is nobody's number.
+TEST_F(PageTest, OfACustomReportIsBareWhateverTheSettings) {
+    test.Execute(
+        "INSERT INTO tblsite(ID, Name, Addy1, Addy2, Addy3, Postcode) VALUES ('001', 'Head Office', '1 High "
+        "Street', '', '', 'NT1 1AA')");
+    test.Insert("tblextensions", {{"ExtensionNo", "201"}, {"Name", "Zoë Lee"}});
+    test.settings.Write("V1Reports", "1");
+    test.settings.Write("ReportAlign", "L");
+    test.InsertCall();
+    TestApplication::Row second = {{"Extension", "0201 "}, {"Date", "06/03/2021"}, {"Duration", "00:04:00"}};
+    for (const char* column : {"Time", "NumRings", "OrigNum", "DestNum"}) second[column] = "";
+    for (const char* column : {"Internal", "Speedcall", "Forward"}) second[column] = "1";
+    second["Trunk"] = "0";
+    test.InsertCall(second);
+    test.InsertCall({{"Extension", "Front"}});
+    test.InsertCall({{"Extension", "T001"}});
+    test.InsertCall({{"Date", "04/03/2021"}});
+    test.InsertCall({{"Duration", "00:01:00"}});
+    test.InsertCall({{"Account", "8"}});
+    CustomReport report = {.account = "7",
+                           .duration = "00:02:00",
+                           .greater = true,
+                           .startDate = "04/03/2021",
+                           .endDate = "07/03/2021"};
+    report.shown.fill(true);
+    for (const auto& [destination, golden] : {std::pair(Destination::OnScreen, "custom.html"),
+                                              {Destination::InExternalApplication, "custom.csv"}}) {
+        report.destination = destination;
+        ReportRun(test.application, flags, progress).Make(DescribeCustomRun("Golden", report));
+        EXPECT_EQ(ReadBytes(PageFile(test.application)), Golden(golden, test.application.folder));
     }
 }
 
