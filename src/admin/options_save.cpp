@@ -27,9 +27,8 @@ void NoteSave(Application& application, const OptionsOnScreen&) {
     CloseDatabase(application.session);
 }
 
-void EmptyExtensions(Application& application, const OptionsOnScreen& screen) {
+void EmptyExtensions(Application& application, const OptionsOnScreen&) {
     OpenDatabase(application.session);
-    if (!screen.storeExtensions) return;
     OpenConnection(application.session).Execute("DELETE FROM tblextensions");
 }
 
@@ -50,7 +49,7 @@ void WriteGeneralSettings(Application& application, const OptionsOnScreen& scree
 }
 
 void FillExtensions(Application& application, const OptionsOnScreen& screen) {
-    if (screen.storeExtensions) screen.storeExtensions(application.session);
+    StoreExtensions(application.session, screen.extensions);
     CloseDatabase(application.session);
 }
 

@@ -6,6 +6,7 @@
 #include <array>
 #include <vector>
 
+#include "admin/extensions.h"
 #include "admin/options_settings.h"
 
 namespace tallix {
@@ -13,8 +14,8 @@ namespace tallix {
 /// What is on the screen when the window is saved.
 struct OptionsOnScreen {
     OptionsValues values;
-    std::function<void(Session&)> storeExtensions{};  ///< adds them over the open connection
-    bool automaticBackup = true;                      ///< whether the backup task is made or removed
+    std::vector<Extension> extensions{};
+    bool automaticBackup = true;  ///< whether the backup task is made or removed
 };
 
 using SaveStep = void (*)(Application& application, const OptionsOnScreen& screen);

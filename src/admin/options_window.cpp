@@ -5,7 +5,9 @@
 #include <QVBoxLayout>
 #include <type_traits>
 
+#include "admin/address_book_page.h"
 #include "admin/email_page.h"
+#include "admin/extension_groups_page.h"
 #include "admin/folders_page.h"
 #include "admin/language_page.h"
 #include "admin/network_page.h"
@@ -84,6 +86,9 @@ QLayout* OptionsWindow::ButtonRow() {
 void OptionsWindow::MakePages() {
     AddGroup("Organisation");
     auto* sites = AddPage<SiteSummaryPage>("Sites");
+    extensions_ = AddPage<ExtensionsPage>("Extensions");
+    auto* groups = AddPage<ExtensionGroupsPage>("Extension Groups");
+    auto* addresses = AddPage<AddressBookPage>("Address Book");
     AddGroup("Call collection");
     AddPage<SerialPage>("Serial Port");
     AddPage<NetworkPage>("Network");
@@ -95,7 +100,7 @@ void OptionsWindow::MakePages() {
     AddPage<LanguagePage>("Language and Currency");
     AddPage<EmailPage>("Email");
     tools_ = AddPage<ToolsPage>("Tools");
-    lists_ = {sites};
+    lists_ = {sites, extensions_, groups, addresses};
     connect(sites, &SiteSummaryPage::WindowWanted, this, &OptionsWindow::Open);
     connect(tools_, &ToolsPage::WindowWanted, this, &OptionsWindow::Open);
 }
@@ -175,17 +180,24 @@ void OptionsWindow::Open(const QString& form) {
 OptionsOnScreen OptionsWindow::OnScreen() const {
     OptionsOnScreen screen;
     for (const SettingsPage* page : settings_) page->TakeValues(screen.values);
+    screen.extensions = extensions_->Extensions();
     screen.automaticBackup = tools_->AutomaticBackup();
     return screen;
 }
 
 void OptionsWindow::SaveAndExit() {
     SaveOptions(application_, OnScreen());
+    extensions_->ClearChanged();
     Unload();
 }
 
 bool OptionsWindow::MayBeLeft() {
-    return true;
+    if (!extensions_->Changed()) return true;
+    const Answer answer = application_.prompts.Show(
+        {"Settings Changed",
+         "Any changes that you have made will be discarded. Are you sure you want to exit?",
+         MessageIcon::Question, MessageButtons::YesNo});
+    return answer == Answer::Yes;
 }
 
 void OptionsWindow::closeEvent(QCloseEvent* event) {

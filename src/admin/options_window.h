@@ -9,6 +9,7 @@
 #include <QStackedWidget>
 #include <vector>
 
+#include "admin/extensions_page.h"
 #include "admin/options_page.h"
 #include "admin/options_save.h"
 #include "admin/settings_page.h"
@@ -55,6 +56,7 @@ private:
     QPushButton* exit_;
     std::vector<OptionsPage*> lists_;      ///< in the order of their loading
     std::vector<SettingsPage*> settings_;  ///< likewise, behind the lists
+    ExtensionsPage* extensions_ = nullptr;
     ToolsPage* tools_ = nullptr;
 };
 

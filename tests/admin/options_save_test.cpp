@@ -18,9 +18,7 @@ protected:
     OptionsSaveTest() {
         std::filesystem::create_directories(Collector());
         world.Insert("tblextensions", {{"ExtensionNo", "201"}});
-        screen.storeExtensions = [](Session& session) {
-            OpenConnection(session).Execute("INSERT INTO tblextensions(ExtensionNo) VALUES('305')");
-        };
+        screen.extensions = {{"305", "Bob"}};
         screen.values = LoadOptions(world.application);
         for (auto& [key, value] : screen.values) {
             const bool isFile = key.ends_with(".dat");
