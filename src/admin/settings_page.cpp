@@ -126,7 +126,7 @@ QWidget& SettingsPage::AddSetting(QFormLayout& panel, std::string_view key, QWid
     QWidget* control = MakeControl(setting);
     controls_[setting.key] = control;
     control->setObjectName(Text(setting.key));
-    control->setAccessibleName(Text(setting.label));  // a list would be read by its choice alone
+    control->setAccessibleName(Text(setting.label));  // also where a button shares its row
     QWidget* row = behind == nullptr ? control : SideBySide(control, behind);
     if (setting.kind == SettingKind::Switch) {
         panel.addRow(row);

@@ -126,6 +126,23 @@ TEST_F(OptionsWindowTest, SavesWhatIsOnTheScreenAndLeaves) {
     EXPECT_EQ(world.crontab.Text(), "");
 }
 
+TEST_F(OptionsWindowTest, AsksBeforeExtensionsOutOfTheCallsAreDiscardedAndSavesThem) {
+    world.InsertCall({{"Extension", "305"}});
+    world.prompts.answers = {Answer::Yes, Answer::No, Answer::Yes};
+    Click("Get From Data");
+    Window().close();
+    EXPECT_EQ(LastMessage(),
+              "Any changes that you have made will be discarded. Are you sure you want to exit?");
+    EXPECT_TRUE(Window().isVisible());
+    Click("Exit Without Saving");
+    EXPECT_EQ(forms.Find(kOptionsForm), nullptr);
+    world.prompts.answers = {Answer::Yes};
+    Click("Get From Data");
+    Click("Save and Exit");
+    EXPECT_EQ(forms.Find(kOptionsForm), nullptr);
+    EXPECT_THAT(LoadExtensions(world.application.session), ElementsAre(Extension{"305", ""}));
+}
+
 TEST_F(OptionsWindowTest, TellsOfLostCallsAndDebugLoggingByMouseAndByKey) {
     world.settings.Write("LostCalls", "1");
     auto& lost = Captioned<QCheckBox>("Include 'lost' calls in call records");
