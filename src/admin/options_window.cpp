@@ -54,6 +54,9 @@ OptionsWindow::OptionsWindow(ui::Forms& forms, Application& application)
     rows->setContentsMargins(ui::kMargin, ui::kMargin, ui::kMargin, ui::kMargin);
     rows->setSpacing(2 * ui::kSpacing);
     rows->addLayout(columns, 1);
+    auto* line = new QFrame;
+    line->setFrameStyle(QFrame::HLine | QFrame::Sunken);  // the pages have buttons of their own above it
+    rows->addWidget(line);
     rows->addLayout(ButtonRow());
     connect(entries_, &QListWidget::currentItemChanged, this, &OptionsWindow::ShowPage);
     new ui::DialogKeys(*this, nullptr, exit_);
