@@ -1,6 +1,5 @@
 #include "platform/shell_command.h"
 
-#include <fcntl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -11,6 +10,7 @@
 #include <optional>
 #include <sstream>
 
+#include "platform/become_program.h"
 #include "platform/paths.h"
 
 namespace tallix {
@@ -19,7 +19,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::string_view kEnding = ".exe";
-constexpr int kFirstOwnDescriptor = 3;
 
 using Arguments = std::vector<std::string>;
 
@@ -140,15 +139,6 @@ Arguments ProgramFor(const fs::path& program) {
     if (name == "notepad.exe") return TextEditor();
     if (name == "scalc.exe" || name == "excel.exe") return Spreadsheet(program.parent_path());
     return SameName(program);
-}
-
-/// Runs in the new process, where only system calls are safe.
-[[noreturn]] void BecomeProgram(char* const* arguments) {
-    const int null = open("/dev/null", O_RDWR);
-    for (int standard = 0; null >= 0 && standard < kFirstOwnDescriptor; ++standard) dup2(null, standard);
-    close_range(kFirstOwnDescriptor, ~0U, 0);
-    execv(arguments[0], arguments);
-    _exit(EXIT_FAILURE);
 }
 
 /// The child of a child that has ended belongs to nobody, so that nobody has to wait

@@ -4,6 +4,8 @@
 #include "costing/call_cost_map_window.h"
 #include "costing/call_costings_window.h"
 #include "custody/archive_window.h"
+#include "admin/mappings_window.h"
+#include "admin/sites_window.h"
 #include "foundation/form_names.h"
 #include "reporting/cover_backing_window.h"
 #include "reporting/custom_reports_window.h"
@@ -36,6 +38,8 @@ void RegisterWindows(ui::Forms& forms, Application& application, ReportFlags& fl
     Register<AboutWindow>(forms, kAboutForm, application);
     Register<SettingsRequiredWindow>(forms, kSettingsRequiredForm, application);
     Register<OptionsWindow>(forms, kOptionsForm, application);
+    Register<SitesWindow>(forms, kSitesForm, application);
+    Register<MappingsWindow>(forms, kMappingsForm, application);
     Register<AccessLoggingWindow>(forms, kAccessLoggingForm, application);
     Register<PresetReportsWindow>(forms, kPresetReportsForm, application, flags, printers);
     Register<CallCostingsWindow>(forms, kCallCostingsForm, application);

@@ -61,7 +61,8 @@ void EntryPanel::Open(const QString& title) {
 QList<QWidget*> EntryPanel::FocusChain() const {
     QList<QWidget*> chain;
     for (QWidget* next = nextInFocusChain(); next != this; next = next->nextInFocusChain()) {
-        const bool takesTab = (next->focusPolicy() & Qt::TabFocus) != 0;
+        // The inner field of a list that can be typed in hands the focus back to the list.
+        const bool takesTab = (next->focusPolicy() & Qt::TabFocus) != 0 && next->focusProxy() == nullptr;
         if (isAncestorOf(next) && takesTab && next->isEnabled() && next->isVisible()) chain.append(next);
     }
     return chain;
