@@ -1,11 +1,11 @@
 #include "shell/windows.h"
 
+#include "admin/mappings_window.h"
 #include "admin/options_window.h"
+#include "admin/sites_window.h"
 #include "costing/call_cost_map_window.h"
 #include "costing/call_costings_window.h"
 #include "custody/archive_window.h"
-#include "admin/mappings_window.h"
-#include "admin/sites_window.h"
 #include "foundation/form_names.h"
 #include "reporting/cover_backing_window.h"
 #include "reporting/custom_reports_window.h"

@@ -1,8 +1,8 @@
 #include "admin/sites.h"
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
-#include "support/test_application.h"
+#include "support/scripted_prompts.h"
 
 namespace tallix {
 namespace {
@@ -39,23 +39,6 @@ TEST(Sites, SayWhatIsAmissInTheirOrder) {
         for (const Message& message : prompts.messages) titles.push_back(message.title);
         EXPECT_EQ(titles, test.titles) << test.ip;
     }
-}
-
-TEST(Sites, HaveTheCodeOfACustomLayoutUnlessItsNameIsExact) {
-    EXPECT_EQ(SystemCode("Mitel 5000"), "4");
-    for (const char* custom : {"", "mitel 5000", "Reception"}) EXPECT_EQ(SystemCode(custom), "C");
-}
-
-TEST(Sites, StopTheServicesBeforeTheyStartThem) {
-    test::TestApplication test;
-    test.application.folder = test.Folder() / "ReportsTool";
-    for (const auto& [name, word] : {std::pair("Service_Off.bat", "off"), {"Service_On.bat", "on"}}) {
-        const std::filesystem::path file = test.Folder() / "processor" / name;
-        std::filesystem::create_directories(file.parent_path());
-        std::ofstream(file) << "sleep 0.1; echo " << word << " >> said\n";
-    }
-    RestartCollector(test.application);
-    EXPECT_EQ(test::ReadBytes(test.Folder() / "said"), "off\non\n");
 }
 
 }  // namespace

@@ -90,12 +90,13 @@ TEST_F(SitesWindowTest, AsksBeforeItDeletesAndBeforeItLeaves) {
 TEST_F(SitesWindowTest, RestartsTheServicesOnlyWhenAskedTo) {
     world.application.folder = world.Folder() / "ReportsTool";
     std::filesystem::create_directory(world.Folder() / "Processor");
-    std::ofstream(world.Folder() / "Processor/Service_Off.bat") << "echo off >> said\n";
+    std::ofstream(world.Folder() / "Processor/Service_Off.bat") << "sleep 0.1; echo off >> said\n";
+    std::ofstream(world.Folder() / "Processor/service_on.bat") << "echo on >> said\n";
     for (const Answer answer : {Answer::No, Answer::Yes}) {
         forms.Show(kSitesForm);
         world.prompts.answers = {answer};
         Button("Save and Exit").click();
-        EXPECT_EQ(test::ReadBytes(world.Folder() / "said"), answer == Answer::Yes ? "off\n" : "");
+        EXPECT_EQ(test::ReadBytes(world.Folder() / "said"), answer == Answer::Yes ? "off\non\n" : "");
         EXPECT_EQ(world.prompts.messages.back().text, "Site Settings saved!");
         EXPECT_EQ(ReadAccessLog(world.application.session).back().back(), "Site Settings Saved");
     }
