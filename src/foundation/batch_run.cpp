@@ -27,8 +27,8 @@ void RunBatch(Application& application, std::string_view fileName, std::string_v
     const std::filesystem::path lockFile = Beside(file, ".run");
     {
         const FileLock lock(lockFile);
-        const std::string text = std::string(line) + "\r\n";
-        if (!lock.IsHeld() || !RewriteWholeFile(file, kMode, [&](const auto&) { return text; })) return;
+        const auto text = [&](const std::string&) { return std::string(line) + "\r\n"; };
+        if (!lock.IsHeld() || !RewriteWholeFile(file, kMode, text)) return;
         RunBatchFile(file, {application.folder, WeekdayOf(application.clock.Now())});
     }
     application.events.Serve();

@@ -8,6 +8,8 @@ namespace tallix {
 namespace {
 
 constexpr int kFirstYearOfTm = 1900;
+constexpr int kMinutesOfAnHour = 60;
+constexpr int kMinutesOfADay = 24 * kMinutesOfAnHour;
 
 }  // namespace
 
@@ -25,6 +27,16 @@ DateTime SystemClock::Now() const {
 
 std::string HoursAndMinutes(const DateTime& moment) {
     return fmt::format("{:02}:{:02}", moment.hour, moment.minute);
+}
+
+std::vector<std::string> MinutesOfTheDay() {
+    std::vector<std::string> times;
+    times.reserve(kMinutesOfADay);
+    for (int minute = 0; minute < kMinutesOfADay; ++minute) {
+        times.push_back(
+            HoursAndMinutes({.hour = minute / kMinutesOfAnHour, .minute = minute % kMinutesOfAnHour}));
+    }
+    return times;
 }
 
 }  // namespace tallix

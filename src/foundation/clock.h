@@ -1,6 +1,9 @@
 // The time of day, behind an interface so that tests can set it.
 #pragma once
 
+#include <string>
+#include <vector>
+
 #include "foundation/text_conversion.h"
 
 namespace tallix {
@@ -20,5 +23,8 @@ public:
 
 /// hh:mm, the form in which pages and the access log show the time.
 std::string HoursAndMinutes(const DateTime& moment);
+
+/// Every minute of the day in that form, "00:00" to "23:59".
+std::vector<std::string> MinutesOfTheDay();
 
 }  // namespace tallix

@@ -64,6 +64,7 @@ ChildResult RunChild(const std::vector<std::string>& command, std::string_view i
     redirections.Add(STDERR_FILENO, error);
     std::vector<std::string> words = command;
     std::vector<char*> pointers;
+    pointers.reserve(words.size() + 1);
     for (std::string& word : words) pointers.push_back(word.data());
     pointers.push_back(nullptr);
     pid_t child = 0;

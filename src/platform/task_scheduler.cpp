@@ -29,10 +29,6 @@ bool IsOneLine(std::string_view text) {
     return std::none_of(text.begin(), text.end(), IsControl);
 }
 
-bool IsTaskName(std::string_view name) {
-    return !name.empty() && IsOneLine(name) && name.find_first_of("/\\") == std::string_view::npos;
-}
-
 /// A word that the shell reads as it is written. Cron, which reads the entry first, takes
 /// an unescaped percent sign for a line break.
 std::string Quoted(std::string_view word) {
@@ -116,6 +112,10 @@ bool ChangeCrontab(const std::function<std::string(std::string_view)>& change) t
 }
 
 }  // namespace
+
+bool IsTaskName(std::string_view name) {
+    return !name.empty() && IsOneLine(name) && name.find_first_of("/\\") == std::string_view::npos;
+}
 
 bool CreateTask(const Task& task) {
     const std::string command = CommandOf(task);

@@ -17,7 +17,7 @@ namespace tallix {
 enum class TaskFrequency { Hourly, Daily, Weekly, Monthly };
 
 struct Task {
-    std::string name{};  ///< tells it apart from all others; not empty, no path, one line
+    std::string name{};  ///< tells it apart from all others; IsTaskName
     TaskFrequency frequency = TaskFrequency::Daily;
     int hour = 0;  ///< in local time; hourly tasks run at the minute alone
     int minute = 0;
@@ -25,6 +25,9 @@ struct Task {
     std::vector<std::string> environment{};  ///< "NAME=value"
     std::vector<std::string> command{};      ///< kProgramName with its folder, and its arguments
 };
+
+/// Whether a text can name a task: not empty, one line, no "/" and no "\".
+bool IsTaskName(std::string_view name);
 
 /// Adds the task; one of the same name gives way to it. Returns false, with everything as
 /// it was, when the scheduler cannot take it: a bad name, a line break, or a command that

@@ -1,10 +1,9 @@
 #include "reporting/catalogue.h"
 
 #include <algorithm>
-#include <system_error>
-#include <utility>
 
 #include "foundation/attempt.h"
+#include "foundation/file_list.h"
 #include "foundation/text_conversion.h"
 
 namespace tallix {
@@ -64,19 +63,9 @@ std::filesystem::path PresetReportFile(const std::filesystem::path& applicationF
 }
 
 std::vector<std::string> ListReports(const std::filesystem::path& folder) {
-    std::vector<std::string> fileNames;
-    std::error_code error;
-    for (auto entry = std::filesystem::directory_iterator(folder, error);
-         !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
-        std::string name = entry->path().filename().string();
-        const bool isReport = EqualNoCase(Right(name, kReportExtension.size()), kReportExtension);
-        if (isReport && entry->is_regular_file(error)) fileNames.push_back(std::move(name));
-    }
-    std::sort(fileNames.begin(), fileNames.end(), [](const std::string& left, const std::string& right) {
-        return LowerCase(left) < LowerCase(right);
-    });
-    std::transform(fileNames.begin(), fileNames.end(), fileNames.begin(), ReportNameOf);
-    return fileNames;
+    std::vector<std::string> names = ListFileNames(folder, kReportExtension);
+    std::transform(names.begin(), names.end(), names.begin(), ReportNameOf);
+    return names;
 }
 
 std::string ReportNameOf(std::string_view fileName) {

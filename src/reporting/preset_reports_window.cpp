@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "foundation/access_rights.h"
+#include "ui/choice_lists.h"
 #include "ui/dialog_keys.h"
 #include "ui/style.h"
 
@@ -13,19 +14,6 @@ namespace {
 
 constexpr int kListWidth = 34 * ui::kGrid;
 constexpr int kFieldWidth = 20 * ui::kGrid;
-constexpr int kShownTimes = 12;
-
-// Holds every minute of the day, and nothing until a person chooses or types one.
-QComboBox* TimeList() {
-    auto* list = new QComboBox;
-    list->setEditable(true);
-    list->setInsertPolicy(QComboBox::NoInsert);
-    list->setMaxVisibleItems(kShownTimes);
-    list->addItems(Texts(MinutesOfTheDay()));
-    list->setCurrentIndex(-1);
-    list->setFixedWidth(kFieldWidth);
-    return list;
-}
 
 }  // namespace
 
@@ -35,8 +23,8 @@ PresetReportsWindow::PresetReportsWindow(ui::Forms& forms, Application& applicat
       flags_(flags),
       reports_(new QListView),
       reportNames_(new QStringListModel(this)),
-      timeFrom_(TimeList()),
-      timeTo_(TimeList()),
+      timeFrom_(ui::MakeTimeList()),
+      timeTo_(ui::MakeTimeList()),
       extension_(new QLineEdit),
       account_(new QLineEdit),
       site_(new QComboBox),

@@ -15,7 +15,6 @@ namespace tallix {
 
 namespace {
 
-constexpr int kMinutesOfADay = 24 * 60;
 constexpr std::string_view kMessageTitle = "Tallix Reports";
 constexpr std::string_view kNoData =
     "The report does not contain any data.\nIf you have recently installed Tallix, please wait 24 hours "
@@ -63,15 +62,6 @@ PresetChoices ReadPresetChoices(Application& application) {
     choices.groups = BehindAll(ReadColumn(application.session, "tblgroupnames", "Name"));
     CloseDatabase(application.session);
     return choices;
-}
-
-std::vector<std::string> MinutesOfTheDay() {
-    std::vector<std::string> times;
-    times.reserve(kMinutesOfADay);
-    for (int minute = 0; minute < kMinutesOfADay; ++minute) {
-        times.push_back(fmt::format("{:02}:{:02}", minute / 60, minute % 60));
-    }
-    return times;
 }
 
 EnabledInputs::EnabledInputs(const std::filesystem::path& reportFile) {

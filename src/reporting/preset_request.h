@@ -24,9 +24,6 @@ struct PresetChoices {
 /// Reads the lists over a connection of its own. Throws DatabaseError.
 PresetChoices ReadPresetChoices(Application& application);
 
-/// Every minute of the day, "00:00" to "23:59".
-std::vector<std::string> MinutesOfTheDay();
-
 /// The inputs of the window, by the keys of section "Options" that enable them.
 enum class Input { Date, Duration, Extension, Account, Site, Group, Time };
 inline constexpr std::size_t kInputs = 7;

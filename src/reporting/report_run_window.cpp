@@ -14,12 +14,6 @@
 
 namespace tallix {
 
-QStringList Texts(const std::vector<std::string>& list) {
-    QStringList texts;
-    for (const std::string& text : list) texts << QString::fromStdString(text);
-    return texts;
-}
-
 std::string TextOf(const QComboBox& list) {
     return list.currentText().toStdString();
 }

@@ -11,6 +11,7 @@
 #include "reporting/catalogue.h"
 #include "reporting/destinations.h"
 #include "reporting/run_description.h"
+#include "ui/choice_lists.h"
 #include "ui/form.h"
 #include "ui/printers.h"
 #include "ui/progress_panel.h"
@@ -81,8 +82,7 @@ private:
     bool running_ = false;
 };
 
-/// Lists and texts between the engine and the toolkit.
-QStringList Texts(const std::vector<std::string>& list);
+using ui::Texts;
 std::string TextOf(const QComboBox& list);
 std::string TextOf(const QLineEdit& field);
 

@@ -11,6 +11,7 @@
 #include "reporting/custom_reports_window.h"
 #include "reporting/preset_reports_window.h"
 #include "reporting/report_output_window.h"
+#include "scheduling/scheduled_reports_window.h"
 #include "shell/about_window.h"
 #include "shell/access_logging_window.h"
 #include "shell/login_window.h"
@@ -45,6 +46,7 @@ void RegisterWindows(ui::Forms& forms, Application& application, ReportFlags& fl
     Register<CallCostingsWindow>(forms, kCallCostingsForm, application);
     Register<CallCostMapWindow>(forms, kCallCostMapForm, application);
     Register<CustomReportsWindow>(forms, kCustomReportsForm, application, printers);
+    Register<ScheduledReportsWindow>(forms, kSchedulesForm, application);
     Register<CoverBackingWindow>(forms, kCoverPagesForm, application);
     Register<ArchiveWindow>(forms, kArchiveForm, application);
     Register<ReportOutputWindow>(forms, kReportOutputForm, application, printers);

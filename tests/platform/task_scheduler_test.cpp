@@ -1,5 +1,6 @@
 #include "platform/task_scheduler.h"
 
+#include <fmt/format.h>
 #include <gmock/gmock.h>
 
 #include <thread>
@@ -54,6 +55,7 @@ TEST(TaskSchedulerTest, RefusesWhatWouldBreakTheCrontabOrBeCutOff) {
 TEST(TaskSchedulerTest, ChangesAtOnceAreAllKept) {
     const test::TestCrontab crontab;
     std::vector<std::thread> others;
+    others.reserve(8);
     for (int i = 0; i < 8; ++i)
         others.emplace_back([i] { CreateTask(Named("Tallix_" + std::to_string(i))); });
     for (std::thread& other : others) other.join();
@@ -83,16 +85,16 @@ TEST(BatchFileTest, DrivesTheSchedulerByTheWordsOfItsLines) {
     const std::pair<const char*, const char*> frequencies[] = {
         {"Hourly", "1 * * * *"}, {"Daily", "1 0 * * *"}, {"weekly", "1 0 * * 2"}, {"Monthly", "1 0 1 * *"}};
     for (const auto& [word, fields] : frequencies) {
-        EXPECT_EQ(run(create + "/SC " + word + command),
+        EXPECT_EQ(run(fmt::format("{}/SC {}{}", create, word, command)),
                   std::string("# Tallix_50% 'x'\n") + fields + " /usr/bin/env TALLIX_REGISTRY=" +
                       R"('/etc/it'\''s 5''\%' )" + program + R"( '/r/50''\% '\''x'\''.SSR')" + "\n");
     }
     unsetenv("TALLIX_REGISTRY");
     const std::string before = crontab.Text();
     for (const std::string& refused :
-         {create + "/SC Yearly" + command, create + "/SC Daily /TR \"\\\"C:\\evil.exe\\\"\"",
-          create + "/SC Daily" + command + command, create + "/SC Daily /TR", std::string("echo /Create"),
-          std::string("SCHTASKS /Delete /TN \"Tallix_50\"")}) {
+         {fmt::format("{}/SC Yearly{}", create, command), create + "/SC Daily /TR \"\\\"C:\\evil.exe\\\"\"",
+          fmt::format("{0}/SC Daily{1}{1}", create, command), create + "/SC Daily /TR",
+          std::string("echo /Create"), std::string("SCHTASKS /Delete /TN \"Tallix_50\"")}) {
         EXPECT_EQ(run(refused), before) << refused;
     }
     EXPECT_EQ(run("SCHTASKS /Delete /TN \"Tallix_50% 'x'\""), "");
