@@ -6,6 +6,7 @@
 
 #include "foundation/attempt.h"
 #include "foundation/text_conversion.h"
+#include "platform/file_lock.h"
 #include "platform/move_file.h"
 #include "platform/paths.h"
 #include "reporting/report_run.h"
@@ -74,6 +75,7 @@ void DeliverByMail(const Application& application, const std::string& recipient)
 }  // namespace
 
 void RunScheduledReport(Application& application, ReportFlags& flags, const ScheduledReport& schedule) {
+    const FileLock turn(Beside(PageFile(application), ".turn"));
     application.session.CurrentUser = kUserOfSchedules;
     NoProgress nobody;
     ReportRun run(application, flags, nobody);

@@ -9,7 +9,8 @@
 namespace tallix {
 
 /// Makes the report and delivers it. A target file that exists is left as it is and the
-/// result stays behind in the working files, where the next run removes it.
+/// result stays behind in the working files, where the next run removes it. Schedules
+/// start at the same minute and share the working files: each waits for its turn.
 void RunScheduledReport(Application& application, ReportFlags& flags, const ScheduledReport& schedule);
 
 }  // namespace tallix
