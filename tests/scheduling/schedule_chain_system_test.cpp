@@ -1,0 +1,163 @@
+// The whole way of a schedule: saved as the window saves it, kept in the user's real
+// crontab, fired by the real cron, run by the built program with no display, delivered to
+// a folder and to a mail server. The user's crontab is back in place afterwards.
+#include <gmock/gmock.h>
+#include <sys/prctl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <cstdio>
+#include <iostream>
+#include <regex>
+#include <thread>
+
+#include "custody/backup_task.h"
+#include "platform/child_process.h"
+#include "scheduling/schedules.h"
+#include "support/fixed_clock.h"
+#include "support/scripted_prompts.h"
+#include "support/smtp_server.h"
+#include "tools/setup_installation.h"
+
+namespace tallix {
+namespace {
+
+using namespace std::chrono_literals;
+using std::chrono::system_clock;
+using ::testing::HasSubstr;
+
+constexpr const char* kForeign = "# somebody's own\r\nX=100%\n#\n";
+
+/// Puts the user's crontab back when this process ends, even if it is killed: a shell
+/// waits for the end of its input.
+class CrontabKeeper {
+public:
+    CrontabKeeper() {
+        const ChildResult before = RunChild({"env", "VISUAL=cat", "crontab", "-e"});
+        const bool isEmpty = RunChild({"crontab", "-l"}).status != 0;
+        saved_.Write("saved", before.out);
+        const std::string restore = isEmpty ? "crontab -r" : "crontab " + (saved_.Path() / "saved").string();
+        guard_ = popen(("trap '' INT TERM HUP; cat; " + restore).c_str(), "we");
+        if (guard_ == nullptr) throw std::runtime_error("nobody keeps the crontab");
+    }
+    ~CrontabKeeper() { pclose(guard_); }
+    CrontabKeeper(const CrontabKeeper&) = delete;
+    CrontabKeeper& operator=(const CrontabKeeper&) = delete;
+
+private:
+    test::TempFolder saved_;
+    FILE* guard_;
+};
+
+/// The machine's cron, or one of this test's own where none runs.
+class Cron {
+public:
+    Cron() {
+        process_ = fork();
+        if (process_ != 0) return;
+        prctl(PR_SET_PDEATHSIG, SIGTERM);
+        execl("/usr/sbin/cron", "cron", "-f", nullptr);
+        _exit(EXIT_FAILURE);
+    }
+    ~Cron() {
+        kill(process_, SIGTERM);
+        waitpid(process_, nullptr, 0);
+    }
+    Cron(const Cron&) = delete;
+    Cron& operator=(const Cron&) = delete;
+
+private:
+    pid_t process_;
+};
+
+class ScheduleChain : public testing::Test, protected test::SetupInstallation {
+protected:
+    void SetUp() override {
+        for (const char* folder : {"Reports/Scheduled", "Company Docs", "out", "temp"}) {
+            std::filesystem::create_directories(Home() / folder);
+        }
+        const std::filesystem::path source =
+            std::filesystem::path(TALLIX_SOURCE_DIR) / "data/Reports/Standard";
+        std::filesystem::create_directory_symlink(source, Home() / "Reports" / "Standard");
+        std::filesystem::create_symlink(TALLIX_REPORTS_PROGRAM, Home() / "Tallix_Reports");
+        ASSERT_EQ(RunSetup({"--demo", "500", "--seed", "3"}).status, 0);
+        for (const auto& [name, value] : Environment()) setenv(name.c_str(), value.c_str(), 1);
+        RunChild({"crontab", "-"}, kForeign);
+    }
+    void TearDown() override {
+        for (const auto& [name, value] : Environment()) unsetenv(name.c_str());
+    }
+
+    std::map<std::string, std::string> Environment() const {
+        return {{"TALLIX_HOME", Home()}, {"TALLIX_REGISTRY", Home() / "settings"}, {"Temp", Home() / "temp"}};
+    }
+
+    void PointMailTo(const test::SmtpServer& server) {
+        settings_.Write("SMTPServer", "127.0.0.1");
+        settings_.Write("SMTPPort", std::to_string(server.Port()));
+        settings_.Write("SMTPAuth", "0");
+        settings_.Write("SMTPEmail", "tallix@example.test");
+    }
+
+    /// Has every task run at the next minute.
+    static void LetAllRunNow() {
+        const std::string text = RunChild({"env", "VISUAL=cat", "crontab", "-e"}).out;
+        RunChild({"crontab", "-"},
+                 std::regex_replace(text, std::regex("\n\\d+ \\d+ \\* \\* \\* "), "\n* * * * * "));
+    }
+
+    std::string Delivered() const {
+        for (const auto& entry : std::filesystem::directory_iterator(Home() / "out")) {
+            return test::ReadBytes(entry.path());
+        }
+        return {};
+    }
+
+    static std::string WithoutMoment(const std::string& report) {
+        return std::regex_replace(report, std::regex("Generated On: [^\r\n]*"), "");
+    }
+
+    CrontabKeeper keeper_;
+    test::ScriptedPrompts prompts_;
+    test::FixedClock clock_;
+    NoEvents events_;
+    SettingsStore settings_{Home() / "settings", Home() / "settings", prompts_};
+    Application application_{Home(), Home() / "temp", {}, settings_, prompts_, clock_, events_};
+};
+
+TEST_F(ScheduleChain, ReachesTheFolderAndTheMailboxWithinItsMinute) {
+    const test::SmtpServer server;
+    PointMailTo(server);
+    const std::string awkward = "It's 50% #1 $(touch injected) `id`;&| <x>";
+    const std::string folder = (Home() / "out").string() + "\\";
+    SaveSchedule(application_, {awkward, "All Calls", "Daily", true, folder, {}}, false);
+    SaveSchedule(application_, {"By mail", "All Calls", "Daily", false, "", {}}, false);
+    CreateBackupTask(application_);
+    LetAllRunNow();
+    const Cron cron;
+    const auto complete = [&] {
+        return !server.Mails().empty() && !Delivered().empty() &&
+               test::ReadBytes(Home() / "Automated_Backup.sbk").find("INSERT INTO tblusers(") !=
+                   std::string::npos;
+    };
+    std::chrono::duration<double> arrived{};
+    for (int i = 0; i < 1500 && !complete(); ++i) {
+        std::this_thread::sleep_for(100ms);
+        const auto sinceMinute = system_clock::now().time_since_epoch() % 60s;
+        if (arrived == 0s && !server.Mails().empty()) arrived = sinceMinute;
+    }
+    for (const char* name : {"By mail", awkward.c_str()}) DeleteSchedule(application_, name);
+    DeleteBackupTask(application_);
+    EXPECT_EQ(RunChild({"env", "VISUAL=cat", "crontab", "-e"}).out, kForeign);
+
+    ASSERT_TRUE(complete());
+    std::cout << "From the minute of the task to the arrived mail: " << arrived.count() << " s" << std::endl;
+    ASSERT_EQ(server.Mails()[0].attachments.size(), 1u);
+    const std::string attached = server.Mails()[0].attachments[0].second;
+    EXPECT_THAT(attached, HasSubstr("Total Number Of Records: 500"));
+    EXPECT_EQ(WithoutMoment(attached), WithoutMoment(Delivered()));
+}
+
+}  // namespace
+}  // namespace tallix
