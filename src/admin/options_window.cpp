@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 #include <type_traits>
 
+#include "admin/accounts_page.h"
 #include "admin/address_book_page.h"
 #include "admin/email_page.h"
 #include "admin/extension_groups_page.h"
@@ -15,6 +16,7 @@
 #include "admin/serial_page.h"
 #include "admin/site_summary_page.h"
 #include "admin/system_page.h"
+#include "admin/user_groups_page.h"
 #include "foundation/access_rights.h"
 #include "ui/dialog_keys.h"
 #include "ui/forms.h"
@@ -92,6 +94,9 @@ void OptionsWindow::MakePages() {
     extensions_ = AddPage<ExtensionsPage>("Extensions");
     auto* groups = AddPage<ExtensionGroupsPage>("Extension Groups");
     auto* addresses = AddPage<AddressBookPage>("Address Book");
+    AddGroup("People");
+    auto* userGroups = AddPage<UserGroupsPage>("User Groups");
+    auto* accounts = AddPage<AccountsPage>("User Accounts");
     AddGroup("Call collection");
     AddPage<SerialPage>("Serial Port");
     AddPage<NetworkPage>("Network");
@@ -103,7 +108,7 @@ void OptionsWindow::MakePages() {
     AddPage<LanguagePage>("Language and Currency");
     AddPage<EmailPage>("Email");
     tools_ = AddPage<ToolsPage>("Tools");
-    lists_ = {sites, extensions_, groups, addresses};
+    lists_ = {sites, extensions_, groups, addresses, userGroups, accounts};
     connect(sites, &SiteSummaryPage::WindowWanted, this, &OptionsWindow::Open);
     connect(tools_, &ToolsPage::WindowWanted, this, &OptionsWindow::Open);
 }

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "foundation/ado/statement.h"
+#include "foundation/errors.h"
 #include "foundation/text_conversion.h"
 
 namespace tallix::ado {
@@ -56,6 +57,7 @@ private:
     std::size_t OrderEnd(std::size_t from) const;
     std::size_t GroupEnd(std::size_t from) const;
 
+    void RefuseSecondStatement() const;
     void DropStarOfDelete();
     void TurnLiteral(std::size_t at);
     void TurnWord(std::size_t at);
@@ -92,6 +94,7 @@ Translation::Translation(std::string_view statement, Server server) : server_(se
 
 std::string Translation::Run() {
     if (IsOneOf(At(0), kDataStatements)) {
+        RefuseSecondStatement();
         DropStarOfDelete();
         for (std::size_t at = 0; at < pieces_.size(); ++at) {
             TurnLiteral(at);
@@ -124,6 +127,14 @@ bool Translation::IsColumnName(std::size_t at) const {
     const std::string name = token.Content();
     const std::vector<Token> inside = Tokenise(name);
     return inside.size() == 1 && inside.front().kind == TokenKind::Word;
+}
+
+// Values go into statements as they are. Some servers would run what stands behind one that
+// broke out of its quotes.
+void Translation::RefuseSecondStatement() const {
+    const auto ends = [](const Piece& piece) { return piece.token.text == ";"; };
+    const auto end = std::find_if(pieces_.begin(), pieces_.end(), ends);
+    if (!std::all_of(end, pieces_.end(), ends)) throw DatabaseError("More than one statement");
 }
 
 void Translation::DropStarOfDelete() {

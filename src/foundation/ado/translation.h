@@ -24,7 +24,8 @@ namespace tallix::ado {
 
 /// The statement as `server` takes it. A literal that is not closed is left as it is,
 /// so that the server refuses it. Statements other than SELECT, INSERT, UPDATE and
-/// DELETE (the schema's) are the server's own and pass unchanged.
+/// DELETE (the schema's) are the server's own and pass unchanged. Throws DatabaseError
+/// where a second statement stands behind the first.
 std::string Translate(std::string_view statement, Server server);
 
 }  // namespace tallix::ado

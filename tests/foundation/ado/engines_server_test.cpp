@@ -172,7 +172,8 @@ TEST_P(EnginesTest, UnderstandsDirectStatements) {
     connection_->Execute("INSERT INTO tblareaproviders(Code, Area) VALUES (\"020\", \"London\")");
     EXPECT_THAT(Read("SELECT * FROM tblareaproviders WHERE Code LIKE \"02%\"", "Provider"),
                 ElementsAre("London"));
-    EXPECT_EQ(connection_->Execute("Delete * from tbllogging"), 1);
+    EXPECT_THROW(connection_->Execute("DELETE FROM tbllogging;; DELETE FROM tblusers"), DatabaseError);
+    EXPECT_EQ(connection_->Execute("Delete * from tbllogging;"), 1);
     EXPECT_EQ(connection_->Execute("Delete * From tblcostmap"), 0);
 }
 

@@ -1,0 +1,62 @@
+// The page "User Accounts" of the Options window.
+#pragma once
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+
+#include "admin/accounts.h"
+#include "admin/list_page.h"
+#include "admin/options_page.h"
+#include "ui/entry_panel.h"
+#include "ui/permission_list.h"
+
+namespace tallix {
+
+class AccountsPage : public OptionsPage {
+    Q_OBJECT
+public:
+    /// `application` must outlive the page.
+    AccountsPage(Application& application, QWidget* parent);
+
+    void Load() override;
+    void ApplyRights(std::string_view access) override;
+    bool IsGranted(std::string_view access) const override;
+
+private:
+    void MakeAccountPanel();
+    void MakeAccessPanel();
+    void EnableButtons();
+    std::string SelectedName() const;
+
+    void OpenAdd();
+    void OpenEdit();
+    void OpenAccount(const char* title, const Account& account);
+    Account Typed() const;
+    void SaveAccount();
+    void Delete();
+    void OpenAccess();
+    void SaveAccess();
+
+    Application& application_;
+    ui::ListView* list_;
+    QPushButton* add_;
+    QPushButton* edit_;
+    QPushButton* delete_;
+    QPushButton* access_;
+
+    ui::EntryPanel* accountPanel_ = nullptr;
+    QLineEdit* userName_;
+    QLineEdit* password_;
+    QLineEdit* email_;
+    QLabel* groupLabel_ = nullptr;
+    QComboBox* group_;
+    ui::PermissionList* permissions_;
+    bool edits_ = false;  ///< whether the panel is for an account that is there
+
+    ui::EntryPanel* accessPanel_ = nullptr;
+    QLabel* accessUser_;
+    ui::PermissionList* accessRights_;
+};
+
+}  // namespace tallix
