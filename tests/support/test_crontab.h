@@ -11,7 +11,8 @@ namespace tallix::test {
 
 class TestCrontab {
 public:
-    TestCrontab() : searchPath_(std::getenv("PATH") == nullptr ? "" : std::getenv("PATH")) {
+    TestCrontab() {
+        if (const char* path = std::getenv("PATH")) searchPath_ = path;
         const std::filesystem::path program = folder_.Write("crontab", R"(#!/bin/sh
 file=$(dirname "$0")/text
 case $1 in
