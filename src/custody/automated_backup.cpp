@@ -6,7 +6,7 @@
 namespace tallix {
 
 void WriteAutomatedBackup(Application& application) {
-    BackupWriter writer(application.folder / kAutomatedBackupName);
+    BackupWriter writer(application.folder / kAutomatedBackupName, application.events);
     OpenDatabase(application.session);
     for (const BackupTable& table : BackupTables()) writer.WriteTable(application.session, table);
     writer.Close();

@@ -28,8 +28,8 @@ void WriteBackup(Application& application, const BackupChannel& channel, const s
                  const std::set<BackupGroup>& groups, BackupProgress& progress) {
     channel.RequireFree();
     progress.ShowOverall(0, groups.size());
-    BackupWriter writer(file);
-    OpenDatabase(application.session);
+    BackupWriter writer(file, application.events);
+    application.events.ServeDuring([&] { OpenDatabase(application.session); });
     const auto showRow = [&](std::int64_t row, std::int64_t rows) { progress.ShowModule(row, rows); };
     std::size_t done = 0;
     for (const BackupTable& table : BackupTables()) {

@@ -79,13 +79,14 @@ std::string BackupTable::LinePrefix() const {
     return fmt::format("INSERT INTO {}({}) VALUES (", name, fmt::join(columns, ","));
 }
 
-BackupWriter::BackupWriter(const std::filesystem::path& file) : path_(file), file_(file) {
+BackupWriter::BackupWriter(const std::filesystem::path& file, EventQueue& events)
+    : path_(file), file_(file), events_(events) {
     RequireComplete();
 }
 
 void BackupWriter::WriteTable(Session& session, const BackupTable& table, const RowProgress& progress) {
     ado::Recordset rows;
-    rows.Open(table.Query(), OpenConnection(session));
+    events_.ServeDuring([&] { rows.Open(table.Query(), OpenConnection(session)); });
     const std::string prefix = table.LinePrefix();
     const std::vector<ado::Column> columns = FindColumns(rows, table);
     const auto cut = std::find(table.columns.begin(), table.columns.end(), table.cutColumn);

@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "foundation/ado/recordset.h"
+#include "foundation/event_queue.h"
 #include "foundation/session.h"
 #include "platform/buffered_file.h"
 
@@ -44,8 +45,9 @@ inline constexpr std::size_t kCutFromRawLines = 3;
 class BackupWriter {
 public:
     /// Replaces the file. Throws std::runtime_error when it cannot be made. A writer that
-    /// goes without Close leaves every line that was complete.
-    explicit BackupWriter(const std::filesystem::path& file);
+    /// goes without Close leaves every line that was complete. `events` are served while
+    /// a table is fetched.
+    BackupWriter(const std::filesystem::path& file, EventQueue& events);
 
     /// Called with the row about to be written, from 1, and the number of rows.
     using RowProgress = std::function<void(std::int64_t row, std::int64_t rows)>;
@@ -65,6 +67,7 @@ private:
 
     std::filesystem::path path_;
     BufferedFile file_;
+    EventQueue& events_;
 };
 
 }  // namespace tallix

@@ -36,7 +36,7 @@ std::optional<BackupGroup> GroupOfLine(std::string_view line) {
 void ReplayBackup(Application& application, const std::filesystem::path& file,
                   const std::set<BackupGroup>& groups, const std::function<void()>& nextLine) {
     Session& session = application.session;
-    Attempt([&] { OpenDatabase(session); });
+    Attempt([&] { application.events.ServeDuring([&] { OpenDatabase(session); }); });
     TextLines lines(file);
     std::string statement;
     while (const std::string* line = lines.Next()) {

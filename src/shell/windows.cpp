@@ -6,6 +6,7 @@
 #include "costing/call_cost_map_window.h"
 #include "costing/call_costings_window.h"
 #include "custody/archive_window.h"
+#include "custody/backup_window.h"
 #include "foundation/form_names.h"
 #include "reporting/cover_backing_window.h"
 #include "reporting/custom_reports_window.h"
@@ -47,6 +48,10 @@ void RegisterWindows(ui::Forms& forms, Application& application, ReportFlags& fl
     Register<CallCostMapWindow>(forms, kCallCostMapForm, application);
     Register<CustomReportsWindow>(forms, kCustomReportsForm, application, printers);
     Register<ScheduledReportsWindow>(forms, kSchedulesForm, application);
+    // Held by no window: what a restore has opened stays open for the rest of the run.
+    forms.Register(kBackupForm, [&forms, &application, channel = std::make_shared<BackupChannel>()] {
+        return std::make_unique<BackupWindow>(forms, application, *channel);
+    });
     Register<CoverBackingWindow>(forms, kCoverPagesForm, application);
     Register<ArchiveWindow>(forms, kArchiveForm, application);
     Register<ReportOutputWindow>(forms, kReportOutputForm, application, printers);

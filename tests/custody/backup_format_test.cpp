@@ -68,8 +68,8 @@ TEST_F(AutomatedBackupTest, StopsAtARawLineThatCannotBeCut) {
 }
 
 TEST_F(AutomatedBackupTest, TellsWhichFileCannotBeWritten) {
-    EXPECT_THROW(BackupWriter(test.Folder() / "no folder" / "x.sbk"), std::runtime_error);
-    BackupWriter full("/dev/full");
+    EXPECT_THROW(BackupWriter(test.Folder() / "no folder" / "x.sbk", test.events), std::runtime_error);
+    BackupWriter full("/dev/full", test.events);
     test.InsertCall();
     OpenDatabase(test.application.session);
     full.WriteTable(test.application.session, BackupTables()[0]);
