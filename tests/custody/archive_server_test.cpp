@@ -1,16 +1,13 @@
 // Calls leave tblphonedata for a file or a table, with the same outcome on every server,
 // and none is lost when the work breaks off.
 #include <gmock/gmock.h>
-#include <signal.h>
-#include <sys/resource.h>
-
-#include <thread>
 
 #include "custody/archive.h"
 #include "foundation/ado/recordset.h"
 #include "foundation/database.h"
 #include "foundation/errors.h"
 #include "foundation/schema.h"
+#include "support/faults.h"
 #include "support/run_program.h"
 #include "support/test_application.h"
 #include "support/test_servers.h"
@@ -117,34 +114,9 @@ TEST_P(Archives, TakeTheYearIntoTheTableWithNullsAndSites) {
 
 INSTANTIATE_TEST_SUITE_P(Engines, Archives, testing::ValuesIn(test::kSessionEngines));
 
-/// A MariaDB of this test's own, which it may stop.
-class OwnServer {
-public:
-    OwnServer() {
-        std::filesystem::permissions(folder_.Path(), std::filesystem::perms(0755));
-        RunProgram("/bin/bash", {kScript, "start", data_});
-        const std::string line = ReadLines(data_ + "/env").at(0);
-        address.DBIP = line.substr(line.find('=') + 1);
-    }
-    ~OwnServer() { RunProgram("/bin/bash", {kScript, "stop", data_}); }
-
-    void Stop() const {
-        const pid_t process = std::stoi(test::ReadBytes(data_ + "/mariadb.pid"));
-        kill(process, SIGTERM);
-        while (kill(process, 0) == 0) std::this_thread::sleep_for(std::chrono::milliseconds(20));
-    }
-
-    test::DatabaseAddress address = {"1", "", "Tallix", "norvadat"};
-
-private:
-    static constexpr const char* kScript = TALLIX_SOURCE_DIR "/scripts/servers.sh";
-    test::TempFolder folder_;
-    std::string data_ = folder_.Path() / "servers";
-};
-
 TEST(BrokenArchive, LosesNoCallWithItsServer) {
     for (const auto destination : {ArchiveDestination::ToDatabase, ArchiveDestination::ToFile}) {
-        OwnServer server;
+        test::OwnServer server;
         test::TestApplication test(server.address);
         OpenDatabase(test.application.session);
         LayDownSchema(OpenConnection(test.application.session), TALLIX_SOURCE_DIR "/data/schema");
@@ -174,14 +146,10 @@ TEST(BrokenArchive, LosesNoCallWithAFullDiskButAllWithoutItsZipFile) {
     view.request = WholeYear("2021", ArchiveDestination::ToFile);
     view.request.target.location = test.Folder() / "absent/out.SAF";
     test.prompts.answers = {Answer::Yes, Answer::Yes};
-    rlimit whole{};
-    getrlimit(RLIMIT_FSIZE, &whole);
-    const rlimit small = {300, whole.rlim_max};
-    const auto before = signal(SIGXFSZ, SIG_IGN);
-    setrlimit(RLIMIT_FSIZE, &small);  // what a full disk is, for this process alone
-    EXPECT_THROW(RunArchive(test.application, view), std::runtime_error);
-    setrlimit(RLIMIT_FSIZE, &whole);
-    signal(SIGXFSZ, before);
+    {
+        const test::FullDisk full(300);
+        EXPECT_THROW(RunArchive(test.application, view), std::runtime_error);
+    }
     EXPECT_THAT(ReadLines(test.application.folder / "archive.tmp"), SizeIs(2 + 3 + 1)) << "the last in part";
     EXPECT_THAT(Stored(test, "tblphonedata"), ElementsAre("4", "5", "6"));
     RunArchive(test.application, view);
