@@ -9,6 +9,8 @@
 #include "costing/cost_computation.h"
 #include "custody/archive.h"
 #include "custody/automated_backup.h"
+#include "custody/backup.h"
+#include "custody/restore.h"
 #include "floors.h"
 #include "foundation/database.h"
 #include "reporting/report_run.h"
@@ -22,6 +24,8 @@ namespace {
 constexpr std::array kArchiveColumns = {"Date",      "Time",    "Duration", "Extension", "NumRings",
                                         "OrigNum",   "DestNum", "Internal", "Error",     "Supervision",
                                         "Speedcall", "Forward", "Trunk",    "Account",   "Site"};
+
+constexpr const char* kBackupName = "calls.sbk";
 
 constexpr const char* kAllCalls = "SELECT * FROM tblphonedata";
 
@@ -51,6 +55,21 @@ const std::string kPlainColumns =
 const std::string kAllColumns = kPlainColumns + "Name=True\nForward=True\nArea=True\n";
 const std::string kWithCost = "Cost=True\n";
 
+/// A window that shows the progress of its work.
+struct ShownWork {
+    ShownWork() {
+        panel.show();
+        window.show();
+    }
+
+    int none = 0;
+    QApplication toolkit{none, nullptr};
+    QWidget window;
+    ui::QtEvents events;
+    ui::ProgressPanel panel{window, "Please Wait", "Your selected report is being generated."};
+    ui::ProgressLine& records = panel.AddLine(events, "Processing Record %1 Of %2");
+};
+
 std::int64_t PlainReport(World& world) {
     NoProgress nobody;
     return RunReport(world, kPlainColumns, "", kUnattendedRules, nobody);
@@ -70,15 +89,8 @@ std::int64_t PresetPage(World& world) {
     world.application.settings.Write("V1Reports", "1");
     world.application.settings.Write("Providers", "2");
     world.application.settings.Write("CostCompute", "1");
-    int none = 0;
-    QApplication toolkit(none, nullptr);
-    QWidget window;
-    ui::QtEvents events;
-    ui::ProgressPanel panel(window, "Please Wait", "Your selected report is being generated.");
-    ui::ProgressLine& records = panel.AddLine(events, "Processing Record %1 Of %2");
-    panel.show();
-    window.show();
-    return RunReport(world, kAllColumns, kWithCost, kPresetRules, records);
+    ShownWork shown;
+    return RunReport(world, kAllColumns, kWithCost, kPresetRules, shown.records);
 }
 
 std::int64_t Costs(World& world) {
@@ -90,6 +102,34 @@ std::int64_t Dump(World& world) {
     WriteAutomatedBackup(world.application);
     return static_cast<std::int64_t>(
         std::filesystem::file_size(world.application.folder / kAutomatedBackupName));
+}
+
+/// The bar of a backup at the screen.
+class ShownBackup : public BackupProgress {
+public:
+    explicit ShownBackup(ui::ProgressLine& rows) : rows_(rows) {}
+    void ShowOverall(std::size_t, std::size_t) override {}
+    void ShowModule(std::int64_t row, std::int64_t rows) override { rows_.Record(row, rows); }
+    void ClearModule() override {}
+
+private:
+    ui::ProgressLine& rows_;
+};
+
+std::int64_t BackUpCalls(World& world) {
+    const std::filesystem::path file = world.application.folder / kBackupName;
+    ShownWork shown;
+    ShownBackup progress(shown.records);
+    WriteBackup(world.application, {}, file, {BackupGroup::ProcessedCalls}, progress);
+    return static_cast<std::int64_t>(std::filesystem::file_size(file));
+}
+
+std::int64_t RestoreCalls(World& world) {
+    ShownWork shown;
+    const auto spin = [&] { shown.records.Record(1, 2); };
+    ReplayBackup(world.application, world.application.folder / kBackupName, {BackupGroup::ProcessedCalls},
+                 spin);
+    return 0;
 }
 
 /// A window of nobody that asks for all calls to be archived.
@@ -147,10 +187,24 @@ void SendCosts(World& world, std::int64_t) {
     }
 }
 
-// Archiving takes the calls away: they come back from a copy of the table.
+// Archiving and restoring leave other calls behind: those that were there come back from a
+// copy of the table.
+constexpr const char* kCopyCalls = "CREATE TABLE IF NOT EXISTS benchcalls AS SELECT * FROM tblphonedata";
+
+void TakeCallsAway(World& world) {
+    const std::unique_ptr<BareClient> client = OpenBareClient(world.Parts());
+    for (const char* statement : {kCopyCalls, "DELETE FROM tblphonedata"}) client->Execute(statement);
+}
+
+void SendBackupLines(World& world, std::int64_t) {
+    const std::unique_ptr<BareClient> client = OpenBareClient(world.Parts());
+    std::ifstream lines(world.application.folder / kBackupName);
+    for (std::string line; std::getline(lines, line);) client->Execute(line);
+}
+
 void BringCallsBack(World& world) {
     const std::unique_ptr<BareClient> client = OpenBareClient(world.Parts());
-    client->Execute("CREATE TABLE IF NOT EXISTS benchcalls AS SELECT * FROM tblphonedata");
+    client->Execute(kCopyCalls);
     for (const char* statement : {"DELETE FROM tblarchive", "DELETE FROM tblphonedata",
                                   "INSERT INTO tblphonedata SELECT * FROM benchcalls"}) {
         client->Execute(statement);
@@ -211,6 +265,8 @@ std::vector<Job> Jobs() {
          {},
          true},
         {"preset page, coloured, all columns, progress shown", 3, PresetPage, FetchBothAndWrite, {}, true},
+        {"backup of the calls, progress shown", 1.5, BackUpCalls, FetchAndWrite},
+        {"restore of the calls, progress shown", 1.3, RestoreCalls, SendBackupLines, TakeCallsAway},
         {"archive to a table", 1.3,
          [](World& world) { return Archive(world, ArchiveDestination::ToDatabase); }, SendArchiveRows,
          BringCallsBack, true},
