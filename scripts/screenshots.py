@@ -17,6 +17,16 @@ STEP_MS = "400"
 SETTLE = 0.4  # seconds, for a window to be drawn when its words are there
 
 
+CUSTODY = {"Archive": "Archive Data", "Backup/Restore": "Backup/Restore"}
+PAGES = ["Sites", "Extensions", "Extension Groups", "Address Book", "User Groups", "User Accounts", "Serial Port",
+         "Network", "Report Design", "Folders", "System Settings", "Language and Currency", "Email", "Tools"]
+# The page, its button, the picture, and the button by which the window is left.
+FROM_OPTIONS = [("Sites", "Configure Sites", "sites", "Exit Without Saving"),
+                ("Tools", "Scheduled Reports", "scheduled_reports", "Exit Schedule Screen"),
+                ("Tools", "Edit Call Costings", "call_costings", "Exit Costings Screen"),
+                ("Tools", "Access Logging", "access_logging", "Exit Logging Screen")]
+
+
 class Camera:
     def __init__(self, folder):
         self.folder = pathlib.Path(folder)
@@ -38,13 +48,18 @@ def first_run(person, camera):
 def start(person, camera):
     person.find("Checking Folder Structure...", Atspi.Role.LABEL)
     camera.take("splash", settle=0)
+    log_in(person, camera)
+    camera.take("main")
+
+
+def log_in(person, camera=None):
     person.find("Tallix Reports Tool - Login")
     person.type("Username:", "Administrator")
     person.type("Password:", "Larkfield7")
-    camera.take("login")
+    if camera:
+        camera.take("login")
     person.press("Login To Reports")
     person.find("Your version of Tallix is up to date!")
-    camera.take("main")
 
 
 def look_at_about(person, camera):
@@ -90,11 +105,60 @@ def choose_covers(person, camera):
     person.press("Save and Exit")
 
 
+def choose_fields(person, camera):
+    person.press("Custom Reports")
+    person.choose("Available Reports", "<Create New Report>")
+    person.type("Extension:", "202")
+    camera.take("custom_reports")
+    person.press("Cancel")
+
+
+def look_at_custody(person, camera):
+    for entry, name in {"Archive": "archive", "Backup/Restore": "backup_restore"}.items():
+        person.press(entry)
+        person.find(f"Tallix Reports Tool - {CUSTODY[entry]}")
+        camera.take(name)
+        person.press("Close")
+
+
+def look_at_options(person, camera):
+    person.press("Options")
+    person.find("Tallix Reports Tool - Options")
+    for page in PAGES:
+        person.choose("Pages", page)
+        camera.take("options_" + page.lower().replace(" ", "_"))
+    for page, button, name, leave in FROM_OPTIONS:
+        person.choose("Pages", page)
+        person.press(button)
+        person.find(leave, Atspi.Role.PUSH_BUTTON)
+        camera.take(name)
+        person.press(leave)
+        if name == "sites":  # asks, changed or not
+            person.press("Yes")
+        person.find("Pages", Atspi.Role.LIST)
+    person.choose("Pages", "Tools")
+    person.press("Edit Custom Mappings")
+    person.find("Save Mapping", Atspi.Role.PUSH_BUTTON)
+    camera.take("custom_mappings")
+    person.press("Importer")
+    person.find("Data Items")
+    camera.take("importer")
+    person.press("Cancel")
+
+
 def session(person, camera):
     start(person, camera)
     look_at_about(person, camera)
     choose_covers(person, camera)
     read_report(person, camera)
+    choose_fields(person, camera)
+    look_at_custody(person, camera)
+    look_at_options(person, camera)
+
+
+def long_run(person, camera):
+    """A session that ends in the middle of a run."""
+    log_in(person)
     watch_run(person, camera)
 
 
@@ -123,6 +187,6 @@ def shows(caption, name):
     return look
 
 
-WALKS = {"first_run": first_run, "session": session, "statistics": statistics,
+WALKS = {"first_run": first_run, "session": session, "long_run": long_run, "statistics": statistics,
          "cost_map": shows("Tallix Reports Tool - Call Cost Mappings", "cost_map")}
 main(WALKS[sys.argv[1]], *sys.argv[2:])

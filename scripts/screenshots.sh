@@ -25,5 +25,6 @@ cd "$work/home"
 "$build/tools/Tallix_Setup" --demo 300000 --admin-password Larkfield7 >/dev/null
 sed -i "s|sqlite:$work/home/|sqlite:|" "$TALLIX_REGISTRY/HKLM.reg" # an address that fits on its line
 /usr/bin/python3 "$driver" session "$pictures" "$build/src/Tallix_Reports"
+/usr/bin/python3 "$driver" long_run "$pictures" "$build/src/Tallix_Reports"
 /usr/bin/python3 "$driver" statistics "$pictures" "$build/tests/show_form" Form18
 /usr/bin/python3 "$driver" cost_map "$pictures" "$build/tests/show_form" Form19
