@@ -6,6 +6,8 @@
 #include <array>
 #include <fstream>
 
+#include "admin/address_book.h"
+#include "admin/extensions.h"
 #include "costing/cost_computation.h"
 #include "custody/archive.h"
 #include "custody/automated_backup.h"
@@ -102,6 +104,39 @@ std::int64_t Dump(World& world) {
     WriteAutomatedBackup(world.application);
     return static_cast<std::int64_t>(
         std::filesystem::file_size(world.application.folder / kAutomatedBackupName));
+}
+
+std::int64_t FindExtensions(World& world) {
+    NoProgress nobody;
+    FindNewExtensions(world.application, {}, nobody);
+    return 0;
+}
+
+// The bytes of the text do not matter: fetching is all that is compared.
+void FetchCalls(World& world, std::int64_t) {
+    OpenBareClient(world.Parts())->Fetch(kAllCalls);
+}
+
+constexpr int kImportedNumbers = 100'000;
+constexpr const char* kImportName = "numbers.csv";
+
+void WriteNumbers(World& world) {
+    std::ofstream file(world.application.folder / kImportName);
+    for (int i = 0; i < kImportedNumbers; ++i) file << fmt::format("0{0},Company {0}\r\n", 1'600'000'000 + i);
+    OpenBareClient(world.Parts())->Execute("DELETE FROM tbladdressbook");
+}
+
+std::int64_t ImportNumbers(World& world) {
+    ImportAddressBook(world.application.session, world.application.folder / kImportName);
+    return 0;
+}
+
+void SendNumbers(World& world, std::int64_t) {
+    const std::unique_ptr<BareClient> client = OpenBareClient(world.Parts());
+    for (int i = 0; i < kImportedNumbers; ++i) {
+        client->Execute(fmt::format("INSERT INTO tbladdressbook(Name, Number) VALUES ('Company {0}', '0{0}')",
+                                    1'600'000'000 + i));
+    }
 }
 
 /// The bar of a backup at the screen.
@@ -265,6 +300,8 @@ std::vector<Job> Jobs() {
          {},
          true},
         {"preset page, coloured, all columns, progress shown", 3, PresetPage, FetchBothAndWrite, {}, true},
+        {"extensions out of the calls", 1.5, FindExtensions, FetchCalls},
+        {"import of 100,000 numbers", 1, ImportNumbers, SendNumbers, WriteNumbers},
         {"backup of the calls, progress shown", 1.5, BackUpCalls, FetchAndWrite},
         {"restore of the calls, progress shown", 1.3, RestoreCalls, SendBackupLines, TakeCallsAway},
         {"archive to a table", 1.3,

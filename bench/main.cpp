@@ -42,6 +42,12 @@ bool Run(const Job& job, World& world, const std::string& engine, std::int64_t t
     return ratio <= job.limit;
 }
 
+// TALLIX_BENCH_JOBS, where it is set, is a part of the names of the jobs to run.
+bool IsWanted(const Job& job) {
+    const char* part = std::getenv("TALLIX_BENCH_JOBS");
+    return part == nullptr || job.name.find(part) != std::string::npos;
+}
+
 bool RunAll(const EngineAddress& engine, std::uint64_t calls, const std::filesystem::path& folder) {
     Measure([&] {
         const World filled(engine, calls, folder);
@@ -50,7 +56,9 @@ bool RunAll(const EngineAddress& engine, std::uint64_t calls, const std::filesys
     World world(engine, calls, folder);
     const std::int64_t text = TextOfAllCalls(world);
     bool kept = true;
-    for (const Job& job : Jobs()) kept = Run(job, world, engine.name, text) && kept;
+    for (const Job& job : Jobs()) {
+        if (IsWanted(job)) kept = Run(job, world, engine.name, text) && kept;
+    }
     return kept;
 }
 
