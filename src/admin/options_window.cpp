@@ -22,6 +22,7 @@
 #include "ui/forms.h"
 #include "ui/main_menu_form.h"
 #include "ui/style.h"
+#include "ui/wait_panel.h"
 
 namespace tallix {
 namespace {
@@ -193,7 +194,10 @@ OptionsOnScreen OptionsWindow::OnScreen() const {
     return screen;
 }
 
+// Waiting events run in the midst of the save: a second click, or closing the window, is
+// not to find it at work. The panel that holds the inputs stays hidden.
 void OptionsWindow::SaveAndExit() {
+    const ui::WaitPanel held(*this, "Save Settings", "Please Wait...");
     SaveOptions(application_, OnScreen());
     extensions_->ClearChanged();
     Unload();

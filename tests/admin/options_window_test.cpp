@@ -126,6 +126,31 @@ TEST_F(OptionsWindowTest, SavesWhatIsOnTheScreenAndLeaves) {
     EXPECT_EQ(world.crontab.Text(), "");
 }
 
+/// A person who cannot wait for the end of the save.
+class Impatience : public EventQueue {
+public:
+    void Serve() override {
+        if (const auto once = std::exchange(act, {})) once();
+    }
+    std::function<void()> act;
+};
+
+TEST_F(OptionsWindowTest, SavesOnceThoughItIsClickedAndClosedMeanwhile) {
+    Impatience events;
+    const Application& calm = world.application;
+    Application hasty{calm.folder,   calm.tempFolder, calm.version, world.settings,
+                      world.prompts, world.clock,     events,       std::move(world.application.session)};
+    forms.Register(kOptionsForm, [&] { return std::make_unique<OptionsWindow>(forms, hasty); });
+    events.act = [this] {
+        Click("Save and Exit");
+        Window().close();
+        EXPECT_NE(forms.Find(kOptionsForm), nullptr);
+    };
+    Click("Save and Exit");
+    EXPECT_EQ(world.prompts.messages.size(), 1U);
+    EXPECT_EQ(forms.Find(kOptionsForm), nullptr);
+}
+
 TEST_F(OptionsWindowTest, AsksBeforeExtensionsOutOfTheCallsAreDiscardedAndSavesThem) {
     world.InsertCall({{"Extension", "305"}});
     world.prompts.answers = {Answer::Yes, Answer::No, Answer::Yes};
