@@ -12,7 +12,7 @@ NetworkPage::NetworkPage(Application& application, QWidget* parent) : SettingsPa
     auto* address = new QLabel(QString::fromStdString(LocalAddress()));
     address->setObjectName("ListenIP");
     address->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    address->setAccessibleName("Listen IP:");
+    address->setAccessibleDescription("Listen IP:");  // a name would be read in place of the address
     listen.addRow("Listen IP:", address);
     AddCommandPanel(kCommandFiles[1]);
     QFormLayout& proxy = AddPanel("Proxy Settings");

@@ -33,6 +33,15 @@ QWidget* SideBySide(QWidget* first, QWidget* second) {
     return both;
 }
 
+QLabel* PerformanceMark() {
+    auto* mark = new QLabel("●");
+    QPalette colours = mark->palette();
+    colours.setColor(QPalette::WindowText, QColor(ui::kEntryColours.back()));
+    mark->setPalette(colours);
+    mark->setToolTip(kPerformanceText);
+    return mark;
+}
+
 }  // namespace
 
 SettingsPage::SettingsPage(Application& application, QWidget* parent)
@@ -141,6 +150,10 @@ QWidget& SettingsPage::AddSetting(QFormLayout& panel, std::string_view key, QWid
     return *control;
 }
 
+void SettingsPage::AddMarkedSetting(QFormLayout& panel, std::string_view key) {
+    AddSetting(panel, key, PerformanceMark()).setAccessibleDescription(kPerformanceText);
+}
+
 // A setting that is only written while a switch is on can only be edited then.
 void SettingsPage::GoWithSwitch(const OptionSetting& setting, QWidget* control, QWidget* label) {
     if (setting.onlyWhen.empty()) return;
@@ -175,15 +188,6 @@ QLineEdit& SettingsPage::Field(std::string_view key) const {
 
 QCheckBox& SettingsPage::Box(std::string_view key) const {
     return dynamic_cast<QCheckBox&>(*controls_.at(key));
-}
-
-QLabel* PerformanceMark() {
-    auto* mark = new QLabel("●");
-    QPalette colours = mark->palette();
-    colours.setColor(QPalette::WindowText, QColor(ui::kEntryColours.back()));
-    mark->setPalette(colours);
-    mark->setToolTip(kPerformanceText);
-    return mark;
 }
 
 QWidget* PerformanceLegend() {

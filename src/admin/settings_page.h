@@ -45,6 +45,9 @@ protected:
     /// button. Returns the control.
     QWidget& AddSetting(QFormLayout& panel, std::string_view key, QWidget* behind = nullptr);
 
+    /// One that could make the system slow, with the mark that says so.
+    void AddMarkedSetting(QFormLayout& panel, std::string_view key);
+
     /// The choices of a setting side by side, with no label of their own: the panel has the
     /// words for them. Returns them in the order of the table.
     QList<QRadioButton*> AddOptions(QFormLayout& panel, std::string_view key);
@@ -78,8 +81,7 @@ private:
     std::map<std::string_view, Binding> bindings_;
 };
 
-/// The mark beside an option that could make the system slow, and the line that explains it.
-QLabel* PerformanceMark();
+/// The line that explains the mark of AddMarkedSetting.
 QWidget* PerformanceLegend();
 
 }  // namespace tallix

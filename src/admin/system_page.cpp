@@ -32,10 +32,14 @@ SystemPage::SystemPage(Application& application, QWidget* parent) : SettingsPage
     QFormLayout& system = AddPanel("System Settings");
     for (const char* key : {"TimeOpen", "TimeClosed"}) AddSetting(system, key);
     for (const auto& [key, isMarked] : kOptions) {
-        AddSetting(system, key, isMarked ? PerformanceMark() : nullptr);
+        if (isMarked) {
+            AddMarkedSetting(system, key);
+        } else {
+            AddSetting(system, key);
+        }
     }
     AddOptions(system, "Providers");
-    AddSetting(AddPanel("Debug Logging"), "DebugLogging", PerformanceMark());
+    AddMarkedSetting(AddPanel("Debug Logging"), "DebugLogging");
     Rows().addWidget(PerformanceLegend());
     Rows().addStretch();
     Box("LostCalls").setToolTip("Select if to include 'lost' calls");
