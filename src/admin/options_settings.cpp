@@ -6,7 +6,6 @@
 
 #include "admin/report_design.h"
 #include "foundation/code_page.h"
-#include "platform/whole_file.h"
 
 namespace tallix {
 namespace {
@@ -55,18 +54,13 @@ constexpr OptionSetting Switch(std::string_view key, std::string_view label) {
             .choices = kOffOn};
 }
 
-constexpr OptionSetting Options(std::string_view key, std::string_view label,
-                                std::span<const SettingChoice> choices, std::string_view usual) {
-    return {.key = key,
-            .label = label,
-            .kind = SettingKind::Options,
-            .unset = usual,
-            .otherwise = usual,
-            .choices = choices};
+constexpr OptionSetting Options(std::string_view key, std::span<const SettingChoice> choices,
+                                std::string_view usual) {
+    return {.key = key, .kind = SettingKind::Options, .unset = usual, .otherwise = usual, .choices = choices};
 }
 
 constexpr OptionSetting ColourOf(const DesignColour& colour) {
-    return {.key = colour.key, .label = colour.button, .kind = SettingKind::Colour, .unset = colour.usual};
+    return {.key = colour.key, .kind = SettingKind::Colour, .unset = colour.usual};
 }
 
 constexpr std::array kSettings = {
@@ -96,12 +90,12 @@ constexpr std::array kSettings = {
     Switch("V1Reports", "Use New Style Reports"),
     OptionSetting{"CostCompute", "Compute call costs per report", SettingKind::Switch, "1", "0", kOffOn},
     Switch("AreaCode", "Show Area code in report"),
-    Options("Providers", "", kNumberNames, "2"),
-    Options("Lang", "Language", kLanguages, "1033"),
+    Options("Providers", kNumberNames, "2"),
+    Options("Lang", kLanguages, "1033"),
     List("Currency", "Currency:", kCurrencies, "£"),
     OptionSetting{.key = "ReportsLocation", .label = "Location:"},
     OptionSetting{.key = "DocsLocation", .label = "Location:"},
-    Options("ReportAlign", "Text Alignment", kAlignments, "C"),
+    Options("ReportAlign", kAlignments, "C"),
     ColourOf(kDesignColours[0]),
     ColourOf(kDesignColours[1]),
     ColourOf(kDesignColours[2]),

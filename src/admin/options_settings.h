@@ -31,7 +31,7 @@ struct SettingChoice {
 
 struct OptionSetting {
     std::string_view key;
-    std::string_view label;
+    std::string_view label{};  ///< none for Options, which stand by their choices, and Colour
     SettingKind kind = SettingKind::Text;
     std::string_view unset{};      ///< what an absent or empty value counts as
     std::string_view otherwise{};  ///< what a text counts as that is none of the choices
@@ -55,7 +55,8 @@ inline constexpr std::array<CommandFile, 2> kCommandFiles = {
 /// command files by the files' names, with CR LF between their lines.
 using OptionsValues = std::map<std::string, std::string, std::less<>>;
 
-/// All values as the window shows them: each one that goes by choices is one of them.
+/// All values as the window shows them: each of the kinds Options and Switch is one of its
+/// choices, and each colour has its nine digits.
 OptionsValues LoadOptions(const Application& application);
 
 /// Whether a switch is on among the values.

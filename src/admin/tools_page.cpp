@@ -19,10 +19,8 @@ namespace {
 constexpr char kAdministrator[] = "Administrator";
 constexpr char kComputeQuestion[] =
     "Tallix will now compute call cost data and save it back to the database for use in reports. Depending "
-    "on "
-    "the amount of call data you have, this process may take several minutes. Are you sure you wish to "
-    "compute "
-    "call data?";
+    "on the amount of call data you have, this process may take several minutes. Are you sure you wish to "
+    "compute call data?";
 
 struct Tool {
     const char* caption;
