@@ -3,6 +3,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QScrollBar>
+#include <QShortcut>
 #include <utility>
 
 namespace tallix::ui {
@@ -22,6 +23,8 @@ LabelEdit::LabelEdit(ListView& list, QWidget& owner) : QLineEdit(&owner), list_(
     setStyleSheet("min-height: 0");  // as low as its cell
     hide();
     connect(&list, &ListView::doubleClicked, this, &LabelEdit::Edit);
+    auto* key = new QShortcut(Qt::Key_F2, &list, nullptr, nullptr, Qt::WidgetShortcut);
+    connect(key, &QShortcut::activated, this, &LabelEdit::EditNextCell);
     for (const QScrollBar* bar : {list.verticalScrollBar(), list.horizontalScrollBar()}) {
         connect(bar, &QScrollBar::valueChanged, this, &LabelEdit::WriteBack);
     }
@@ -32,6 +35,7 @@ void LabelEdit::Edit(const QModelIndex& cell) {
     WriteBack();
     list_.scrollTo(cell);
     cell_ = cell;
+    latest_ = cell;
     const QRect place = list_.visualRect(cell);
     setGeometry(QRect(list_.viewport()->mapTo(parentWidget(), place.topLeft()), place.size()));
     setAlignment(list_.Rows().Columns().at(cell.column()).alignment);
@@ -41,6 +45,14 @@ void LabelEdit::Edit(const QModelIndex& cell) {
     show();
     raise();
     setFocus();
+}
+
+void LabelEdit::EditNextCell() {
+    const int row = list_.SelectedRow();
+    if (row < 0) return;
+    const bool sameRow = latest_.isValid() && latest_.row() == row;
+    const int column = sameRow ? (latest_.column() + 1) % list_.Rows().columnCount() : 0;
+    Edit(list_.Rows().index(row, column));
 }
 
 // The place is taken back first: hiding the box takes its focus, which comes here again.

@@ -1,7 +1,8 @@
 // Editing a cell of a list in place: a double click lays a borderless box over the cell
-// with all of its text selected. Enter, or going elsewhere, writes the text back; there
-// is no other way out, and Escape does not cancel. Scrolling and resizing count as
-// going elsewhere, since the box would lie over another cell then.
+// with all of its text selected; F2 does it to the cells of the selected row in turn.
+// Enter, or going elsewhere, writes the text back; there is no other way out, and Escape
+// does not cancel. Scrolling and resizing count as going elsewhere, since the box would
+// lie over another cell then.
 #pragma once
 
 #include <QLineEdit>
@@ -25,10 +26,12 @@ protected:
 
 private:
     void Edit(const QModelIndex& cell);
+    void EditNextCell();
     void WriteBack();
 
     ListView& list_;
-    QPersistentModelIndex cell_;  ///< invalid while nothing is edited, or once its row has gone
+    QPersistentModelIndex cell_;    ///< invalid while nothing is edited, or once its row has gone
+    QPersistentModelIndex latest_;  ///< the cell that was edited last
 };
 
 }  // namespace tallix::ui

@@ -59,13 +59,16 @@ TEST_F(CallCostingsWindowTest, EditsTheListAndStoresItOnlyWhenAsked) {
     QTest::mouseDClick(List().viewport(), Qt::LeftButton, {}, cost);
     QTest::keyClicks(window_->findChild<ui::LabelEdit*>(), "7.50");
     QTest::keyClick(window_->findChild<ui::LabelEdit*>(), Qt::Key_Return);
+    QTest::keyClick(&List(), Qt::Key_F2);
+    QTest::keyClicks(window_->findChild<ui::LabelEdit*>(), "0801");
+    QTest::keyClick(window_->findChild<ui::LabelEdit*>(), Qt::Key_Return);
     EXPECT_TRUE(test_.prompts.messages.empty());
     Click("Save Costings");
     EXPECT_EQ(test_.prompts.messages.at(0).text, "Costings saved!");
     Click("Create New");
     Click("Exit Costings Screen");
     const Costings stored = LoadCostings(test_.application.session, test_.settings);
-    EXPECT_THAT(stored.rows, ElementsAre(TariffRow{"0845", "5.00"}, TariffRow{"0800", "7.50"}));
+    EXPECT_THAT(stored.rows, ElementsAre(TariffRow{"0845", "5.00"}, TariffRow{"0801", "7.50"}));
     EXPECT_EQ(stored.standardCost, "1.20");
 }
 
