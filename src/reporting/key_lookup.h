@@ -5,8 +5,9 @@
 // The first questions are put to the server one by one. A run that keeps asking gets
 // the table read once and is answered from memory. Memory answers only for keys whose
 // equality means the same on every server (digits and the like, no blank behind); any
-// other key goes to the server each time it is new. So does each key that is compared as
-// a number: memory knows texts alone.
+// other key goes to the server each time it is new. Where keys are compared as numbers,
+// that takes digits in all rows of the table, since a server may refuse or read a number
+// into whatever else stands there.
 #pragma once
 
 #include <cstdint>
@@ -59,6 +60,7 @@ private:
     };
     using Memo = std::unordered_map<std::string, std::optional<std::string>, TextHash, std::equal_to<>>;
 
+    bool MemoryKnows(std::string_view key) const;
     std::optional<std::string_view> Ask(std::string_view key);
     std::string Literal(std::string_view key) const;
     std::optional<std::string> FirstValue(std::string_view key);
@@ -68,7 +70,7 @@ private:
     EventQueue& events_;
     KeyLookupNames names_;
     Memo answers_;
-    bool triedTable_;
+    bool triedTable_ = false;
     std::unique_ptr<Table> table_;
 };
 

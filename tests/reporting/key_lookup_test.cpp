@@ -8,7 +8,7 @@
 namespace tallix {
 namespace {
 
-TEST(KeyLookup, ABareKeyIsComparedAsANumberAndNothingElseIsAsked) {
+TEST(KeyLookup, ABareKeyIsComparedAsANumberByTheServerAndInMemory) {
     test::TestApplication test;
     test.Insert("tblextensions", {{"ExtensionNo", "201"}, {"Name", "Ann"}});
     test.Insert("tblextensions", {{"ExtensionNo", "Reception"}, {"Name", "Ben"}});
@@ -19,13 +19,24 @@ TEST(KeyLookup, ABareKeyIsComparedAsANumberAndNothingElseIsAsked) {
     bare.form = KeyForm::Bare;
     KeyLookup quotedNames(test.application.session, test.events, names);
     KeyLookup bareNames(test.application.session, test.events, bare);
-    for (int key = 1000; key < 1100; ++key) EXPECT_FALSE(bareNames.Find(std::to_string(key)));
-    for (const char* key : {"201", "0201", "201 ", "2.01e2"}) EXPECT_EQ(bareNames.Find(key), "Ann") << key;
+    const auto askMany = [](KeyLookup& lookup) {
+        for (int key = 1000; key < 1100; ++key) EXPECT_FALSE(lookup.Find(std::to_string(key)));
+        for (const char* key : {"201", "0201", "201 ", "2.01e2"}) EXPECT_EQ(lookup.Find(key), "Ann") << key;
+    };
+    askMany(bareNames);
     for (const char* key : {"Reception", "", "ExtensionNo", "1 OR 1=1", "+"}) {
         EXPECT_FALSE(bareNames.Find(key)) << key;
     }
     EXPECT_FALSE(quotedNames.Find("0201"));
     EXPECT_EQ(quotedNames.Find("Reception"), "Ben");
+
+    OpenConnection(test.application.session)
+        .Execute("UPDATE tblextensions SET ExtensionNo = \"0201\" WHERE Name = \"Ben\"");
+    KeyLookup inMemory(test.application.session, test.events, bare);
+    askMany(inMemory);
+    OpenConnection(test.application.session).Execute("DELETE FROM tblextensions");
+    EXPECT_EQ(inMemory.Find("000201"), "Ann") << "the server is asked no more";
+    EXPECT_FALSE(inMemory.Find("0000000201")) << "too long to be known, and asked of the server";
 }
 
 }  // namespace
