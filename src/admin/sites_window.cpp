@@ -24,7 +24,7 @@ struct SiteColumn {
 
 constexpr SiteColumn kColumns[] = {
     {"Site", 700, &SiteRecord::id},
-    {"Name", 2200, &SiteRecord::name},
+    {"Name", 3000, &SiteRecord::name},
     {"Email", 2600, &SiteRecord::email},
     {"Address 1", 2000, &SiteRecord::address1},
     {"Address 2", 2000, &SiteRecord::address2},

@@ -113,11 +113,12 @@ QLayout* CustomReportsWindow::FieldColumn() {
     for (QWidget* widget : {static_cast<QWidget*>(name_), static_cast<QWidget*>(fields_)}) {
         widget->setFixedWidth(kFieldListWidth);
     }
-    FillFields();
     return column;
 }
 
+// With its look at hand, so that the rows are as high as they stay.
 void CustomReportsWindow::FillFields() {
+    fields_->ensurePolished();
     for (const CustomFieldNames& names : kCustomFieldNames) {
         auto* item = new QListWidgetItem(QString::fromUtf8(names.entry.data()), fields_);
         item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
@@ -203,6 +204,7 @@ void CustomReportsWindow::OnLoad() {
     // The right of call cost mappings opens new reports; the one named for it asks nobody.
     if (Allows(session.CurrentAccess, AccessRight::CallCostMappings)) reports_->addItem(kNewReport);
     reports_->addItems(Texts(ListReports(CustomReportsFolder(session.ReportsLocation))));
+    FillFields();
     FillOutput();
     ApplyRights();
     reports_->setFocus();
