@@ -6,8 +6,7 @@
 #include "foundation/access_log.h"
 #include "foundation/errors.h"
 #include "shell/login.h"
-#include "support/test_application.h"
-#include "support/test_servers.h"
+#include "support/engine_test.h"
 
 namespace tallix {
 namespace {
@@ -17,7 +16,7 @@ using testing::ElementsAre;
 const std::string kAll(42, '1');
 const std::string kNone(42, '0');
 
-class AccountsTest : public testing::TestWithParam<const char*> {
+class AccountsTest : public test::EngineTest {
 protected:
     std::vector<std::string> Names() {
         std::vector<std::string> names;
@@ -35,17 +34,13 @@ protected:
         login.Close();
         return outcome == LoginOutcome::LoggedIn;
     }
-
-    const test::TestEngine& engine_ = test::EngineNamed(GetParam());
-    const std::unique_ptr<ado::Connection> connection_ = test::FreshDatabase(engine_);
-    test::TestApplication test_{{engine_.dbType, engine_.address, engine_.user, engine_.password}};
-    Session& session_ = test_.application.session;
 };
 
 TEST_P(AccountsTest, AreAddedChangedAndDeleted) {
     const std::string password = "P\"a's;s€";
     EXPECT_TRUE(AddAccount(test_.application, {"jOHN", password, "j@x", "", kAll}));
     EXPECT_TRUE(CanLogIn("john", password));
+    EXPECT_FALSE(CanLogIn("john", "p\"a's;s€"));
     EXPECT_EQ(session_.CurrentAccess, AccessOfNewAccount());
     EXPECT_FALSE(AddAccount(test_.application, {"John", "x", "j@x", "", kAll}));
     EXPECT_TRUE(AddAccount(test_.application, {"jOHN", "x", "j@x", "", kAll})) << "a second John";

@@ -3,18 +3,15 @@
 
 #include "admin/mappings.h"
 #include "foundation/access_log.h"
-#include "support/test_application.h"
-#include "support/test_servers.h"
+#include "support/engine_test.h"
 
 namespace tallix {
 namespace {
 
 using testing::ElementsAre;
 
-class MappingsOnServers : public testing::TestWithParam<const char*> {
+class MappingsOnServers : public test::EngineTest {
 protected:
-    MappingsOnServers() : engine_(test::EngineNamed(GetParam())) { test::FreshDatabase(engine_); }
-
     bool Save(const std::string& name, const std::string& firstStart) {
         Mapping mapping{name, {}};
         for (std::size_t i = 0; i < mapping.items.size(); ++i)
@@ -24,14 +21,9 @@ protected:
     }
 
     std::string FirstStart(const std::string& name) {
-        const std::optional<Mapping> mapping = ReadMapping(Session(), name);
+        const std::optional<Mapping> mapping = ReadMapping(session_, name);
         return mapping ? mapping->items.front().start : "none";
     }
-
-    tallix::Session& Session() { return test_.application.session; }
-
-    const test::TestEngine& engine_;
-    test::TestApplication test_{{engine_.dbType, engine_.address, engine_.user, engine_.password}};
 };
 
 INSTANTIATE_TEST_SUITE_P(Engines, MappingsOnServers, testing::ValuesIn(test::kSessionEngines));
@@ -42,12 +34,12 @@ TEST_P(MappingsOnServers, AreAddedStoredOverAndDeletedByTheirNames) {
     EXPECT_TRUE(Save("Hall", "3"));
     EXPECT_EQ(FirstStart("Hall 100% \\ O'Brien"), "1");
     EXPECT_EQ(FirstStart("Hall"), "3");
-    const std::optional<Mapping> stored = ReadMapping(Session(), "Hall");
+    const std::optional<Mapping> stored = ReadMapping(session_, "Hall");
     EXPECT_EQ(stored->items.back(), (Positions{"114", "214"}));
-    EXPECT_EQ(ReadAccessLog(Session()).front().back(), "Saved Custom Mappings");
+    EXPECT_EQ(ReadAccessLog(session_).front().back(), "Saved Custom Mappings");
 
-    DeleteMapping(Session(), "Hall");
-    EXPECT_THAT(ReadMappingNames(Session()), ElementsAre("Hall 100% \\ O'Brien"));
+    DeleteMapping(session_, "Hall");
+    EXPECT_THAT(ReadMappingNames(session_), ElementsAre("Hall 100% \\ O'Brien"));
 }
 
 TEST_P(MappingsOnServers, LeaveOthersAloneWhateverTheirNames) {
@@ -56,7 +48,7 @@ TEST_P(MappingsOnServers, LeaveOthersAloneWhateverTheirNames) {
     for (const std::string& name : names) {
         Save(name, "7");
         EXPECT_EQ(FirstStart("Hall"), "1") << name;
-        DeleteMapping(Session(), name);
+        DeleteMapping(session_, name);
         EXPECT_EQ(FirstStart("Hall"), "1") << name;
     }
     EXPECT_FALSE(Save("", "1"));

@@ -2,8 +2,7 @@
 #include <gmock/gmock.h>
 
 #include "admin/sites.h"
-#include "support/test_application.h"
-#include "support/test_servers.h"
+#include "support/engine_test.h"
 
 namespace tallix {
 namespace {
@@ -12,36 +11,30 @@ using testing::ElementsAre;
 
 constexpr char kName[] = "O'Brien's \"North\" 100% \\ House";
 
-class SitesOnServers : public testing::TestWithParam<const char*> {
+class SitesOnServers : public test::EngineTest {
 protected:
-    SitesOnServers() : engine_(test::EngineNamed(GetParam())) {
-        test::FreshDatabase(engine_);
+    SitesOnServers() {
         for (const char* name : {"Head", kName, "West"}) Add(name);
     }
 
     void Add(const std::string& name) {
         SiteRecord site;
         site.name = name;
-        AddSite(Session(), site, ReadSites(Session()).size());
+        AddSite(session_, site, ReadSites(session_).size());
     }
-
-    tallix::Session& Session() { return test_.application.session; }
 
     std::vector<std::string> Texts(std::string SiteRecord::*value) {
         std::vector<std::string> texts;
-        for (const SiteRecord& site : ReadSites(Session())) texts.push_back(site.*value);
+        for (const SiteRecord& site : ReadSites(session_)) texts.push_back(site.*value);
         std::sort(texts.begin(), texts.end());  // an update moves a row on PostgreSQL
         return texts;
     }
-
-    const test::TestEngine& engine_;
-    test::TestApplication test_{{engine_.dbType, engine_.address, engine_.user, engine_.password}};
 };
 
 INSTANTIATE_TEST_SUITE_P(Engines, SitesOnServers, testing::ValuesIn(test::kSessionEngines));
 
 TEST_P(SitesOnServers, KeepAllFieldsOfTheOneThatIsEdited) {
-    SiteRecord site = ReadSites(Session()).at(1);
+    SiteRecord site = ReadSites(session_).at(1);
     EXPECT_EQ(site.name, kName);
     int number = 0;
     for (auto value :
@@ -51,19 +44,19 @@ TEST_P(SitesOnServers, KeepAllFieldsOfTheOneThatIsEdited) {
           &SiteRecord::systemCode, &SiteRecord::thirdPartyDatabase, &SiteRecord::thirdPartyUser,
           &SiteRecord::thirdPartyPassword, &SiteRecord::thirdPartyName})
         site.*value = "it's \"" + std::to_string(++number);
-    UpdateSite(Session(), site);
+    UpdateSite(session_, site);
     EXPECT_THAT(Texts(&SiteRecord::name), ElementsAre("Head", "West", "it's \"1"));
     EXPECT_THAT(Texts(&SiteRecord::thirdPartyName), ElementsAre("", "", "it's \"17"));
     EXPECT_THAT(Texts(&SiteRecord::id), ElementsAre("1", "2", "3"));
 
     site.id = "2\" OR \"1\" = \"1";
     site.name = "Everything";
-    UpdateSite(Session(), site);
+    UpdateSite(session_, site);
     EXPECT_THAT(Texts(&SiteRecord::name), ElementsAre("Head", "West", "it's \"1"));
 }
 
 TEST_P(SitesOnServers, KeepTheirNumbersWhenOneIsDeleted) {
-    SiteRecord site = ReadSites(Session()).at(1);
+    SiteRecord site = ReadSites(session_).at(1);
     DeleteSite(test_.application, site);
     EXPECT_THAT(Texts(&SiteRecord::id), ElementsAre("1", "2", "3"));
     for (const char* id : {"2", "ID", "1 OR 1 = 1", ""}) {

@@ -5,19 +5,12 @@
 #include <fstream>
 
 #include "costing/cost_map.h"
-#include "support/test_application.h"
-#include "support/test_servers.h"
+#include "support/engine_test.h"
 
 namespace tallix {
 namespace {
 
-class CostingsTest : public testing::TestWithParam<const char*> {
-protected:
-    const test::TestEngine& engine_ = test::EngineNamed(GetParam());
-    const std::unique_ptr<ado::Connection> connection_ = test::FreshDatabase(engine_);
-    test::TestApplication test_{{engine_.dbType, engine_.address, engine_.user, engine_.password}};
-    Session& session_ = test_.application.session;
-};
+using CostingsTest = test::EngineTest;
 
 TEST_P(CostingsTest, TheTariffIsStoredAsTyped) {
     const std::vector<TariffRow> rows = {{"0845", "5.00"}, {"O'Neill \"x\"", "free"}, {"0800"}};

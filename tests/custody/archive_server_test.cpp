@@ -7,10 +7,9 @@
 #include "foundation/database.h"
 #include "foundation/errors.h"
 #include "foundation/schema.h"
+#include "support/engine_test.h"
 #include "support/faults.h"
 #include "support/run_program.h"
-#include "support/test_application.h"
-#include "support/test_servers.h"
 
 namespace tallix {
 namespace {
@@ -62,10 +61,9 @@ ArchiveRequest WholeYear(const char* year, ArchiveDestination destination) {
             .target = {"any", "x"}};
 }
 
-class Archives : public testing::TestWithParam<const char*> {
+class Archives : public test::EngineTest {
 protected:
     Archives() {
-        test::FreshDatabase(engine_);
         test_.Execute("INSERT INTO tblphonedata(Trunk) VALUES ('T')");  // a call without a date
         for (const char* date : {"15/03/2009", "01/01/2010", "31/06/2010", "02/07/2010", "05/05/10"}) {
             test_.InsertCall({{"Date", date}, {"Account", "Zoë"}});
@@ -73,8 +71,6 @@ protected:
         test_.prompts.answers = {Answer::Yes};
     }
 
-    const test::TestEngine& engine_ = test::EngineNamed(GetParam());
-    test::TestApplication test_{{engine_.dbType, engine_.address, engine_.user, engine_.password}};
     NotedView view_;
 };
 

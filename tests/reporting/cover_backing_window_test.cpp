@@ -6,8 +6,7 @@
 #include <QPushButton>
 #include <QTest>
 
-#include "foundation/ado/recordset.h"
-#include "foundation/database.h"
+#include "foundation/access_log.h"
 #include "foundation/form_names.h"
 #include "support/captioned.h"
 #include "support/test_application.h"
@@ -72,11 +71,9 @@ TEST_F(CoverBackingWindowTest, SavesEachBoxUnderItsKeyAndLogsIt) {
     EXPECT_EQ(world.settings.Read("CTitle"), "0");
     EXPECT_EQ(world.settings.Read("CTitleText"), " ");
 
-    OpenDatabase(world.application.session);
-    ado::Recordset log;
-    log.Open("SELECT * FROM tbllogging WHERE Data = 'Saved Report Covers' AND User = 'Ann'",
-             OpenConnection(world.application.session));
-    EXPECT_EQ(log.RecordCount(), static_cast<std::int64_t>(keys.size()));
+    const std::vector<AccessLogRow> log = ReadAccessLog(world.application.session);
+    EXPECT_EQ(log.size(), keys.size());
+    EXPECT_EQ(log.front()[2] + log.front()[3], "AnnSaved Report Covers");
 }
 
 TEST_F(CoverBackingWindowTest, GoesBackToTheWindowThatOpenedIt) {

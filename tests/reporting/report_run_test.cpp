@@ -3,9 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "foundation/ado/recordset.h"
+#include "foundation/access_log.h"
 #include "foundation/code_page.h"
-#include "foundation/database.h"
 #include "support/test_application.h"
 
 namespace tallix {
@@ -48,14 +47,11 @@ protected:
         return {lines.begin() + 5, lines.end() - 2};
     }
 
-    std::int64_t LoggedEvents() {
-        OpenDatabase(test.application.session);
-        ado::Recordset rows;
-        rows.Open("SELECT * FROM tbllogging WHERE Data LIKE 'Report Run - %' AND User = 'Ann'",
-                  OpenConnection(test.application.session));
-        const std::int64_t count = rows.RecordCount();
-        CloseDatabase(test.application.session);
-        return count;
+    std::ptrdiff_t LoggedEvents() {
+        const std::vector<AccessLogRow> rows = ReadAccessLog(test.application.session);
+        return std::count_if(rows.begin(), rows.end(), [](const AccessLogRow& row) {
+            return row[2] == "Ann" && row[3].starts_with("Report Run - ");
+        });
     }
 
     TestApplication test;

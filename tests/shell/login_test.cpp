@@ -5,7 +5,7 @@
 
 #include <vector>
 
-#include "foundation/database.h"
+#include "foundation/access_log.h"
 #include "foundation/encryption_tools.h"
 #include "foundation/errors.h"
 #include "shell/main_menu.h"
@@ -40,14 +40,8 @@ protected:
 
     /// User and event of every row of the access log.
     std::vector<std::string> Log() {
-        OpenDatabase(session_);
-        ado::Recordset rows;
-        rows.Open("select * from tbllogging", OpenConnection(session_));
         std::vector<std::string> lines;
-        for (std::int64_t row = 1; row <= rows.RecordCount(); ++row, rows.MoveNext()) {
-            lines.push_back(std::string(rows.Text("User")).append(" ").append(rows.Text("Data")));
-        }
-        CloseDatabase(session_);
+        for (const AccessLogRow& row : ReadAccessLog(session_)) lines.push_back(row[2] + " " + row[3]);
         return lines;
     }
 

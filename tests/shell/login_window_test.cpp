@@ -142,12 +142,6 @@ TEST_F(LoginWindowTest, ShowsThatItIsBusyAndCannotBeClosedMeanwhile) {
     EXPECT_THAT(forms.Loaded(), ElementsAre(kLoginForm));
 }
 
-TEST_F(LoginWindowTest, ADatabaseThatIsGoneIsAFailureWithItsText) {
-    application_.session.DBIP = "sqlite:/nowhere/at/all.db";
-    LogIn("ann", "S");
-    EXPECT_THAT(failures, ElementsAre(testing::HasSubstr("/nowhere/at/all.db")));
-}
-
 TEST_F(LoginWindowTest, ExitLeavesNothingLoaded) {
     forms.Load(kMainForm);
     Button("Exit Application").click();

@@ -4,7 +4,7 @@
 
 #include <QTest>
 
-#include "foundation/database.h"
+#include "foundation/access_log.h"
 #include "foundation/form_names.h"
 #include "shell/about_window.h"
 #include "shell/statistics_window.h"
@@ -51,14 +51,9 @@ protected:
     /// The mouse comes to a widget of the window.
     static void Hover(QWidget* widget) { widget->setAttribute(Qt::WA_UnderMouse, true); }
     std::vector<std::string> Log() {
-        OpenDatabase(test_.application.session);
-        ado::Recordset rows;
-        rows.Open("select * from tbllogging", OpenConnection(test_.application.session));
-        std::vector<std::string> lines;
-        for (std::int64_t row = 1; row <= rows.RecordCount(); ++row, rows.MoveNext()) {
-            lines.emplace_back(rows.Text("Data"));
-        }
-        return lines;
+        std::vector<std::string> events;
+        for (const AccessLogRow& row : ReadAccessLog(test_.application.session)) events.push_back(row[3]);
+        return events;
     }
 
     test::TestApplication test_;
