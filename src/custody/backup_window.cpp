@@ -3,7 +3,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QStackedLayout>
-#include <QVBoxLayout>
 
 #include "custody/restore.h"
 #include "foundation/access_log.h"
@@ -104,24 +103,26 @@ std::filesystem::path PathIn(const QLineEdit& field) {
 
 }  // namespace
 
-BackupFrame::BackupFrame(const QString& title, std::span<const BackupChoice> choices, QPushButton& begin)
-    : QGroupBox(title), fields_(new QGridLayout) {
+BackupFrame::BackupFrame(const QString& title)
+    : QGroupBox(title), rows_(new QVBoxLayout(this)), fields_(new QGridLayout) {
     fields_->setHorizontalSpacing(2 * ui::kSpacing);
     fields_->setVerticalSpacing(ui::kSpacing);
-    auto* rows = new QVBoxLayout(this);
-    rows->setContentsMargins(ui::kMargin, ui::kMargin, ui::kMargin, ui::kMargin);
-    rows->setSpacing(ui::kSpacing);
-    rows->addLayout(fields_);
-    rows->addSpacing(ui::kSpacing);
+    rows_->setContentsMargins(ui::kMargin, ui::kMargin, ui::kMargin, ui::kMargin);
+    rows_->setSpacing(ui::kSpacing);
+    rows_->addLayout(fields_);
+}
+
+void BackupFrame::AddChoices(std::span<const BackupChoice> choices, QPushButton& begin) {
+    rows_->addSpacing(ui::kSpacing);
     for (const BackupChoice& choice : choices) {
         auto* box = new QCheckBox(choice.caption);
         box->setToolTip(choice.tip);
-        rows->addWidget(box);
+        rows_->addWidget(box);
         boxes_.push_back({choice, box});
     }
-    rows->addStretch();
-    rows->addSpacing(ui::kSpacing);
-    rows->addWidget(&begin, 0, Qt::AlignRight);
+    rows_->addStretch();
+    rows_->addSpacing(ui::kSpacing);
+    rows_->addWidget(&begin, 0, Qt::AlignRight);
 }
 
 QLineEdit* BackupFrame::AddField(const QString& label, const QString& tip, QPushButton* button) {
@@ -155,16 +156,18 @@ BackupWindow::BackupWindow(ui::Forms& forms, Application& application, BackupCha
       channel_(channel),
       beginBackup_(new QPushButton("BEGIN BACKUP")),
       browseBackup_(new QPushButton("Browse")),
-      backup_(new BackupFrame("Backup", kBackupChoices, *beginBackup_)),
+      backup_(new BackupFrame("Backup")),
       backupName_(backup_->AddField("Backup Name:", "Enter a name for the backup")),
       backupLocation_(
           backup_->AddField("Backup Location:", "Enter a location for the backup", browseBackup_)),
       beginRestore_(new QPushButton("BEGIN RESTORE")),
       browseRestore_(new QPushButton("Browse")),
-      restore_(new BackupFrame("Restore", kRestoreChoices, *beginRestore_)),
+      restore_(new BackupFrame("Restore")),
       restoreLocation_(
           restore_->AddField("Backup Location:", "Enter a location of the backup", browseRestore_)),
       close_(new QPushButton("Close")) {
+    backup_->AddChoices(kBackupChoices, *beginBackup_);
+    restore_->AddChoices(kRestoreChoices, *beginRestore_);
     auto* important = new QLabel(kImportant);
     important->setWordWrap(true);
     auto* rows = new QVBoxLayout(this);

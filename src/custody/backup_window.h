@@ -8,6 +8,7 @@
 #include <QGroupBox>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QVBoxLayout>
 #include <span>
 #include <vector>
 
@@ -29,10 +30,14 @@ struct BackupChoice {
 class BackupFrame : public QGroupBox {
     Q_OBJECT
 public:
-    BackupFrame(const QString& title, std::span<const BackupChoice> choices, QPushButton& begin);
+    explicit BackupFrame(const QString& title);
 
     /// Adds a field below the others, with a button behind it where there is one.
     QLineEdit* AddField(const QString& label, const QString& tip, QPushButton* button = nullptr);
+
+    /// Adds what stands below the fields, once these are there: the keyboard goes from input
+    /// to input in the order of their coming.
+    void AddChoices(std::span<const BackupChoice> choices, QPushButton& begin);
 
     /// Shows the choices that an access string grants.
     void ApplyRights(std::string_view access);
@@ -45,6 +50,7 @@ private:
         QCheckBox* box;
     };
 
+    QVBoxLayout* rows_;
     QGridLayout* fields_;
     std::vector<Box> boxes_;
 };

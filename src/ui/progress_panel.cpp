@@ -41,7 +41,8 @@ void ProgressLine::Record(std::int64_t record, std::int64_t bound) {
         shown_ = now;
         bar_->setMaximum(static_cast<int>(bound));
         bar_->setValue(static_cast<int>(record));
-        text_->setText(pattern_.arg(record).arg(bound));
+        QString text = pattern_;
+        text_->setText(text.replace("%1", QString::number(record)).replace("%2", QString::number(bound)));
     }
     events_.Serve();
 }

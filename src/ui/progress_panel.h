@@ -22,8 +22,8 @@ namespace tallix::ui {
 class ProgressLine : public QWidget, public RunProgress {
     Q_OBJECT
 public:
-    /// `pattern` has "%1" for the record and "%2" for the bound. `events` are served at
-    /// every record and must outlive the line.
+    /// `pattern` has "%1" for the record and "%2" for the bound, where they are told at all. `events` are
+    /// served at every record and must outlive the line.
     ProgressLine(EventQueue& events, const QString& pattern, QWidget* parent = nullptr);
 
     void Record(std::int64_t record, std::int64_t bound) override;

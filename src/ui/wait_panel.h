@@ -7,9 +7,9 @@
 #include <QString>
 #include <QWidget>
 #include <functional>
-#include <memory>
 
 #include "foundation/event_queue.h"
+#include "ui/held_window.h"
 #include "ui/progress_panel.h"
 
 namespace tallix::ui {
@@ -20,9 +20,6 @@ class WaitPanel {
 public:
     /// Covers the window of `widget`, which must outlive the panel. Hidden until Show.
     WaitPanel(QWidget& widget, const QString& title, const QString& text);
-    ~WaitPanel();
-    WaitPanel(const WaitPanel&) = delete;
-    WaitPanel& operator=(const WaitPanel&) = delete;
 
     /// For work that counts. The line belongs to the panel.
     ProgressLine& AddLine(EventQueue& events, const QString& pattern);
@@ -31,10 +28,8 @@ public:
     void Show();
 
 private:
-    class HeldWindow;
-
     QWidget& window_;
-    std::unique_ptr<HeldWindow> held_;
+    HeldWindow held_;
     ProgressPanel panel_;
 };
 
