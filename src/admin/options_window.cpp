@@ -20,9 +20,9 @@
 #include "foundation/access_rights.h"
 #include "ui/dialog_keys.h"
 #include "ui/forms.h"
+#include "ui/held_window.h"
 #include "ui/main_menu_form.h"
 #include "ui/style.h"
-#include "ui/wait_panel.h"
 
 namespace tallix {
 namespace {
@@ -195,9 +195,9 @@ OptionsOnScreen OptionsWindow::OnScreen() const {
 }
 
 // Waiting events run in the midst of the save: a second click, or closing the window, is
-// not to find it at work. The panel that holds the inputs stays hidden.
+// not to find it at work.
 void OptionsWindow::SaveAndExit() {
-    const ui::WaitPanel held(*this, "Save Settings", "Please Wait...");
+    const ui::HeldWindow held(*this);
     SaveOptions(application_, OnScreen());
     extensions_->ClearChanged();
     Unload();

@@ -9,6 +9,7 @@
 #include "ui/choice_lists.h"
 #include "ui/dialog_keys.h"
 #include "ui/forms.h"
+#include "ui/held_window.h"
 #include "ui/style.h"
 
 namespace tallix {
@@ -42,6 +43,7 @@ QComboBox* IntervalList(int last) {
 QLabel* LabelOf(const QString& caption, QWidget* input) {
     auto* label = new QLabel(caption);
     label->setBuddy(input);
+    input->setAccessibleName(caption);  // a list would go by what is chosen
     return label;
 }
 
@@ -182,7 +184,6 @@ QLayout* ScheduledReportsWindow::TaskColumn() {
     tasks_->setFixedWidth(kTasksWidth);
     tasks_->setMinimumHeight(kTasksHeight);
     auto* label = LabelOf("Current Tasks", tasks_);
-    tasks_->setAccessibleName(label->text());  // a list is not told its label
     auto* rows = new QVBoxLayout;
     rows->setSpacing(ui::kSpacing);
     rows->addWidget(label);
@@ -297,7 +298,10 @@ void ScheduledReportsWindow::DeleteSelected() {
         {"Delete Report?", "Are you sure you wish to delete the scheduled report " + name + "?",
          MessageIcon::Question, MessageButtons::YesNo});
     if (answer != Answer::Yes) return;
-    DeleteSchedule(application_, name);
+    {
+        const ui::HeldWindow held(*this);
+        DeleteSchedule(application_, name);
+    }
     ListTasks();
     create_->setFocus();
 }
@@ -316,16 +320,18 @@ Schedule ScheduledReportsWindow::Defined() const {
     return schedule;
 }
 
-// Events run while the task is made: nothing can be saved a second time by then. The list
-// shows a schedule that was edited twice until it is read anew.
+// Events run while the task is made: nothing is saved a second time by then, and the window
+// stays. The list shows a schedule that was edited twice until it is read anew.
 void ScheduledReportsWindow::SaveSchedule() {
     const Schedule schedule = Defined();
     if (const auto refusal = RefusalOf(schedule)) {
         application_.prompts.Show(*refusal);
         return;
     }
-    definition_->setEnabled(false);
-    tallix::SaveSchedule(application_, schedule, editing_);
+    {
+        const ui::HeldWindow held(*this);
+        tallix::SaveSchedule(application_, schedule, editing_);
+    }
     taskNames_->setStringList(taskNames_->stringList() << Text(schedule.name));
     EndDefinition();
 }

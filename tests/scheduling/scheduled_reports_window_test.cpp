@@ -10,6 +10,7 @@
 #include "support/captioned.h"
 #include "support/test_application.h"
 #include "support/window_test.h"
+#include "ui/qt_events.h"
 
 namespace tallix {
 namespace {
@@ -135,6 +136,28 @@ TEST_F(ScheduledReportsWindowTest, SavesEditsAndDeletesAScheduleWithItsTask) {
     EXPECT_EQ(world.crontab.Text(), "");
     EXPECT_THAT(Listed(), IsEmpty());
     EXPECT_TRUE(std::filesystem::is_empty(Scheduled()));
+}
+
+TEST_F(ScheduledReportsWindowTest, StaysWhileATaskIsMade) {
+    forms.Find(kSchedulesForm)->Unload();
+    ui::QtEvents events;
+    Application served{world.application.folder,
+                       world.application.tempFolder,
+                       world.application.version,
+                       world.application.settings,
+                       world.application.prompts,
+                       world.application.clock,
+                       events,
+                       Session()};
+    forms.Register(kSchedulesForm, [&] { return std::make_unique<ScheduledReportsWindow>(forms, served); });
+    forms.Show(kSchedulesForm);
+    Later([this] {
+        Later([this] { forms.Find(kSchedulesForm)->close(); });
+        Create("Week", "Weekly");
+        EXPECT_EQ(Listed(), QStringList("Week"));
+        QCoreApplication::quit();
+    });
+    RunToTheEnd();
 }
 
 TEST_F(ScheduledReportsWindowTest, ANameThatIsNoFileNameGoesNowhere) {
