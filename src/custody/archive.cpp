@@ -44,10 +44,10 @@ const Message& Warning() {
     static const Message warning = {
         "Archive",
         "WARNING! - You are about to perform an archive of call data. This may result in a degrade in "
-        "system performance.\r\n"
+        "system performance.\n"
         "During archiving, the Tallix collector will be stopped resulting in no new Tallix data being "
         "input into the system. It is therefore recommended that you perform an archive at quiet periods "
-        "of the day.\r\n\r\n"
+        "of the day.\n\n"
         "Are you sure you wish to run the archive?",
         MessageIcon::Exclamation, MessageButtons::YesNo};
     return warning;

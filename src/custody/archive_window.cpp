@@ -101,9 +101,9 @@ QWidget* ArchiveWindow::ArchiveFrame() {
 
 void ArchiveWindow::AddPeriodRows(QGridLayout& grid) {
     year_->setFixedWidth(kFieldWidth);
+    QLabel* hint = LabelFor(*year_, kYearHint);
     year_->setAccessibleName(entireYear_->text());
     year_->setAccessibleDescription(kYearHint);
-    QLabel* hint = LabelFor(*year_, kYearHint);
     ui::MakeQuiet(*hint);
     QLabel* between = LabelFor(*firstMonth_, "Between:");
     QLabel* andLabel = LabelFor(*lastMonth_, "And");
@@ -132,6 +132,7 @@ void ArchiveWindow::AddDestinationRows(QGridLayout& grid) {
 QLabel* ArchiveWindow::LabelFor(QWidget& input, const QString& caption) {
     auto* label = new QLabel(caption);
     label->setBuddy(&input);
+    input.setAccessibleName(caption);  // a list would go by what is chosen
     return label;
 }
 

@@ -6,6 +6,9 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
+#include <array>
+#include <thread>
+
 #include "support/smtp_server.h"
 
 namespace tallix {
@@ -40,6 +43,17 @@ public:
     }
     ~SilentServer() { close(socket_); }
     int Port() const { return port_; }
+
+    /// Takes one caller, answers as if it were to take a mail, and hangs up.
+    void HangUpInTheMiddle() const {
+        const int caller = accept(socket_, nullptr, nullptr);
+        std::array<char, 512> command{};
+        for (const std::string_view reply : {"220 here\r\n", "250 greetings\r\n", "250 sender\r\n"}) {
+            send(caller, reply.data(), reply.size(), MSG_NOSIGNAL);
+            recv(caller, command.data(), command.size(), 0);
+        }
+        close(caller);
+    }
 
 private:
     int socket_;
@@ -130,6 +144,12 @@ TEST(MailSystem, ServersThatDoNotServeEndTheSendInTime) {
         EXPECT_LT(steady_clock::now() - start, std::chrono::seconds(5));
     }
     const auto start = steady_clock::now();
+    {
+        const SilentServer dropping;
+        address.port = dropping.Port();
+        const std::jthread serving([&] { dropping.HangUpInTheMiddle(); });
+        EXPECT_FALSE(SendMail(kMail, address)) << "hung up on";
+    }
     EXPECT_FALSE(SendMail(kMail, address));  // now nobody listens there
     for (const char* host : {"", "no such host", "mail.example.test/path", "a\r\nb"}) {
         EXPECT_FALSE(SendMail(kMail, {host, 25, true, "", "", false})) << host;
