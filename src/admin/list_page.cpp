@@ -1,5 +1,6 @@
 #include "admin/list_page.h"
 
+#include "ui/button_row.h"
 #include "ui/style.h"
 
 namespace tallix {
@@ -17,12 +18,7 @@ QBoxLayout* NamedList(const QString& name, ui::ListView& list) {
 }
 
 QBoxLayout* ListButtons(const QList<QPushButton*>& forList, const QList<QPushButton*>& forRow) {
-    auto* row = new QHBoxLayout;
-    row->setSpacing(ui::kSpacing);
-    for (QPushButton* button : forList) row->addWidget(button);
-    row->addStretch();
-    for (QPushButton* button : forRow) row->addWidget(button);
-    return row;
+    return ui::ButtonRow(forList, forRow);
 }
 
 void ArrangePage(QWidget& page, const QList<QLayout*>& parts) {

@@ -18,6 +18,7 @@
 #include "admin/system_page.h"
 #include "admin/user_groups_page.h"
 #include "foundation/access_rights.h"
+#include "ui/button_row.h"
 #include "ui/dialog_keys.h"
 #include "ui/forms.h"
 #include "ui/held_window.h"
@@ -80,12 +81,7 @@ QLayout* OptionsWindow::ButtonRow() {
     exit_->setToolTip("Close without saving changes");
     connect(save_, &QPushButton::clicked, this, &OptionsWindow::SaveAndExit);
     connect(exit_, &QPushButton::clicked, this, &OptionsWindow::close);
-    auto* row = new QHBoxLayout;
-    row->setSpacing(ui::kSpacing);
-    row->addStretch();
-    row->addWidget(save_);
-    row->addWidget(exit_);
-    return row;
+    return ui::ButtonRow({}, {save_, exit_});
 }
 
 // The side list goes by subject; the lists are loaded in an order of their own.

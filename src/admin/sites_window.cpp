@@ -6,6 +6,7 @@
 
 #include "admin/mappings.h"
 #include "foundation/form_names.h"
+#include "ui/button_row.h"
 #include "ui/dialog_keys.h"
 #include "ui/forms.h"
 #include "ui/style.h"
@@ -81,12 +82,7 @@ SitesWindow::SitesWindow(ui::Forms& forms, Application& application)
 QLayout* SitesWindow::ButtonRow() {
     save_->setToolTip("Close and save changes");
     exit_->setToolTip("Close without saving changes");
-    auto* row = new QHBoxLayout;
-    row->setSpacing(ui::kSpacing);
-    for (QPushButton* button : {add_, edit_, delete_}) row->addWidget(button);
-    row->addStretch();
-    for (QPushButton* button : {save_, exit_}) row->addWidget(button);
-    return row;
+    return ui::ButtonRow({add_, edit_, delete_}, {save_, exit_});
 }
 
 void SitesWindow::ConnectButtons() {

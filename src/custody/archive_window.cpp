@@ -6,6 +6,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "ui/button_row.h"
 #include "ui/dialog_keys.h"
 #include "ui/main_menu_form.h"
 #include "ui/style.h"
@@ -171,12 +172,7 @@ QWidget* ArchiveWindow::ProgressFrame() {
 }
 
 QLayout* ArchiveWindow::ButtonRow() {
-    auto* row = new QHBoxLayout;
-    row->setSpacing(ui::kSpacing);
-    row->addStretch();
-    row->addWidget(begin_);
-    row->addWidget(close_);
-    return row;
+    return ui::ButtonRow({}, {begin_, close_});
 }
 
 void ArchiveWindow::ConnectInputs() {

@@ -10,6 +10,7 @@
 #include "foundation/access_log.h"
 #include "foundation/access_rights.h"
 #include "reporting/catalogue.h"
+#include "ui/button_row.h"
 #include "ui/dialog_keys.h"
 #include "ui/style.h"
 
@@ -174,12 +175,7 @@ QLayout* CustomReportsWindow::ButtonRow() {
     delete_->setToolTip("Click here to delete this report");
     run_->setToolTip("Click here to run the report");
     cancel_->setToolTip("Click here to close");
-    auto* row = new QHBoxLayout;
-    row->setSpacing(ui::kSpacing);
-    row->addWidget(delete_);
-    row->addStretch();
-    for (QPushButton* button : {save_, run_, cancel_}) row->addWidget(button);
-    return row;
+    return ui::ButtonRow({delete_}, {save_, run_, cancel_});
 }
 
 void CustomReportsWindow::ConnectInputs() {

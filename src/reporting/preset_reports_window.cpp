@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "foundation/access_rights.h"
+#include "ui/button_row.h"
 #include "ui/choice_lists.h"
 #include "ui/dialog_keys.h"
 #include "ui/style.h"
@@ -142,12 +143,7 @@ void PresetReportsWindow::NameInputs() {
 
 QLayout* PresetReportsWindow::ButtonRow() {
     run_->setEnabled(false);
-    auto* row = new QHBoxLayout;
-    row->setSpacing(ui::kSpacing);
-    row->addStretch();
-    row->addWidget(run_);
-    row->addWidget(cancel_);
-    return row;
+    return ui::ButtonRow({}, {run_, cancel_});
 }
 
 void PresetReportsWindow::ConnectInputs() {

@@ -7,6 +7,7 @@
 
 #include "foundation/access_log.h"
 #include "foundation/form_names.h"
+#include "ui/button_row.h"
 #include "ui/forms.h"
 #include "ui/style.h"
 
@@ -61,13 +62,7 @@ QLayout* AccessLoggingWindow::ButtonRow() {
     connect(clearLog, &QPushButton::clicked, this,
             [this] { ClearAccessLog(application_.session, application_.clock); });
     connect(exit, &QPushButton::clicked, this, &AccessLoggingWindow::Unload);
-    auto* row = new QHBoxLayout;
-    row->setSpacing(ui::kSpacing);
-    row->addWidget(exportLog);
-    row->addWidget(clearLog);
-    row->addStretch();
-    row->addWidget(exit);
-    return row;
+    return ui::ButtonRow({exportLog, clearLog}, {exit});
 }
 
 QPushButton* AccessLoggingWindow::Button(const QString& caption) {

@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "ui/artwork.h"
+#include "ui/button_row.h"
 #include "ui/dialog_keys.h"
 #include "ui/main_menu_form.h"
 #include "ui/style.h"
@@ -133,12 +134,7 @@ QLayout* LoginWindow::InputRows() {
 }
 
 QLayout* LoginWindow::ButtonRow() {
-    auto* row = new QHBoxLayout;
-    row->setSpacing(ui::kSpacing);
-    row->addStretch();
-    row->addWidget(loginButton_);
-    row->addWidget(exitButton_);
-    return row;
+    return ui::ButtonRow({}, {loginButton_, exitButton_});
 }
 
 void LoginWindow::OnUnload() {

@@ -1,0 +1,16 @@
+#include "ui/button_row.h"
+
+#include "ui/style.h"
+
+namespace tallix::ui {
+
+QBoxLayout* ButtonRow(const QList<QPushButton*>& left, const QList<QPushButton*>& right) {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(kSpacing);
+    for (QPushButton* button : left) row->addWidget(button);
+    row->addStretch();
+    for (QPushButton* button : right) row->addWidget(button);
+    return row;
+}
+
+}  // namespace tallix::ui
