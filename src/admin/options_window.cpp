@@ -21,7 +21,7 @@
 #include "ui/button_row.h"
 #include "ui/dialog_keys.h"
 #include "ui/forms.h"
-#include "ui/held_window.h"
+#include "ui/held_open.h"
 #include "ui/main_menu_form.h"
 #include "ui/style.h"
 

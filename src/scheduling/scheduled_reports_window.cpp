@@ -9,7 +9,7 @@
 #include "ui/choice_lists.h"
 #include "ui/dialog_keys.h"
 #include "ui/forms.h"
-#include "ui/held_window.h"
+#include "ui/held_open.h"
 #include "ui/style.h"
 
 namespace tallix {

@@ -9,7 +9,7 @@
 #include <functional>
 
 #include "foundation/event_queue.h"
-#include "ui/held_window.h"
+#include "ui/held_open.h"
 #include "ui/progress_panel.h"
 
 namespace tallix::ui {

@@ -1,4 +1,4 @@
-#include "ui/held_window.h"
+#include "ui/held_open.h"
 
 #include <QEvent>
 
