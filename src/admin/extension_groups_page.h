@@ -4,8 +4,8 @@
 
 #include <QLineEdit>
 
-#include "admin/options_page.h"
 #include "admin/list_page.h"
+#include "admin/options_page.h"
 #include "foundation/application.h"
 #include "ui/entry_panel.h"
 #include "ui/list_view.h"

@@ -35,8 +35,9 @@ TEST_F(ServiceScriptTest, IsLeftToItselfWhenTheLimitIsOver) {
     EXPECT_FALSE(Run("sleep 1\necho stopped > done\n", 100ms));
     EXPECT_LT(std::chrono::steady_clock::now() - start, 900ms);
     EXPECT_EQ(Done(), "");
-    EXPECT_FALSE(RunServiceScript(folder_.Write("wait", "for i in $(seq 200); do test -e done && break; sleep 0.05; done"),
-                                  folder_.Path(), 200ms, [] {}));
+    EXPECT_FALSE(RunServiceScript(
+        folder_.Write("wait", "for i in $(seq 200); do test -e done && break; sleep 0.05; done"),
+        folder_.Path(), 200ms, [] {}));
     EXPECT_TRUE(RunServiceScript(folder_.Path() / "wait", folder_.Path(), 10s, [] {}))
         << "the first script went on and has ended";
 }

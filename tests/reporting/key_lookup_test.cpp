@@ -13,8 +13,8 @@ TEST(KeyLookup, ABareKeyIsComparedAsANumberByTheServerAndInMemory) {
     test.Insert("tblextensions", {{"ExtensionNo", "201"}, {"Name", "Ann"}});
     test.Insert("tblextensions", {{"ExtensionNo", "Reception"}, {"Name", "Ben"}});
     OpenDatabase(test.application.session);
-    const KeyLookupNames names = {"tblextensions", "SELECT * FROM tblextensions WHERE ExtensionNo = ",
-                                  "ExtensionNo", "Name"};
+    const KeyLookupNames names = {"tblextensions",
+                                  "SELECT * FROM tblextensions WHERE ExtensionNo = ", "ExtensionNo", "Name"};
     KeyLookupNames bare = names;
     bare.form = KeyForm::Bare;
     KeyLookup quotedNames(test.application.session, test.events, names);
