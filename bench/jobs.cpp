@@ -15,6 +15,7 @@
 #include "custody/restore.h"
 #include "floors.h"
 #include "foundation/database.h"
+#include "reporting/custom_reports.h"
 #include "reporting/report_run.h"
 #include "ui/progress_panel.h"
 #include "ui/qt_events.h"
@@ -75,6 +76,15 @@ struct ShownWork {
 std::int64_t PlainReport(World& world) {
     NoProgress nobody;
     return RunReport(world, kPlainColumns, "", kUnattendedRules, nobody);
+}
+
+std::int64_t CustomPage(World& world) {
+    CustomReport report;
+    report.shown.fill(true);
+    ReportFlags flags;
+    NoProgress nobody;
+    ReportRun(world.application, flags, nobody).Make(DescribeCustomRun("Bench", report));
+    return static_cast<std::int64_t>(std::filesystem::file_size(PageFile(world.application)));
 }
 
 std::int64_t FullReport(World& world, const std::string& costCompute) {
@@ -291,6 +301,7 @@ std::vector<Job> Jobs() {
          FetchAndWrite,
          {},
          true},
+        {"custom report, all fields", 2.5, CustomPage, FetchAndWrite, {}, true},
         {"dump", 1.5, Dump, FetchAndWrite},
         {"compute costs", 1.5, Costs, SendCosts},
         {"unattended report, name, area, country, stored cost",
