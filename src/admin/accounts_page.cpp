@@ -19,11 +19,10 @@ const Message kNotEdited = {
     "Access Rights", "You cannot edit the Access rights of the Administrator account. Operation cancelled!",
     MessageIcon::Exclamation};
 constexpr char kAccessWarning[] =
-    "WARNING! - YOU ARE ABOUT TO MODIFY USER PERMISSIONS\nIf you set these permissions incorrectly, you may "
-    "lock "
-    "yourself out of the Tallix system. Please ensure you have an account capable of performing user access "
-    "changes before commiting these changes.\n\nAre you sure you want to set these permissions for the "
-    "user: ";
+    "WARNING! - YOU ARE ABOUT TO MODIFY USER PERMISSIONS\r\n"
+    "If you set these permissions incorrectly, you may lock yourself out of the Tallix system. Please ensure "
+    "you have an account capable of performing user access changes before commiting these changes.\r\n\r\n"
+    "Are you sure you want to set these permissions for the user: ";
 
 }  // namespace
 
@@ -43,9 +42,10 @@ AccountsPage::AccountsPage(Application& application, QWidget* parent)
       permissions_(new ui::PermissionList),
       accessUser_(new QLabel),
       accessRights_(new ui::PermissionList) {
-    ArrangePage(*this, {NamedList("User Accounts", *list_), ListButtons({access_}, {add_, edit_, delete_})});
+    ArrangePage(*this, {OnlyList("User Accounts", *list_), ListButtons({access_}, {add_, edit_, delete_})});
     MakeAccountPanel();
     MakeAccessPanel();
+    PressOnActivation(*list_, *edit_);
     connect(list_, &ui::ListView::SelectionMoved, this, &AccountsPage::EnableButtons);
     EnableButtons();
 }
@@ -150,14 +150,23 @@ void AccountsPage::SaveAccount() {
         application_.prompts.Show(*refusal);
         return;
     }
-    if (edits_) {
-        EditAccount(application_, account);
-    } else if (!AddAccount(application_, account)) {
+    if (edits_ ? Edit(account) : Add(account)) accountPanel_->hide();
+}
+
+bool AccountsPage::Add(const Account& account) {
+    if (!AddAccount(application_, account)) {
         application_.prompts.Show(kNameTaken);
-        return;
+        return false;
     }
-    accountPanel_->hide();
     Load();
+    return true;
+}
+
+// The row stays selected: its rights may be next.
+bool AccountsPage::Edit(const Account& account) {
+    EditAccount(application_, account);
+    list_->Rows().SetText(list_->SelectedRow(), kEmail, QString::fromStdString(account.email));
+    return true;
 }
 
 // Nothing is asked before.

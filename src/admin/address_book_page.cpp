@@ -38,6 +38,7 @@ AddressBookPage::AddressBookPage(Application& application, QWidget* parent)
     auto* remove =
         ActionButton(this, "Delete Number", "Click to delete selected number", &AddressBookPage::Delete);
     ArrangePage(*this, {NamedList("Current Numbers", *list_), ListButtons({import}, {add, edit, remove})});
+    PressOnActivation(*list_, *edit);
     name_->setToolTip("Enter a name");
     number_->setToolTip("Enter a number");
     panel_ = new ui::EntryPanel(*this);

@@ -34,6 +34,7 @@ ExtensionsPage::ExtensionsPage(Application& application, QWidget* parent)
       name_(new QLineEdit) {
     ArrangePage(*this,
                 {NamedList("Extensions Data", *list_), ListButtons({getFromData_}, {add_, edit_, delete_})});
+    PressOnActivation(*list_, *edit_);
     panel_ = new ui::EntryPanel(*this);
     panel_->AddInput("Number:", number_);
     panel_->AddInput("Name:", name_);
@@ -50,10 +51,10 @@ void ExtensionsPage::Load() {
 }
 
 void ExtensionsPage::ApplyRights(std::string_view access) {
-    getFromData_->setEnabled(Allows(access, AccessRight::GetFromData));
-    add_->setEnabled(Allows(access, AccessRight::AddExtension));
-    edit_->setEnabled(Allows(access, AccessRight::EditExtension));
-    delete_->setEnabled(Allows(access, AccessRight::DeleteExtension));
+    getFromData_->setVisible(Allows(access, AccessRight::GetFromData));
+    add_->setVisible(Allows(access, AccessRight::AddExtension));
+    edit_->setVisible(Allows(access, AccessRight::EditExtension));
+    delete_->setVisible(Allows(access, AccessRight::DeleteExtension));
 }
 
 bool ExtensionsPage::IsGranted(std::string_view access) const {
@@ -109,11 +110,10 @@ void ExtensionsPage::Save() {
 }
 
 // The panel stays for the next one. A number that is listed already is not added, without a
-// word, and stays in its field.
+// word.
 void ExtensionsPage::AddLine() {
     const Extension extension{number_->text().toStdString(), name_->text().toStdString()};
-    if (IsListed(extension.number)) return;
-    list_->Rows().Append(RowOf(extension));
+    if (!IsListed(extension.number)) list_->Rows().Append(RowOf(extension));
     number_->clear();
     name_->clear();
     number_->setFocus();

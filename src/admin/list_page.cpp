@@ -5,16 +5,28 @@
 
 namespace tallix {
 
-QBoxLayout* NamedList(const QString& name, ui::ListView& list) {
-    auto* label = new QLabel(name);
-    label->setBuddy(&list);
+QBoxLayout* OnlyList(const QString& name, ui::ListView& list) {
     list.setObjectName(name);
     list.setAccessibleName(name);
     auto* rows = new QVBoxLayout;
     rows->setSpacing(ui::kSpacing);
-    rows->addWidget(label);
     rows->addWidget(&list, 1);
     return rows;
+}
+
+QBoxLayout* NamedList(const QString& name, ui::ListView& list) {
+    auto* label = new QLabel(name);
+    label->setBuddy(&list);
+    QBoxLayout* rows = OnlyList(name, list);
+    rows->insertWidget(0, label);
+    return rows;
+}
+
+// A hidden button can be clicked by the program.
+void PressOnActivation(const ui::ListView& list, QPushButton& button) {
+    QObject::connect(&list, &ui::ListView::activated, &button, [&button] {
+        if (button.isVisible()) button.click();
+    });
 }
 
 QBoxLayout* ListButtons(const QList<QPushButton*>& forList, const QList<QPushButton*>& forRow) {

@@ -18,8 +18,14 @@ QPushButton* ActionButton(Page* page, const QString& caption, const QString& tip
     return button;
 }
 
+/// The list of a page whose title says what is listed.
+QBoxLayout* OnlyList(const QString& name, ui::ListView& list);
+
 /// A list below the label that names it.
 QBoxLayout* NamedList(const QString& name, ui::ListView& list);
+
+/// Enter and a double click on a row press the button, where it shows.
+void PressOnActivation(const ui::ListView& list, QPushButton& button);
 
 /// Buttons side by side: what concerns the whole list, then, at the far end, what concerns
 /// a row of it.

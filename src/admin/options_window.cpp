@@ -49,6 +49,7 @@ OptionsWindow::OptionsWindow(ui::Forms& forms, Application& application)
     entries_->setFixedWidth(kListWidth);
     entries_->setAccessibleName("Pages");
     entries_->setSpacing(ui::kGrid / 4);
+    entries_->ensurePolished();  // entries that are chosen before they show are measured with the right style
     MakePages();
     auto* columns = new QHBoxLayout;
     columns->setSpacing(3 * ui::kSpacing);

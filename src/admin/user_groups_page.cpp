@@ -30,8 +30,9 @@ UserGroupsPage::UserGroupsPage(Application& application, QWidget* parent)
       name_(new QLineEdit),
       rights_(new ui::PermissionList) {
     auto* add = ActionButton(this, "Add", "Add a user group", &UserGroupsPage::OpenAdd);
-    ArrangePage(*this, {NamedList("User Groups", *list_), ListButtons({}, {add, edit_, delete_})});
+    ArrangePage(*this, {OnlyList("User Groups", *list_), ListButtons({}, {add, edit_, delete_})});
     MakePanel();
+    PressOnActivation(*list_, *edit_);
     connect(list_, &ui::ListView::SelectionMoved, this, &UserGroupsPage::EnableButtons);
     EnableButtons();
 }

@@ -38,6 +38,9 @@ QLabel& EntryPanel::AddInput(const QString& label, QWidget* input) {
     auto* words = new QLabel(label, &Card());
     words->setBuddy(input);
     input->setMinimumWidth(kInputWidth);
+    input->ensurePolished();
+    const bool isOneLine = input->sizePolicy().verticalPolicy() == QSizePolicy::Fixed;
+    if (isOneLine) words->setMinimumHeight(input->sizeHint().height());  // in the middle of its row
     inputs_->addRow(words, input);
     setTabOrder(input, save_);
     setTabOrder(save_, cancel_);
@@ -54,6 +57,7 @@ void EntryPanel::AddRow(QLayout* row) {
 
 void EntryPanel::Open(const QString& title) {
     SetTitle(title);
+    focusBefore_ = window()->focusWidget();
     show();
     if (const QList<QWidget*> chain = FocusChain(); !chain.isEmpty()) chain.first()->setFocus();
 }
@@ -68,8 +72,15 @@ QList<QWidget*> EntryPanel::FocusChain() const {
     return chain;
 }
 
+void EntryPanel::hideEvent(QHideEvent* event) {
+    Overlay::hideEvent(event);
+    const bool isInside = isAncestorOf(window()->focusWidget());
+    if (isInside && focusBefore_ != nullptr) focusBefore_->setFocus();
+}
+
 // What lies beneath is greyed and cannot be clicked, so the keyboard must not reach it either.
 bool EntryPanel::focusNextPrevChild(bool next) {
+    if (!isVisible()) return Overlay::focusNextPrevChild(next);
     const QList<QWidget*> chain = FocusChain();
     if (chain.isEmpty()) return false;
     const qsizetype place = chain.indexOf(focusWidget());

@@ -1,6 +1,6 @@
 // A small form laid over a page: a title, inputs with their labels, and the buttons "Save"
-// and "Cancel". The keyboard stays in it until one of them is pressed; Enter saves where
-// the input takes no Enter itself, Escape cancels.
+// and "Cancel". The keyboard stays in it until one of them is pressed and then goes back to
+// where it was; Enter saves where the input takes no Enter itself, Escape cancels.
 //
 //     panel_ = new ui::EntryPanel(*this);
 //     panel_->AddInput("Number:", number_);
@@ -9,6 +9,7 @@
 #pragma once
 
 #include <QFormLayout>
+#include <QPointer>
 #include <QPushButton>
 
 #include "ui/overlay.h"
@@ -42,12 +43,14 @@ signals:
     void Cancelled();
 
 private:
+    void hideEvent(QHideEvent* event) override;
     bool focusNextPrevChild(bool next) override;
     QList<QWidget*> FocusChain() const;
 
     QFormLayout* inputs_;
     QPushButton* save_;
     QPushButton* cancel_;
+    QPointer<QWidget> focusBefore_;  ///< has it again when the panel is gone
 };
 
 }  // namespace tallix::ui

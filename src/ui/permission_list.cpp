@@ -12,6 +12,7 @@ constexpr int kHeight = 30 * kGrid;
 
 PermissionList::PermissionList(QWidget* parent) : QListWidget(parent) {
     setMinimumHeight(kHeight);
+    ensurePolished();  // rows that are scrolled before they show are measured with the right style
     for (const std::string_view label : kRightLabels) {
         auto* right =
             new QListWidgetItem(QString::fromUtf8(label.data(), static_cast<qsizetype>(label.size())), this);

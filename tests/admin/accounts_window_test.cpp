@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QTest>
+
 #include "admin/user_groups.h"
 #include "admin/user_groups_page.h"
 #include "support/captioned.h"
@@ -58,8 +60,16 @@ TEST_F(AccountsPageTest, AnAccountIsMadeAndGivenRights) {
         const std::string after = ReadAccount(test_.application.session, "Ann").access;
         EXPECT_EQ(after, answer == Answer::Yes ? std::string(42, '1') : before);
     }
+    auto& list = *page->findChild<ui::ListView*>();
+    list.setFocus();
+    QTest::keyClick(&list, Qt::Key_Return);
+    EXPECT_TRUE(Button(*page, "Save").isVisible());
+    Type(*page, "Email:", "ann@example.com");
+    QTest::keyClick(page->focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(list.Rows().All().at(0), (ui::ListRow{"Ann", "ann@example.com"}));
+    EXPECT_EQ(page->focusWidget(), &list);
     Button(*page, "Delete").click();
-    EXPECT_EQ(page->findChild<ui::ListView*>()->Rows().Count(), 0);
+    EXPECT_EQ(list.Rows().Count(), 0);
     EXPECT_FALSE(Button(*page, "Delete").isEnabled());
     page->ApplyRights(std::string(42, '0'));
     EXPECT_THROW(Button(*page, "Add"), std::runtime_error);
