@@ -1,6 +1,7 @@
 // Text files that somebody else may have written, read line by line in bounded memory: lines end
 // with CR LF, LF or the file, and each is taken as UTF-8 where it is valid UTF-8, as
-// Windows-1252 otherwise. Any bytes and any length of line are a text.
+// Windows-1252 otherwise. A byte order mark before the first one is no part of it. Any bytes
+// and any length of line are a text.
 //
 //     TextLines lines(file);
 //     while (const std::string* line = lines.Next()) Use(*line);

@@ -19,6 +19,9 @@ TEST(TextLinesTest, ReadsAnyFile) {
         {"\n", {""}},
         {"a\r\nb\nc", {"a", "b", "c"}},
         {"a\rb\r\n\r\n", {"a\rb", ""}},
+        {"\xEF\xBB\xBF"
+         "2001,A\n\xEF\xBB\xBF",
+         {"2001,A", "\uFEFF"}},
         {"caf\xE9\ncaf\xC3\xA9\n", {"café", "café"}},
         {std::string("\0\xFF", 2), {std::string("\0ÿ", 3)}},
         {huge + "\nb", {huge, "b"}},
