@@ -148,10 +148,11 @@ void EditAccount(Application& application, const Account& account) {
     Session& session = application.session;
     LogAccount(application, "User Account Modified - ", account.userName);
     OpenDatabase(session);
-    ado::Recordset row = OpenAccount(session, NormalUserName(account.userName));
+    const std::string name = NormalUserName(account.userName);
+    ado::Recordset row = OpenAccount(session, name);
     if (row.RecordCount() > 0) {
         CollectDetails(row, account);
-        if (account.userName != kAdministrator) {
+        if (name != kAdministrator) {
             row.Collect("GroupID", GroupIdOf(session, account.group));
             row.Collect("AccessType", EncipherForStorage(account.access));
         }

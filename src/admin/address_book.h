@@ -26,7 +26,7 @@ bool AddKnownNumber(Session& session, const KnownNumber& entry);
 /// Gives the number its new name. False where there is no such number.
 bool RenameKnownNumber(Session& session, const KnownNumber& entry);
 
-/// Harmless where there is no such number; of several one goes.
+/// Harmless where there is no such number. Of several one goes, with those of its name.
 void DeleteKnownNumber(Session& session, std::string_view number);
 
 /// Adds each line of a file: the number before the first comma, the name all that is behind

@@ -1,7 +1,7 @@
 // User groups: names with a set of rights, which replace those of their members at login.
 // Every action writes at once, over a connection of its own, and throws DatabaseError. A
-// name goes into the statements as it is: one that holds the quote of the database makes
-// a statement that the server refuses.
+// name goes into the statements as it is: one that holds the session's quote ends its
+// literal there, which the server mostly refuses.
 #pragma once
 
 #include <string>

@@ -15,6 +15,7 @@ using testing::ElementsAre;
 
 const std::string kAll(42, '1');
 const std::string kNone(42, '0');
+const std::string kDesk = "O'Neil's \\ 50%";
 
 class AccountsTest : public test::EngineTest {
 protected:
@@ -46,10 +47,10 @@ TEST_P(AccountsTest, AreAddedChangedAndDeleted) {
     EXPECT_TRUE(AddAccount(test_.application, {"jOHN", "x", "j@x", "", kAll})) << "a second John";
     EXPECT_THAT(Names(), ElementsAre("John", "John"));
 
-    EXPECT_TRUE(AddUserGroup(session_, "Desk", kAll));
-    EXPECT_TRUE(AddAccount(test_.application, {"O'neill", "1", "@", "Desk", ""}));
+    EXPECT_TRUE(AddUserGroup(session_, kDesk, kAll));
+    EXPECT_TRUE(AddAccount(test_.application, {"O'neill", "1", "@", kDesk, ""}));
     Account oneill = ReadAccount(session_, "O'neill");
-    EXPECT_EQ(oneill.group + oneill.email + oneill.password, "Desk@1");
+    EXPECT_EQ(oneill.group + oneill.email + oneill.password, kDesk + "@1");
     oneill.password = "2";
     oneill.group = "";
     oneill.access = "1" + kNone.substr(1);
@@ -67,7 +68,7 @@ TEST_P(AccountsTest, AreAddedChangedAndDeleted) {
 
 TEST_P(AccountsTest, TheAdministratorIsProtectedAndAttemptsAreLogged) {
     AddAccount(test_.application, {"administrator", "x", "a@x", "", ""});
-    EditAccount(test_.application, {"Administrator", "y", "b@x", "none", kAll});
+    EditAccount(test_.application, {"administrator", "y", "b@x", "none", kAll});
     const Account kept = ReadAccount(session_, "Administrator");
     EXPECT_EQ(kept.password + kept.email, "yb@x");
     EXPECT_EQ(kept.access, AccessOfNewAccount());
@@ -75,21 +76,21 @@ TEST_P(AccountsTest, TheAdministratorIsProtectedAndAttemptsAreLogged) {
     EXPECT_FALSE(AddAccount(test_.application, {"Administrator", "x", "a@x", "", ""}));
     EXPECT_THAT(Names(), ElementsAre("Administrator"));
     EXPECT_THAT(Log(),
-                ElementsAre("User Account Created - administrator", "User Account Modified - Administrator",
+                ElementsAre("User Account Created - administrator", "User Account Modified - administrator",
                             "User Account Deleted - Administrator", "User Account Created - Administrator"));
 }
 
 TEST_P(AccountsTest, AGroupThatGoesLeavesItsMembersTheirOwnRights) {
-    AddUserGroup(session_, "Desk", kNone);
+    AddUserGroup(session_, kDesk, kNone);
     AddUserGroup(session_, "Back", kNone);
-    EXPECT_FALSE(AddUserGroup(session_, "Desk", kAll));
+    EXPECT_FALSE(AddUserGroup(session_, kDesk, kAll));
     EXPECT_FALSE(EditUserGroup(session_, "Front", kAll));
-    EXPECT_TRUE(EditUserGroup(session_, "Desk", kAll));
-    AddAccount(test_.application, {"ann", "x", "a@x", "Desk", ""});
+    EXPECT_TRUE(EditUserGroup(session_, kDesk, kAll));
+    AddAccount(test_.application, {"ann", "x", "a@x", kDesk, ""});
     AddAccount(test_.application, {"bob", "x", "b@x", "Back", ""});
     EXPECT_TRUE(CanLogIn("ann", "x"));
     EXPECT_EQ(session_.CurrentAccess, kAll);
-    DeleteUserGroup(session_, "Desk");
+    DeleteUserGroup(session_, kDesk);
     EXPECT_THAT(LoadUserGroups(session_), ElementsAre("Back"));
     EXPECT_TRUE(CanLogIn("ann", "x"));
     EXPECT_EQ(session_.CurrentAccess, AccessOfNewAccount());
