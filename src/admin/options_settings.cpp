@@ -6,12 +6,14 @@
 
 #include "admin/report_design.h"
 #include "foundation/code_page.h"
+#include "platform/whole_file.h"
 
 namespace tallix {
 namespace {
 
 constexpr char kCollectorFolder[] = "Collector";
 constexpr std::string_view kLineEnd = "\r\n";
+constexpr mode_t kModeOfNewFile = 0644;
 
 constexpr std::array<SettingChoice, 2> kOffOn = {{{"0", ""}, {"1", ""}}};
 constexpr std::array<SettingChoice, 2> kNetworkOrSerial = {{{"1", ""}, {"2", ""}}};
@@ -170,10 +172,9 @@ void WriteSettings(const SettingsStore& settings, const OptionsValues& values,
 
 void WriteCommandFile(const Application& application, const OptionsValues& values, std::string_view name) {
     const std::filesystem::path file = CommandFilePath(application, name);
-    std::ofstream stream(file, std::ios::binary | std::ios::trunc);
-    stream << ToAnsi(values.find(name)->second) << kLineEnd;
-    stream.close();
-    if (!stream) throw std::runtime_error("The file " + file.string() + " cannot be written");
+    const auto text = [&](const std::string&) { return ToAnsi(values.find(name)->second).append(kLineEnd); };
+    if (RewriteWholeFile(file, kModeOfNewFile, text)) return;
+    throw std::runtime_error("The file " + file.string() + " cannot be written");
 }
 
 }  // namespace tallix

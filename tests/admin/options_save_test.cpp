@@ -2,16 +2,24 @@
 
 #include <gmock/gmock.h>
 
+#include "admin/accounts.h"
+#include "admin/address_book.h"
+#include "admin/user_groups.h"
 #include "foundation/access_log.h"
 #include "foundation/ado/recordset.h"
 #include "foundation/database.h"
+#include "support/fork.h"
 #include "support/test_application.h"
 
 namespace tallix {
 namespace {
 
 using Names = std::vector<std::string>;
+using testing::AnyOf;
 using testing::ElementsAreArray;
+using testing::HasSubstr;
+using testing::Not;
+using testing::UnorderedElementsAreArray;
 
 class OptionsSaveTest : public testing::Test {
 protected:
@@ -106,6 +114,46 @@ TEST_F(OptionsSaveTest, AFailureEndsItWhereItIsWithTheExtensionsLost) {
     EXPECT_NE(world.settings.Read("SwitchStop"), "");
     EXPECT_EQ(world.settings.Read("CostCompute"), "");
     EXPECT_THAT(world.prompts.messages, testing::IsEmpty());
+}
+
+// Of a setting the later save counts, and so it does of the extensions, unless both saves
+// emptied their table before either filled it.
+TEST_F(OptionsSaveTest, TwoAdministratorsAtOnceLoseNothingOfEachOther) {
+    constexpr int kRounds = 2;
+    Application& program = world.application;
+    world.settings.Write("DBIP", "of nobody");
+    OptionsOnScreen others = screen;
+    others.extensions = {{"401", "Cid"}, {"402", "Dan"}};
+    for (auto& [key, value] : others.values) value += value.ends_with("£") ? " of Bob, and longer" : "";
+    const auto administer = [&](const std::string& user, const OptionsOnScreen& shown) {
+        program.session.CurrentUser = user;
+        for (int round = 0; round < kRounds; ++round) {
+            const std::string name = user + std::to_string(round);
+            AddAccount(program, {name, "x", "@", "", ""});
+            AddUserGroup(program.session, name, std::string(42, '1'));
+            AddKnownNumber(program.session, {name, name});
+            SaveOptions(program, shown);
+        }
+        return world.prompts.messages.size() == kRounds;  // none but those that all is saved
+    };
+    const pid_t other = test::Fork([&] { return administer("Bob", others); });
+    EXPECT_TRUE(administer("Ann", screen));
+    EXPECT_EQ(test::WaitFor(other), 0);
+
+    EXPECT_EQ(LoadAccounts(program.session).size(), 2 * kRounds);
+    EXPECT_EQ(LoadUserGroups(program.session).size(), 2 * kRounds);
+    EXPECT_EQ(LoadAddressBook(program.session).size(), 2 * kRounds);
+    EXPECT_EQ(ReadAccessLog(program.session).size(), 4 * kRounds);
+    std::vector<Extension> both = screen.extensions;
+    both.insert(both.end(), others.extensions.begin(), others.extensions.end());
+    EXPECT_THAT(LoadExtensions(program.session),
+                AnyOf(UnorderedElementsAreArray(screen.extensions),
+                      UnorderedElementsAreArray(others.extensions), UnorderedElementsAreArray(both)));
+    EXPECT_EQ(world.settings.Read("DBIP"), "of nobody");
+    for (const auto& [key, value] : LoadOptions(program)) {
+        EXPECT_THAT(value, AnyOf(screen.values.at(key), others.values.at(key))) << key;
+    }
+    EXPECT_THAT(world.crontab.Text(), Not(HasSubstr("\n#"))) << "one task";
 }
 
 TEST_F(OptionsSaveTest, ASettingThatCannotBeWrittenShowsItsMessageAndStopsNothing) {

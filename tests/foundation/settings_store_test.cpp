@@ -3,11 +3,10 @@
 #include <gmock/gmock.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <csignal>
 
+#include "support/fork.h"
 #include "support/scripted_prompts.h"
 #include "support/temp_folder.h"
 
@@ -41,16 +40,10 @@ protected:
     /// Runs `body` in a process of its own, which ends with 1 if it showed a message.
     template <typename Body>
     pid_t Fork(Body body) {
-        const pid_t child = fork();
-        if (child != 0) return child;
-        body();
-        _exit(prompts_.messages.empty() ? 0 : 1);
-    }
-
-    static int WaitFor(pid_t child) {
-        int status = 0;
-        waitpid(child, &status, 0);
-        return WEXITSTATUS(status);
+        return test::Fork([&] {
+            body();
+            return prompts_.messages.empty();
+        });
     }
 
     test::TempFolder folder_;
@@ -145,7 +138,7 @@ TEST_F(SettingsStoreTest, WritersAtTheSameTimeLoseNothing) {
             }
         });
     }
-    for (const pid_t writer : writers) EXPECT_EQ(WaitFor(writer), 0);
+    for (const pid_t writer : writers) EXPECT_EQ(test::WaitFor(writer), 0);
     for (int value = 0; value < kWriters * kValues; ++value) {
         EXPECT_EQ(settings_.Read(std::to_string(value)), "kept") << value;
     }
@@ -165,7 +158,7 @@ TEST_F(SettingsStoreTest, AKilledWriterLeavesAWholeHive) {
         });
         usleep(static_cast<useconds_t>(1000 + 700 * round));
         kill(writer, SIGKILL);
-        WaitFor(writer);
+        test::WaitFor(writer);
         const std::string value = settings_.Read("Value");
         EXPECT_TRUE(value == first || value == second);
     }
@@ -176,7 +169,7 @@ TEST_F(SettingsStoreTest, AKilledWriterLeavesAWholeHive) {
 TEST_F(SettingsStoreTest, AFullDiskLeavesTheOldHive) {
     settings_.Write("Value", "old");
     const std::string before = ReadBytes(hive_);
-    const int status = WaitFor(Fork([&] {
+    const int status = test::WaitFor(Fork([&] {
         std::signal(SIGXFSZ, SIG_IGN);
         const rlimit limit{16, 16};
         setrlimit(RLIMIT_FSIZE, &limit);
