@@ -111,9 +111,10 @@ std::string AccountsPage::SelectedName() const {
     return list_->Rows().Text(list_->SelectedRow(), kUserName).toStdString();
 }
 
+// Shows the rights that the account gets, whatever is ticked.
 void AccountsPage::OpenAdd() {
     edits_ = false;
-    OpenAccount("Add User", {});
+    OpenAccount("Add User", {.access = AccessOfNewAccount()});
 }
 
 void AccountsPage::OpenEdit() {

@@ -43,6 +43,9 @@ TEST_F(AccountsPageTest, AnAccountIsMadeAndGivenRights) {
     const auto page = Open<AccountsPage>();
     EXPECT_FALSE(Button(*page, "Access").isEnabled());
     Button(*page, "Add").click();
+    const auto& shown =
+        dynamic_cast<ui::PermissionList&>(*test::Captioned<QLabel>(*page, "Permissions:").buddy());
+    EXPECT_EQ(shown.Access(), AccessOfNewAccount());
     Type(*page, "Username:", "ann");
     Type(*page, "Password:", "secret");
     Type(*page, "Email:", "nowhere");
