@@ -151,7 +151,12 @@ void AccountsPage::SaveAccount() {
         application_.prompts.Show(*refusal);
         return;
     }
-    if (edits_ ? Edit(account) : Add(account)) accountPanel_->hide();
+    if (edits_) {
+        Edit(account);
+    } else if (!Add(account)) {
+        return;
+    }
+    accountPanel_->hide();
 }
 
 bool AccountsPage::Add(const Account& account) {
@@ -164,10 +169,9 @@ bool AccountsPage::Add(const Account& account) {
 }
 
 // The row stays selected: its rights may be next.
-bool AccountsPage::Edit(const Account& account) {
+void AccountsPage::Edit(const Account& account) {
     EditAccount(application_, account);
     list_->Rows().SetText(list_->SelectedRow(), kEmail, QString::fromStdString(account.email));
-    return true;
 }
 
 // Nothing is asked before.

@@ -34,8 +34,8 @@ private:
     void OpenAccount(const char* title, const Account& account);
     Account Typed() const;
     void SaveAccount();
-    bool Add(const Account& account);
-    bool Edit(const Account& account);
+    bool Add(const Account& account);  // false where the name is taken
+    void Edit(const Account& account);
     void Delete();
     void OpenAccess();
     void SaveAccess();

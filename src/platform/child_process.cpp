@@ -2,11 +2,9 @@
 
 #include <spawn.h>
 #include <sys/mman.h>
-#include <sys/wait.h>
-
-#include <cerrno>
 
 #include "platform/descriptor.h"
+#include "platform/detached_process.h"
 
 namespace tallix {
 namespace {
@@ -43,14 +41,6 @@ private:
     posix_spawn_file_actions_t actions_{};
 };
 
-int WaitFor(pid_t child) {
-    int state = 0;
-    while (waitpid(child, &state, 0) < 0) {
-        if (errno != EINTR) return -1;
-    }
-    return WIFEXITED(state) ? WEXITSTATUS(state) : -1;
-}
-
 }  // namespace
 
 ChildResult RunChild(const std::vector<std::string>& command, std::string_view input) {
@@ -70,7 +60,7 @@ ChildResult RunChild(const std::vector<std::string>& command, std::string_view i
     pid_t child = 0;
     if (posix_spawnp(&child, pointers.front(), redirections.Get(), nullptr, pointers.data(), environ) != 0)
         return {};
-    const int status = WaitFor(child);
+    const int status = WaitForChild(child);
     return {status, TextOf(out), TextOf(error)};
 }
 

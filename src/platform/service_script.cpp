@@ -2,15 +2,13 @@
 
 #include <fcntl.h>
 #include <poll.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include <array>
-#include <cerrno>
 #include <cstdlib>
 #include <string>
 
-#include "platform/become_program.h"
+#include "platform/detached_process.h"
 
 namespace tallix {
 namespace {
@@ -18,11 +16,6 @@ namespace {
 using WaitClock = std::chrono::steady_clock;  // a clock of the day would be set back at times
 
 constexpr int kPollMilliseconds = 20;
-
-void WaitForChild(pid_t child) {
-    while (child > 0 && waitpid(child, nullptr, 0) < 0 && errno == EINTR) {
-    }
-}
 
 /// Keeps `pipe` open, and nothing else of this program's, for as long as the script runs.
 [[noreturn]] void WatchScript(char* const* arguments, const char* from, int pipe) {
@@ -32,18 +25,6 @@ void WaitForChild(pid_t child) {
     if (script == 0 && chdir(from) == 0) BecomeProgram(arguments);
     WaitForChild(script);
     _exit(EXIT_SUCCESS);
-}
-
-/// The process that watches the script is the child of a child that has ended, and thus
-/// leaves nothing behind for this program to wait for, whenever the script ends.
-void StartWatched(char* const* arguments, const char* from, int pipe) {
-    const pid_t child = fork();
-    if (child == 0) {
-        setsid();
-        if (fork() == 0) WatchScript(arguments, from, pipe);
-        _exit(EXIT_SUCCESS);
-    }
-    WaitForChild(child);
 }
 
 /// Whether the pipe's other end is closed, waiting for that a moment.
@@ -60,7 +41,7 @@ bool RunServiceScript(const std::filesystem::path& script, const std::filesystem
     std::array<char*, 3> arguments{line[0].data(), line[1].data(), nullptr};
     std::array<int, 2> ends{};
     if (pipe2(ends.data(), O_CLOEXEC) != 0) return true;
-    StartWatched(arguments.data(), from.c_str(), ends[1]);
+    RunDetached([&] { WatchScript(arguments.data(), from.c_str(), ends[1]); });
     close(ends[1]);
     const auto end = WaitClock::now() + limit;
     bool ended = IsClosed(ends[0]);

@@ -1,16 +1,14 @@
 #include "platform/shell_command.h"
 
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cctype>
-#include <cerrno>
 #include <cstdlib>
 #include <optional>
 #include <sstream>
 
-#include "platform/become_program.h"
+#include "platform/detached_process.h"
 #include "platform/paths.h"
 
 namespace tallix {
@@ -141,20 +139,11 @@ Arguments ProgramFor(const fs::path& program) {
     return SameName(program);
 }
 
-/// The child of a child that has ended belongs to nobody, so that nobody has to wait
-/// for it, and it outlives this program.
-void StartDetached(Arguments arguments) {
+void Start(Arguments arguments) {
     std::vector<char*> pointers;
     for (std::string& argument : arguments) pointers.push_back(argument.data());
     pointers.push_back(nullptr);
-    const pid_t child = fork();
-    if (child == 0) {
-        setsid();
-        if (fork() == 0) BecomeProgram(pointers.data());
-        _exit(EXIT_SUCCESS);
-    }
-    while (child > 0 && waitpid(child, nullptr, 0) < 0 && errno == EINTR) {
-    }
+    RunDetached([&] { BecomeProgram(pointers.data()); });
 }
 
 }  // namespace
@@ -176,7 +165,7 @@ std::vector<std::string> TranslateCommand(const ShellCommand& command) {
 
 void Shell(std::string_view commandLine) {
     Arguments line = TranslateCommand(ReadShellCommand(commandLine));
-    if (!line.empty()) StartDetached(std::move(line));
+    if (!line.empty()) Start(std::move(line));
 }
 
 }  // namespace tallix

@@ -1,9 +1,9 @@
-#include "platform/become_program.h"
+#include "platform/detached_process.h"
 
 #include <fcntl.h>
-#include <unistd.h>
+#include <sys/wait.h>
 
-#include <cstdlib>
+#include <cerrno>
 
 namespace tallix {
 namespace {
@@ -11,6 +11,15 @@ namespace {
 constexpr int kFirstOwnDescriptor = 3;
 
 }  // namespace
+
+int WaitForChild(pid_t child) {
+    int state = 0;
+    if (child <= 0) return -1;
+    while (waitpid(child, &state, 0) < 0) {
+        if (errno != EINTR) return -1;
+    }
+    return WIFEXITED(state) ? WEXITSTATUS(state) : -1;
+}
 
 void BecomeProgram(char* const* arguments) {
     const int null = open("/dev/null", O_RDWR);
