@@ -60,9 +60,8 @@ const Message kBackedUp = {
 const Message kRestoreQuestion = {
     "Restore",
     "WARNING!!!\nRestoring data into the Tallix database REMOVES old data first. Please ensure you have a "
-    "recent "
-    "backup of your data as well as checking that you have selected the appropriate options for the "
-    "resotration.\n\nAre you sure you wish to restore the database?",
+    "recent backup of your data as well as checking that you have selected the appropriate options for "
+    "the resotration.\n\nAre you sure you wish to restore the database?",
     MessageIcon::Exclamation, MessageButtons::YesNo};
 const Message kRestored = {
     "Restore Complete",
