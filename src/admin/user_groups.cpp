@@ -41,7 +41,7 @@ std::vector<std::string> LoadUserGroups(Session& session) {
 std::string ReadGroupAccess(Session& session, const std::string& name) {
     const ado::Recordset group = OpenGroup(session, name);
     const bool found = group.RecordCount() > 0;
-    const std::string access = found ? DecipherFromStorage(group.Text("Group_Access")) : "";
+    std::string access = found ? DecipherFromStorage(group.Text("Group_Access")) : "";
     CloseDatabase(session);
     return access;
 }

@@ -118,7 +118,7 @@ std::filesystem::path TestApplication::WriteReport(const std::string& name, cons
                                                    const Row& options) {
     KeyList columns = {{}, "False"};
     for (std::size_t i = 0; i < kDataKeys; ++i) columns.keys.emplace_back(NameOf(static_cast<DataKey>(i)));
-    const std::filesystem::path file = PresetReportFile(application.folder, name);
+    std::filesystem::path file = PresetReportFile(application.folder, name);
     std::filesystem::create_directories(file.parent_path());
     std::ofstream(file, std::ios::binary) << "[Data]\r\n" + Keys(columns, data) + "[Options]\r\n" +
                                                  Keys(kSwitches, options) + Keys(kTexts, options);
