@@ -5,12 +5,10 @@
 #include <gmock/gmock.h>
 #include <signal.h>
 
-#include <QElapsedTimer>
 #include <QTest>
 #include <thread>
 
-#include "foundation/ado/recordset.h"
-#include "foundation/database.h"
+#include "foundation/access_log.h"
 #include "foundation/form_names.h"
 #include "foundation/page_setup.h"
 #include "reporting/destinations_window.h"
@@ -76,13 +74,8 @@ protected:
     }
 
     template <typename Condition>
-    bool WaitFor(Condition condition) {
-        QElapsedTimer waited;
-        waited.start();
-        while (!condition() && waited.elapsed() < kPatience) {
-            QApplication::processEvents(QEventLoop::AllEvents, kPause);
-        }
-        return condition();
+    static bool WaitFor(Condition condition) {
+        return QTest::qWaitFor(condition, kPatience);
     }
 
     QWidget* Output() { return forms.Find(kReportOutputForm); }
@@ -100,15 +93,8 @@ protected:
         return false;
     }
     std::vector<std::string> LoggedEvents() {
-        Session& session = test_.application.session;
-        OpenDatabase(session);
-        ado::Recordset rows;
-        rows.Open("SELECT * FROM tbllogging", OpenConnection(session));
         std::vector<std::string> events;
-        for (std::int64_t i = 0; i < rows.RecordCount(); ++i, rows.MoveNext()) {
-            events.emplace_back(rows.Text("Data"));
-        }
-        CloseDatabase(session);
+        for (const AccessLogRow& row : ReadAccessLog(test_.application.session)) events.push_back(row[3]);
         return events;
     }
 
@@ -123,7 +109,8 @@ std::string TextOf(const std::filesystem::path& pdf) {
     return test::RunProgram("/usr/bin/pdftotext", {"-layout", pdf.string(), "-"}).out;
 }
 
-TEST_F(ReportOutputTest, ShowsTheReportAndDeletesItWhenClosed) {
+TEST_F(ReportOutputTest, ShowsTheReportPrintsItAndDeletesItWhenClosed) {
+    const test::PrintServer server(kPrinter);
     WritePage(3);
     forms.Show(kMainForm);
     Deliver({});
@@ -141,6 +128,14 @@ TEST_F(ReportOutputTest, ShowsTheReportAndDeletesItWhenClosed) {
     EXPECT_THAT(text.toStdString(), HasSubstr("Caf\xC3\xA9"));
     EXPECT_THAT(text.toStdString(), HasSubstr("Total Number Of Records: 3"));
 
+    Button("Print Report")->click();
+    printers_.answer = PrintTicket{.printer = kPrinter};
+    Button("Print Report")->click();
+    EXPECT_TRUE(WaitFor([&] { return !server.Jobs().empty(); }));
+    EXPECT_EQ(server.Jobs().size(), 1U) << "the first was answered with Cancel";
+    EXPECT_THAT(TextOf(server.Jobs().front()), HasSubstr("Page 1 of 1\n"));
+    EXPECT_THAT(LoggedEvents(), ElementsAre("Report Run - Calls", "Report Printed", "Report Printed"));
+
     Output()->activateWindow();
     view->setFocus();
     EXPECT_TRUE(QTest::qWaitForWindowActive(Output()));
@@ -150,63 +145,35 @@ TEST_F(ReportOutputTest, ShowsTheReportAndDeletesItWhenClosed) {
     EXPECT_FALSE(std::filesystem::exists(PageFile(test_.application)));
 }
 
-TEST_F(ReportOutputTest, PrintsEachPageWithItsNumberAlthoughTheWindowIsGone) {
+TEST_F(ReportOutputTest, PrintsEachPageWithItsNumberThoughTheLastWindowIsGone) {
     const test::PrintServer server(kPrinter);
     WritePage(150);
     WritePageSetup(test_.settings, {"mine", "&bmine too"});
-    Deliver({.destination = Destination::ToPrinter, .printer = kPrinter});
-    EXPECT_EQ(Output(), nullptr);
-    EXPECT_FALSE(std::filesystem::exists(PageFile(test_.application)));
-    const PageSetup kept = ReadPageSetup(test_.settings);
-    EXPECT_EQ(kept.header + "|" + kept.footer, "mine|&bmine too");
-
-    ASSERT_TRUE(WaitFor([&] { return !server.Jobs().empty(); }));
-    const std::string text = TextOf(server.Jobs().front());
-    EXPECT_THAT(text, HasSubstr("Caf\xC3\xA9"));
-    EXPECT_THAT(text, HasSubstr("Page 1 of 3\n"));
-    EXPECT_THAT(text, HasSubstr("Page 3 of 3\n"));
-    EXPECT_THAT(text, testing::Not(HasSubstr("mine")));
-    EXPECT_THAT(LoggedEvents(), ElementsAre("Report Run - Calls"));
-}
-
-TEST_F(ReportOutputTest, AProcessThatEndsWaitsForItsPrinting) {
-    const test::PrintServer server(kPrinter);
-    WritePage(20);
+    Deliver({.destination = Destination::ToPrinter, .printer = "Back_Office"});
+    EXPECT_NE(forms.Find(kPresetReportsForm), nullptr) << "the printer is not there";
+    EXPECT_FALSE(SpoolDocument({.printer = "Back_Office"}, "%PDF-1.4"));
     Later([&] {
         Deliver({.destination = Destination::ToPrinter, .printer = kPrinter});
+        EXPECT_EQ(Output(), nullptr);
+        EXPECT_FALSE(std::filesystem::exists(PageFile(test_.application)));
         forms.Unload(kMainForm);
     });
     EXPECT_EQ(RunToTheEnd(), 0);
     for (int waited = 0; server.Jobs().empty() && waited < kPatience; waited += kPause) {
         std::this_thread::sleep_for(std::chrono::milliseconds(kPause));  // of the spooler alone
     }
-    EXPECT_EQ(server.Jobs().size(), 1U);
+    ASSERT_EQ(server.Jobs().size(), 1U);
+    const std::string text = TextOf(server.Jobs().front());
+    EXPECT_THAT(text, HasSubstr("Caf\xC3\xA9"));
+    EXPECT_THAT(text, HasSubstr("Page 1 of 3\n"));
+    EXPECT_THAT(text, HasSubstr("Page 3 of 3\n"));
+    EXPECT_THAT(text, testing::Not(HasSubstr("mine")));
+    const PageSetup kept = ReadPageSetup(test_.settings);
+    EXPECT_EQ(kept.header + "|" + kept.footer, "mine|&bmine too");
+    EXPECT_THAT(LoggedEvents(), ElementsAre("Report Run - Calls"));
 }
 
-TEST_F(ReportOutputTest, APrinterThatIsGonePrintsNothingAndLeavesTheRequestOpen) {
-    const test::PrintServer server(kPrinter);
-    WritePage(1);
-    Deliver({.destination = Destination::ToPrinter, .printer = "Back_Office"});
-    EXPECT_NE(forms.Find(kPresetReportsForm), nullptr);
-    EXPECT_EQ(Output(), nullptr);
-    EXPECT_FALSE(SpoolDocument({.printer = "Back_Office"}, "%PDF-1.4"));
-}
-
-TEST_F(ReportOutputTest, PrintReportIsLoggedWhetherOrNotThePersonPrints) {
-    const test::PrintServer server(kPrinter);
-    WritePage(1);
-    Deliver({});
-    EXPECT_TRUE(WaitFor([&] { return !WaitingFrame()->isVisible(); }));
-    Button("Print Report")->click();
-    printers_.answer = PrintTicket{.printer = kPrinter};
-    Button("Print Report")->click();
-    EXPECT_TRUE(WaitFor([&] { return !server.Jobs().empty(); }));
-    EXPECT_EQ(server.Jobs().size(), 1U);
-    EXPECT_THAT(TextOf(server.Jobs().front()), HasSubstr("Page 1 of 1\n"));
-    EXPECT_THAT(LoggedEvents(), ElementsAre("Report Run - Calls", "Report Printed", "Report Printed"));
-}
-
-TEST_F(ReportOutputTest, ADatabaseThatIsGoneIsPassedOverAndTheSessionsMenuComesBack) {
+TEST_F(ReportOutputTest, ADatabaseThatIsGoneIsPassedOverAndOnlyTheRightOffersToPrint) {
     test_.application.session.UseStatsMain = true;
     forms.Show(kStatisticsForm);
     Deliver({});
@@ -216,9 +183,7 @@ TEST_F(ReportOutputTest, ADatabaseThatIsGoneIsPassedOverAndTheSessionsMenuComesB
     Button("Close")->click();
     EXPECT_TRUE(forms.Find(kStatisticsForm)->isVisible());
     EXPECT_FALSE(forms.Find(kMainForm)->isVisible());
-}
 
-TEST_F(ReportOutputTest, WithoutTheRightThereIsNoPrintButton) {
     test_.application.session.CurrentAccess[6] = '0';
     Deliver({});
     EXPECT_FALSE(Button("Print Report")->isVisible());
