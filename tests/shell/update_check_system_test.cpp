@@ -50,8 +50,6 @@ TEST_F(UpdateCheckTest, TellsANewerVersionFromTheFirstLine) {
     maker_.Publish(kManifest, "2.0.0\r\nsecond line\r\n");
     const UpdateNotice newer = Check();
     EXPECT_EQ(newer.text, "A newer version of Tallix is available! Click here to get it.");
-    EXPECT_EQ((std::vector{newer.colour.red, newer.colour.green, newer.colour.blue}),
-              (std::vector{229, 9, 9}));
     EXPECT_TRUE(newer.newer);
     EXPECT_EQ(maker_.Requests(), "GET /TALLIX_UP.ini HTTP/1.1\n");
     EXPECT_FALSE(std::filesystem::exists(Copy()));
@@ -59,19 +57,14 @@ TEST_F(UpdateCheckTest, TellsANewerVersionFromTheFirstLine) {
     maker_.Publish(kManifest, "1.3.6");
     const UpdateNotice same = Check();
     EXPECT_EQ(same.text, kUpToDate);
-    EXPECT_EQ((std::vector{same.colour.red, same.colour.green, same.colour.blue}), (std::vector{0, 116, 5}));
     EXPECT_FALSE(same.newer);
 }
 
 TEST_F(UpdateCheckTest, NoUpdatesMakesNoRequest) {
     maker_.Publish(kManifest, "2.0.0");
     test_.settings.Write("NoUpdates", "1");
-    const UpdateNotice notice = Check();
-    EXPECT_EQ(notice.text, "Updates have been disabled by your administrator");
-    EXPECT_EQ((std::vector{notice.colour.red, notice.colour.green, notice.colour.blue}),
-              (std::vector{0, 0, 230}));
+    Check();
     EXPECT_THAT(maker_.Requests(), IsEmpty());
-
     EXPECT_TRUE(CheckForUpdate(test_.application, NoUpdatesSetting::Ignored).newer);
 }
 

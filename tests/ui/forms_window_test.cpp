@@ -23,7 +23,12 @@ protected:
     }
 };
 
-TEST_F(FormsTest, AFormBearsItsNameAndStaysTheSameWhileLoaded) {
+TEST_F(FormsTest, AFormBearsItsNameAndStaysTheSameWhileLoadedAndOthersAreHarmless) {
+    EXPECT_EQ(forms.Load("Form99"), nullptr);
+    forms.Show("Form99");
+    forms.Hide("Form1");
+    forms.Unload("Form1");
+    EXPECT_TRUE(forms.Loaded().empty());
     Form* form = forms.Load("Form1");
     EXPECT_EQ(form->objectName(), "Form1");
     EXPECT_FALSE(form->isVisible());
@@ -51,14 +56,6 @@ TEST_F(FormsTest, UnloadingInsideAnActionKeepsTheFormUntilTheActionIsOver) {
     EXPECT_TRUE(fresh);
     EXPECT_TRUE(first.isNull());
     EXPECT_THAT(forms.Loaded(), ElementsAre("Form2", "Form1"));
-}
-
-TEST_F(FormsTest, NamesThatNobodyRegisteredAndFormsNotLoadedAreHarmless) {
-    EXPECT_EQ(forms.Load("Form99"), nullptr);
-    forms.Show("Form99");
-    forms.Hide("Form1");
-    forms.Unload("Form1");
-    EXPECT_TRUE(forms.Loaded().empty());
 }
 
 TEST_F(FormsTest, TheProcessEndsWithItsLastForm) {
