@@ -7,7 +7,6 @@
 
 #include "admin/address_book.h"
 #include "admin/extension_groups.h"
-#include "foundation/ado/recordset.h"
 #include "foundation/database.h"
 #include "foundation/errors.h"
 #include "support/engine_test.h"
@@ -64,9 +63,7 @@ TEST_P(AdminLists, AGroupThatGoesTakesTheMembersOfTheOneAbove) {
     EXPECT_THAT(LoadGroupMembers(session_, 1), ElementsAre("201"));
     EXPECT_THAT(LoadGroupMembers(session_, 2), IsEmpty());
     EXPECT_THAT(LoadGroupMembers(session_, 3), ElementsAre("203"));
-    ado::Recordset members;
-    members.Open("select * from tblgroupmap where Extension = '203'", *connection_);
-    EXPECT_EQ(members.Text("GroupID"), "4");
+    EXPECT_EQ(test_.Rows("select GroupID from tblgroupmap where Extension = '203'"), "4|\n");
 }
 
 TEST_P(AdminLists, NumbersAreAddedOnceRenamedAndDeleted) {

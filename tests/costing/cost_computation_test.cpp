@@ -1,27 +1,13 @@
 #include "costing/cost_computation.h"
 
-#include <fmt/format.h>
 #include <gtest/gtest.h>
 
-#include "foundation/ado/recordset.h"
-#include "foundation/database.h"
 #include "support/test_application.h"
 
 namespace tallix {
 namespace {
 
-// "DataID Cost;" of every row.
-std::string StoredCosts(Session& session) {
-    OpenDatabase(session);
-    ado::Recordset rows;
-    rows.Open("SELECT * FROM tblcostcount ORDER BY DataID", OpenConnection(session));
-    std::string costs;
-    for (std::int64_t i = 1; i <= rows.RecordCount(); ++i, rows.MoveNext()) {
-        costs += fmt::format("{} {};", rows.Text("DataID"), rows.Text("Cost"));
-    }
-    CloseDatabase(session);
-    return costs;
-}
+constexpr char kStoredCosts[] = "SELECT DataID, Cost FROM tblcostcount ORDER BY DataID";
 
 TEST(CostComputation, EveryOutsideCallWithADurationGetsOneRowAndOldOnesGo) {
     test::TestApplication test;
@@ -34,11 +20,11 @@ TEST(CostComputation, EveryOutsideCallWithADurationGetsOneRowAndOldOnesGo) {
     test.Execute("INSERT INTO tblphonedata(ID, Internal, Duration) VALUES (5, '0', '00:10:00')");
     EXPECT_EQ(ComputeCosts(test.application.session, test.settings), 3);
     EXPECT_EQ(test.application.session.DBConn, nullptr);
-    EXPECT_EQ(StoredCosts(test.application.session), "1 0.15;4 0.02;5 0.20;");
+    EXPECT_EQ(test.Rows(kStoredCosts), "1|0.15|\n4|0.02|\n5|0.20|\n");
 
     test.settings.Write("Billing", "S");
     ComputeCosts(test.application.session, test.settings);
-    EXPECT_EQ(StoredCosts(test.application.session), "1 7.50;4 1.20;5 12.00;");
+    EXPECT_EQ(test.Rows(kStoredCosts), "1|7.50|\n4|1.20|\n5|12.00|\n");
 }
 
 TEST(CostComputation, FailuresOfTheDatabaseArePassedOver) {

@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 
 #include "custody/archive.h"
-#include "foundation/ado/recordset.h"
 #include "foundation/database.h"
 #include "foundation/errors.h"
 #include "foundation/schema.h"
@@ -16,8 +15,6 @@ namespace {
 
 using test::ReadLines;
 using test::RunProgram;
-using testing::ElementsAre;
-using testing::IsEmpty;
 using testing::SizeIs;
 
 /// Answers as a window would, and notes what it was told.
@@ -40,19 +37,8 @@ public:
     std::function<void()> strike;
 };
 
-std::vector<std::string> Stored(const test::TestApplication& test, const std::string& table,
-                                const char* column = "ID") {
-    ado::Connection connection;
-    connection.ConnectionString = ConnectionText(test.application.session);
-    connection.Open();
-    ado::Recordset rows;
-    rows.Open("select * from " + table + (table == "tbllogging" ? "" : " order by ID"), connection);
-    std::vector<std::string> texts;
-    for (std::int64_t i = 0; i < rows.RecordCount(); ++i, rows.MoveNext()) {
-        texts.emplace_back(rows.Item(column).value_or("NULL"));
-    }
-    return texts;
-}
+constexpr char kCalls[] = "select ID from tblphonedata order by ID";
+constexpr char kArchived[] = "select ID, Date, Error, Site from tblarchive order by ID";
 
 ArchiveRequest WholeYear(const char* year, ArchiveDestination destination) {
     return {.period = ArchivePeriod::EntireYear,
@@ -80,7 +66,7 @@ TEST_P(Archives, TakeTheCallsWhoseTextLiesBetweenTheMonths) {
                      ArchiveDestination::ToFile,    {"any", file}};
     RunArchive(test_.application, view_);
     EXPECT_EQ(view_.told, "show lock clear hide reset");
-    EXPECT_THAT(Stored(test_, "tblphonedata"), ElementsAre("1", "5", "6"));
+    EXPECT_EQ(test_.Rows(kCalls), "1|\n5|\n6|\n");
     EXPECT_EQ(RunProgram("/usr/bin/unzip", {"-t", file}).status, 0);
     EXPECT_EQ(RunProgram("/usr/bin/unzip", {"-p", file, "archive.tmp"}).out,
               "Tallix Archive File\r\nGenerated on: 09/03/2021\r\n"
@@ -89,18 +75,15 @@ TEST_P(Archives, TakeTheCallsWhoseTextLiesBetweenTheMonths) {
               "4 31/06/2010 10:15:00 00:02:30 201 3 201 01632960123 0 0 0 0 0 T001 Zo\xEB\r\n");
     EXPECT_FALSE(std::filesystem::exists(test_.application.folder / "archive.tmp"));
     EXPECT_EQ(test_.prompts.messages.back().title, "Archive Complete!");
-    EXPECT_THAT(Stored(test_, "tbllogging", "Data"), ElementsAre("Data Archived"));
+    EXPECT_EQ(test_.Rows("select Data from tbllogging"), "Data Archived|\n");
 }
 
 TEST_P(Archives, TakeTheYearIntoTheTableWithNullsAndSites) {
     test_.Execute("UPDATE tblphonedata SET Error = NULL, Site = '002' WHERE ID = 5");
     view_.request = WholeYear("2010", ArchiveDestination::ToDatabase);
     RunArchive(test_.application, view_);
-    EXPECT_THAT(Stored(test_, "tblphonedata"), ElementsAre("1", "2", "6"));
-    EXPECT_THAT(Stored(test_, "tblarchive"), ElementsAre("1", "2", "3"));
-    EXPECT_THAT(Stored(test_, "tblarchive", "Date"), ElementsAre("01/01/2010", "31/06/2010", "02/07/2010"));
-    EXPECT_THAT(Stored(test_, "tblarchive", "Error"), ElementsAre("0", "0", "NULL"));
-    EXPECT_THAT(Stored(test_, "tblarchive", "Site"), ElementsAre("001", "001", "002"));
+    EXPECT_EQ(test_.Rows(kCalls), "1|\n2|\n6|\n");
+    EXPECT_EQ(test_.Rows(kArchived), "1|01/01/2010|0|001|\n2|31/06/2010|0|001|\n3|02/07/2010|NULL|002|\n");
     test_.Execute("DELETE FROM tblphonedata");
     test_.prompts.answers = {Answer::Yes};
     EXPECT_THROW(RunArchive(test_.application, view_), DatabaseError)
@@ -122,8 +105,8 @@ TEST(BrokenArchive, LosesNoCallWithItsServer) {
         view.strikesAt = 4;
         const std::size_t rows = destination == ArchiveDestination::ToDatabase ? 3 : 0;
         view.strike = [&] {
-            EXPECT_THAT(Stored(test, "tblphonedata"), ElementsAre("4", "5", "6"));
-            EXPECT_THAT(Stored(test, "tblarchive"), SizeIs(rows));
+            EXPECT_EQ(test.Rows(kCalls), "4|\n5|\n6|\n");
+            EXPECT_EQ(test.Rows("select count(*) from tblarchive"), std::to_string(rows) + "|\n");
             server.Stop();
         };
         test.prompts.answers = {Answer::Yes};
@@ -147,9 +130,9 @@ TEST(BrokenArchive, LosesNoCallWithAFullDiskButAllWithoutItsZipFile) {
         EXPECT_THROW(RunArchive(test.application, view), std::runtime_error);
     }
     EXPECT_THAT(ReadLines(test.application.folder / "archive.tmp"), SizeIs(2 + 3 + 1)) << "the last in part";
-    EXPECT_THAT(Stored(test, "tblphonedata"), ElementsAre("4", "5", "6"));
+    EXPECT_EQ(test.Rows(kCalls), "4|\n5|\n6|\n");
     RunArchive(test.application, view);
-    EXPECT_THAT(Stored(test, "tblphonedata"), IsEmpty());
+    EXPECT_EQ(test.Rows(kCalls), "");
     EXPECT_EQ(test.prompts.messages.back().title, "Archive Complete!");
 }
 

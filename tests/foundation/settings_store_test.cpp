@@ -1,14 +1,10 @@
 #include "foundation/settings_store.h"
 
 #include <gmock/gmock.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 
-#include <csignal>
-
+#include "support/faults.h"
 #include "support/fork.h"
-#include "support/scripted_prompts.h"
-#include "support/temp_folder.h"
 
 namespace tallix {
 namespace {
@@ -170,9 +166,7 @@ TEST_F(SettingsStoreTest, AFullDiskLeavesTheOldHive) {
     settings_.Write("Value", "old");
     const std::string before = ReadBytes(hive_);
     const int status = test::WaitFor(Fork([&] {
-        std::signal(SIGXFSZ, SIG_IGN);
-        const rlimit limit{16, 16};
-        setrlimit(RLIMIT_FSIZE, &limit);
+        const test::FullDisk full(16);
         settings_.Write("Value", "new");
     }));
     EXPECT_EQ(status, 1) << "the failed write was told";

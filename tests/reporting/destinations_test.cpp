@@ -50,34 +50,29 @@ protected:
     RecordedWindows windows_;
 };
 
-TEST_F(DestinationsTest, TheListShowsWhatTheSettingsNameAndNotepad) {
+TEST_F(DestinationsTest, TheListShowsWhatTheSettingsNameAndEachEntryHasItsCommandOrNone) {
     EXPECT_THAT(ExternalApplications(test_.settings), ElementsAre("Microsoft Notepad"));
-    StoreEveryFolder();
-    EXPECT_THAT(ExternalApplications(test_.settings),
-                ElementsAre("Microsoft Excel 2010", "Microsoft Excel 2007", "Microsoft Excel 2003",
-                            "Microsoft Excel 2000", "QS Notera V3", "OpenOffice.org 3.0 Calc",
-                            "OpenOffice.org 2.0 Calc", "Microsoft Notepad"));
-}
-
-TEST_F(DestinationsTest, EachEntryHasItsCommandOrNone) {
     StoreEveryFolder();
     setenv("SystemRoot", "C:\\Windows", 1);
     const std::string file = " \"" + test_.application.tempFolder.string() + "\\rpt.csv\"";
-    const std::pair<const char*, std::string> commands[] = {
-        {"microsoft NOTEPAD", "C:\\Windows\\SYSTEM32\\notepad.exe" + file},
+    const std::pair<const char*, std::string> listed[] = {
         {"Microsoft Excel 2010", ""},
         {"Microsoft Excel 2007", "C:\\Office12.0\\Excel.exe" + file},
         {"Microsoft Excel 2003", "C:\\Office11.0\\Excel.exe" + file},
         {"Microsoft Excel 2000", "C:\\Office9.0\\Excel.exe" + file},
         {"QS Notera V3", ""},
-        {"Notera V3", "C:\\Notera\\Notera.exe" + file},
         {"OpenOffice.org 3.0 Calc", "C:\\OO3\\scalc.exe" + file},
         {"OpenOffice.org 2.0 Calc", "\\scalc.exe" + file},
-        {"", ""},
+        {"Microsoft Notepad", "C:\\Windows\\SYSTEM32\\notepad.exe" + file},
     };
-    for (const auto& [entry, command] : commands) {
+    std::vector<std::string> entries;
+    for (const auto& [entry, command] : listed) {
+        entries.emplace_back(entry);
         EXPECT_EQ(ExternalCommand(test_.application, entry), command) << entry;
     }
+    EXPECT_EQ(ExternalApplications(test_.settings), entries);
+    EXPECT_EQ(ExternalCommand(test_.application, "notera v3"), "C:\\Notera\\Notera.exe" + file);
+    EXPECT_EQ(ExternalCommand(test_.application, ""), "");
     unsetenv("SystemRoot");
     Store("Software\\OpenOffice.org\\OpenOffice.org\\3.0", "Path", "short");
     EXPECT_EQ(ExternalCommand(test_.application, "OpenOffice.org 3.0 Calc"), "");

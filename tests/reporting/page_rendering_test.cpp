@@ -26,6 +26,12 @@ std::string Golden(const std::string& name, const std::filesystem::path& folder)
 
 class PageTest : public ::testing::Test {
 protected:
+    PageTest() {
+        test.Execute(
+            "INSERT INTO tblsite(ID, Name, Addy1, Addy2, Addy3, Postcode) VALUES ('001', 'Head Office', "
+            "'1 High Street', '', '', 'NT1 1AA')");
+    }
+
     void Run(const RunInputs& inputs, bool commaText) {
         ReportRun run(test.application, flags, progress);
         run.Make({.reportName = "Golden",
@@ -41,9 +47,6 @@ protected:
 };
 
 TEST_F(PageTest, HasOneOfThreeShapes) {
-    test.Execute(
-        "INSERT INTO tblsite(ID, Name, Addy1, Addy2, Addy3, Postcode) VALUES ('001', 'Head Office', '1 High "
-        "Street', '', '', 'NT1 1AA')");
     test.WriteReport("Golden", {{"Date", "True"}, {"DestNum", "True"}},
                      {{"Title", "Calls at"}, {"Cost", "True"}});
     test.InsertCall();
@@ -77,9 +80,6 @@ TEST_F(PageTest, HasOneOfThreeShapes) {
 // One report with every field and every filter. Calls name extensions by number: "0201 " is
 // 201, and a word is nobody's number.
 TEST_F(PageTest, OfACustomReportIsBareWhateverTheSettings) {
-    test.Execute(
-        "INSERT INTO tblsite(ID, Name, Addy1, Addy2, Addy3, Postcode) VALUES ('001', 'Head Office', '1 High "
-        "Street', '', '', 'NT1 1AA')");
     test.Insert("tblextensions", {{"ExtensionNo", "201"}, {"Name", "Zoë Lee"}});
     test.settings.Write("V1Reports", "1");
     test.settings.Write("ReportAlign", "L");

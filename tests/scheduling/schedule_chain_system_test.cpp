@@ -7,7 +7,6 @@
 #include <unistd.h>
 
 #include <csignal>
-#include <cstdio>
 #include <iostream>
 #include <regex>
 #include <thread>
@@ -15,9 +14,7 @@
 #include "custody/backup_task.h"
 #include "platform/child_process.h"
 #include "scheduling/schedules.h"
-#include "support/fixed_clock.h"
-#include "support/scripted_prompts.h"
-#include "support/smtp_server.h"
+#include "support/end_guard.h"
 #include "tools/setup_installation.h"
 
 namespace tallix {
@@ -29,25 +26,14 @@ using ::testing::HasSubstr;
 
 constexpr const char* kForeign = "# somebody's own\r\nX=100%\n#\n";
 
-/// Puts the user's crontab back when this process ends, even if it is killed: a shell
-/// waits for the end of its input.
+/// Puts the user's crontab back when this process ends.
 class CrontabKeeper {
-public:
-    CrontabKeeper() {
-        const ChildResult before = RunChild({"env", "VISUAL=cat", "crontab", "-e"});
-        const bool isEmpty = RunChild({"crontab", "-l"}).status != 0;
-        saved_.Write("saved", before.out);
-        const std::string restore = isEmpty ? "crontab -r" : "crontab " + (saved_.Path() / "saved").string();
-        guard_ = popen(("trap '' INT TERM HUP; cat; " + restore).c_str(), "we");
-        if (guard_ == nullptr) throw std::runtime_error("nobody keeps the crontab");
-    }
-    ~CrontabKeeper() { pclose(guard_); }
-    CrontabKeeper(const CrontabKeeper&) = delete;
-    CrontabKeeper& operator=(const CrontabKeeper&) = delete;
-
 private:
-    test::TempFolder saved_;
-    FILE* guard_;
+    const ChildResult before_ = RunChild({"env", "VISUAL=cat", "crontab", "-e"});
+    const bool isEmpty_ = RunChild({"crontab", "-l"}).status != 0;
+    const test::TempFolder folder_;
+    const std::string saved_ = folder_.Write("saved", before_.out);
+    const test::EndGuard guard_{isEmpty_ ? "crontab -r" : "crontab " + saved_};
 };
 
 /// The machine's cron, or one of this test's own where none runs.
@@ -71,33 +57,16 @@ private:
     pid_t process_;
 };
 
-class ScheduleChain : public testing::Test, protected test::SetupInstallation {
+class ScheduleChain : public testing::Test, protected test::InstalledCompany {
 protected:
-    void SetUp() override {
-        for (const char* folder : {"Reports/Scheduled", "Company Docs", "out", "temp"}) {
-            std::filesystem::create_directories(Home() / folder);
-        }
-        const std::filesystem::path source =
-            std::filesystem::path(TALLIX_SOURCE_DIR) / "data/Reports/Standard";
-        std::filesystem::create_directory_symlink(source, Home() / "Reports" / "Standard");
+    ScheduleChain() {
         std::filesystem::create_symlink(TALLIX_REPORTS_PROGRAM, Home() / "Tallix_Reports");
-        ASSERT_EQ(RunSetup({"--demo", "500", "--seed", "3"}).status, 0);
+        settings.Write("SMTPAuth", "0");
         for (const auto& [name, value] : Environment()) setenv(name.c_str(), value.c_str(), 1);
         RunChild({"crontab", "-"}, kForeign);
     }
-    void TearDown() override {
+    ~ScheduleChain() override {
         for (const auto& [name, value] : Environment()) unsetenv(name.c_str());
-    }
-
-    std::map<std::string, std::string> Environment() const {
-        return {{"TALLIX_HOME", Home()}, {"TALLIX_REGISTRY", Home() / "settings"}, {"Temp", Home() / "temp"}};
-    }
-
-    void PointMailTo(const test::SmtpServer& server) {
-        settings_.Write("SMTPServer", "127.0.0.1");
-        settings_.Write("SMTPPort", std::to_string(server.Port()));
-        settings_.Write("SMTPAuth", "0");
-        settings_.Write("SMTPEmail", "tallix@example.test");
     }
 
     /// Has every task run at the next minute.
@@ -119,11 +88,9 @@ protected:
     }
 
     CrontabKeeper keeper_;
-    test::ScriptedPrompts prompts_;
     test::FixedClock clock_;
     NoEvents events_;
-    SettingsStore settings_{Home() / "settings", Home() / "settings", prompts_};
-    Application application_{Home(), Home() / "temp", {}, settings_, prompts_, clock_, events_};
+    Application application_{Home(), Home() / "temp", {}, settings, prompts, clock_, events_};
 };
 
 TEST_F(ScheduleChain, ReachesTheFolderAndTheMailboxWithinItsMinute) {

@@ -5,10 +5,6 @@
 
 #include <ctime>
 
-#include "foundation/prompts.h"
-#include "foundation/settings_store.h"
-#include "support/smtp_server.h"
-#include "support/test_application.h"
 #include "tools/setup_installation.h"
 
 namespace tallix {
@@ -22,29 +18,13 @@ using ::testing::Pair;
 using ::testing::SizeIs;
 using ::testing::StartsWith;
 
-const std::filesystem::path kData = std::filesystem::path(TALLIX_SOURCE_DIR) / "data";
-
-// An application folder with the shipped reports and a company of 500 calls.
-class UnattendedRunTest : public ::testing::Test, protected test::SetupInstallation {
+class UnattendedRunTest : public ::testing::Test, protected test::InstalledCompany {
 protected:
-    void SetUp() override {
-        for (const char* folder : {"Reports/Scheduled", "Company Docs", "out", "temp"}) {
-            std::filesystem::create_directories(Home() / folder);
-        }
-        std::filesystem::create_directory_symlink(kData / "Reports" / "Standard",
-                                                  Home() / "Reports" / "Standard");
-        const test::ProgramRun setup = RunSetup({"--demo", "500", "--seed", "3"});
-        ASSERT_EQ(setup.status, 0) << setup.err;
-    }
-
     test::ProgramRun Run(const std::string& commandLine) const {
-        return test::RunProgram(TALLIX_REPORTS_PROGRAM, {commandLine},
-                                {{"TALLIX_HOME", Home()},
-                                 {"TALLIX_REGISTRY", Home() / "settings"},
-                                 {"Temp", Home() / "temp"},
-                                 {"TALLIX_STEP_MS", "5"},
-                                 {"QT_QPA_PLATFORM", ""},
-                                 {"DISPLAY", ""}});
+        auto environment = Environment();
+        environment.insert(environment.end(),
+                           {{"TALLIX_STEP_MS", "5"}, {"QT_QPA_PLATFORM", ""}, {"DISPLAY", ""}});
+        return test::RunProgram(TALLIX_REPORTS_PROGRAM, {commandLine}, environment);
     }
 
     // Writes a schedule of a report and runs it. A run that ends well says nothing.
@@ -63,11 +43,6 @@ protected:
     }
 
     static std::string Today() { return fmt::format("{:%d_%m_%Y}.csv", fmt::localtime(std::time(nullptr))); }
-
-    void Set(const std::string& name, const std::string& value) {
-        UnattendedPrompts prompts;
-        SettingsStore(Home() / "settings", Home() / "settings", prompts).Write(name, value);
-    }
 };
 
 TEST_F(UnattendedRunTest, DeliversOneFileADayToAFolder) {
@@ -99,13 +74,9 @@ TEST_F(UnattendedRunTest, TakesItsFiltersFromTheSchedule) {
 
 TEST_F(UnattendedRunTest, MailsTheReportAndLeavesNothingBehind) {
     const test::SmtpServer server(test::SmtpServer::Account{"reports", "pass word"});
-    for (const auto& [name, value] : {std::pair<std::string, std::string>{"SMTPServer", "127.0.0.1"},
-                                      {"SMTPPort", std::to_string(server.Port())},
-                                      {"SMTPUser", "reports"},
-                                      {"SMTPPass", "pass word"},
-                                      {"SMTPEmail", "tallix@example.test"}}) {
-        Set(name, value);
-    }
+    PointMailTo(server);
+    settings.Write("SMTPUser", "reports");
+    settings.Write("SMTPPass", "pass word");
     RunSchedule("Standard\\STD_Internal Calls.SRT", "Output=Email\r\n");
     const auto mails = server.Mails();
     ASSERT_THAT(mails, SizeIs(1));
@@ -115,7 +86,7 @@ TEST_F(UnattendedRunTest, MailsTheReportAndLeavesNothingBehind) {
     EXPECT_THAT(mails[0].attachments,
                 ElementsAre(Pair(Today(), StartsWith("Tallix Reports - Internal Calls\r\n"))));
 
-    Set("SMTPAuth", "0");
+    settings.Write("SMTPAuth", "0");
     RunSchedule("Standard\\STD_Internal Calls.SRT", "Output=Email\r\n");
     EXPECT_THAT(server.Mails(), SizeIs(1)) << "the server takes nothing from strangers";
 }
@@ -126,7 +97,7 @@ TEST_F(UnattendedRunTest, SurvivesWhatIsMissing) {
     RunSchedule("", "Output=File\r\nOutputLocation=/no/such/folder\\\r\n");
 
     std::filesystem::remove(Home() / "out" / Today());
-    Set("DBIP", "127.0.0.1:1");
+    settings.Write("DBIP", "127.0.0.1:1");
     RunSchedule("Standard\\STD_All Calls.SRT", ToFolder());
     EXPECT_THAT(ReadLines(Home() / "out" / Today()), SizeIs(5 + 2)) << "the head and a zero total";
 
@@ -143,7 +114,7 @@ TEST_F(UnattendedRunTest, DumpsSixTables) {
     EXPECT_THAT(lines.front(), StartsWith("INSERT INTO tblphonedata("));
     EXPECT_THAT(lines.back(), StartsWith("INSERT INTO tblusers("));
 
-    Set("DBIP", "sqlite:/no/such/folder/tallix.db");
+    settings.Write("DBIP", "sqlite:/no/such/folder/tallix.db");
     const test::ProgramRun failed = Run("Backup");
     EXPECT_EQ(failed.status, 1);
     EXPECT_THAT(failed.err, HasSubstr("/no/such/folder/tallix.db"));

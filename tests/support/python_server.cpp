@@ -1,64 +1,34 @@
 #include "support/python_server.h"
 
-#include <fcntl.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
-#include <array>
-#include <csignal>
-#include <cstdio>
-#include <cstdlib>
+#include <chrono>
 #include <stdexcept>
+#include <thread>
 
 namespace tallix::test {
 namespace {
 
-/// The system's own interpreter: others do not see Debian's packages.
-constexpr const char* kPython = "/usr/bin/python3";
+using namespace std::chrono_literals;
 
-std::array<int, 2> MakePipe() {
-    std::array<int, 2> ends{};
-    if (pipe2(ends.data(), O_CLOEXEC) != 0) throw std::runtime_error("No pipe for a test's server");
-    return ends;
-}
-
-int ReadPort(int output) {
-    FILE* lines = fdopen(output, "r");
-    std::array<char, 16> line{};
-    const bool read = std::fgets(line.data(), static_cast<int>(line.size()), lines) != nullptr;
-    std::fclose(lines);
-    return read ? std::atoi(line.data()) : 0;
-}
+constexpr auto kPatience = 20s;
 
 }  // namespace
 
 PythonServer::PythonServer(const std::string& script, const std::vector<std::string>& arguments) {
-    const auto input = MakePipe();
-    const auto output = MakePipe();
-    std::vector<std::string> words = {kPython, TALLIX_SOURCE_DIR "/tests/support/" + script};
-    words.insert(words.end(), arguments.begin(), arguments.end());
-    std::vector<char*> pointers;
-    pointers.reserve(words.size() + 1);
-    for (std::string& word : words) pointers.push_back(word.data());
-    pointers.push_back(nullptr);
-    process_ = fork();
-    if (process_ == 0) {
-        dup2(input[0], STDIN_FILENO);
-        dup2(output[1], STDOUT_FILENO);
-        execv(kPython, pointers.data());
-        _exit(127);
+    // The system's own interpreter: others do not see Debian's packages.
+    std::string command = "exec /usr/bin/python3 '" TALLIX_SOURCE_DIR "/tests/support/" + script + "'";
+    for (const std::string& argument : arguments) command += " '" + argument + "'";
+    const std::filesystem::path port = folder_.Path() / "port";
+    input_ = popen((command + " >" + port.string()).c_str(), "we");
+    if (input_ == nullptr) throw std::runtime_error(script + " did not start");
+    for (auto waited = 0ms; waited < kPatience && !ReadBytes(port).ends_with('\n'); waited += 10ms) {
+        std::this_thread::sleep_for(10ms);
     }
-    close(input[0]);
-    close(output[1]);
-    input_ = input[1];
-    port_ = ReadPort(output[0]);
-    if (port_ == 0) throw std::runtime_error(script + " did not start");
+    port_ = std::atoi(ReadBytes(port).c_str());
+    if (port_ == 0) throw std::runtime_error(script + " told no port");
 }
 
 PythonServer::~PythonServer() {
-    close(input_);
-    kill(process_, SIGTERM);
-    waitpid(process_, nullptr, 0);
+    pclose(input_);
 }
 
 }  // namespace tallix::test

@@ -2,18 +2,19 @@
 // chooses and prints, and stopped by its process id.
 #pragma once
 
-#include <sys/types.h>
-
+#include <cstdio>
 #include <string>
 #include <vector>
+
+#include "support/temp_folder.h"
 
 namespace tallix::test {
 
 class PythonServer {
 public:
-    /// Starts tests/support/`script` and waits for its port. The script ends when its
-    /// standard input does, so that it never outlives the test. Throws
-    /// std::runtime_error when it does not start.
+    /// Starts tests/support/`script` and waits for its port. The arguments hold no
+    /// apostrophe. The script ends when its standard input does, so that it never outlives
+    /// the test. Throws std::runtime_error when it does not start.
     PythonServer(const std::string& script, const std::vector<std::string>& arguments);
     ~PythonServer();
     PythonServer(const PythonServer&) = delete;
@@ -22,8 +23,8 @@ public:
     int Port() const { return port_; }
 
 private:
-    pid_t process_ = -1;
-    int input_ = -1;
+    TempFolder folder_;
+    FILE* input_ = nullptr;
     int port_ = 0;
 };
 

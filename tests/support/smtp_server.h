@@ -34,6 +34,9 @@ public:
     /// std::runtime_error when it does not start.
     explicit SmtpServer(const std::optional<Account>& account = std::nullopt);
 
+    /// Starts one that does not serve: "--silent" or "--hang-up".
+    explicit SmtpServer(const char* manner) : server_("smtp_server.py", {folder_.Path(), manner}) {}
+
     int Port() const { return server_.Port(); }
 
     /// The mails taken so far, first to last.

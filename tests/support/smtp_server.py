@@ -1,11 +1,12 @@
 """A mail server on loopback that keeps what it is sent.
 
-    smtp_server.py FOLDER [--user NAME --password TEXT]
+    smtp_server.py FOLDER [--user NAME --password TEXT] [--silent | --hang-up]
 
 Prints its port, then serves until standard input ends, so that it never outlives the
 test that started it. Each mail becomes a folder FOLDER/1, FOLDER/2, ... with the files
 raw, from, to, user, body, header.NAME for each header (decoded), and for attachments
-attachment.N.name and attachment.N. The file "complete" comes last.
+attachment.N.name and attachment.N. The file "complete" comes last. A silent server never
+says a word; one that hangs up does so in the middle, once it has been told who sends.
 """
 import argparse
 import asyncio
@@ -21,9 +22,16 @@ from aiosmtpd.smtp import SMTP, AuthResult
 
 
 class Keeper:
-    def __init__(self, folder):
+    def __init__(self, folder, hangs_up):
         self.folder = folder
+        self.hangs_up = hangs_up
         self.count = 0
+
+    async def handle_RCPT(self, server, session, envelope, address, options):
+        if self.hangs_up:
+            server.transport.abort()
+        envelope.rcpt_tos.append(address)
+        return "250 OK"
 
     async def handle_DATA(self, server, session, envelope):
         self.count += 1
@@ -73,8 +81,9 @@ async def listen(loop, protocol):
 async def serve(options):
     loop = asyncio.get_running_loop()
     settings = account_settings(options.user, options.password)
-    keeper = Keeper(options.folder)
-    server = await listen(loop, lambda: SMTP(keeper, loop=loop, **settings))
+    keeper = Keeper(options.folder, options.hang_up)
+    speaking = asyncio.Protocol if options.silent else lambda: SMTP(keeper, loop=loop, **settings)
+    server = await listen(loop, speaking)
     print(server.sockets[0].getsockname()[1], flush=True)
     await loop.run_in_executor(None, sys.stdin.read)
     server.close()
@@ -88,6 +97,8 @@ def main():
     arguments.add_argument("folder", type=pathlib.Path)
     arguments.add_argument("--user")
     arguments.add_argument("--password", default="")
+    arguments.add_argument("--silent", action="store_true")
+    arguments.add_argument("--hang-up", action="store_true")
     asyncio.run(serve(arguments.parse_args()))
 
 

@@ -42,11 +42,31 @@ std::string Keys(const KeyList& list, const TestApplication::Row& values) {
     return text;
 }
 
+std::unique_ptr<ado::Connection> Connected(const Session& session) {
+    auto connection = std::make_unique<ado::Connection>();
+    connection->ConnectionString = ConnectionText(session);
+    connection->Open();
+    return connection;
+}
+
 const KeyList kSwitches = {
     {"Date", "Duration", "Extension", "Account", "Site", "Group", "Time", "Cost", "Hours"}, "False"};
 const KeyList kTexts = {{"Title", "Where", "Sum", "Top"}, ""};
 
 }  // namespace
+
+std::string AllRows(ado::Connection& connection, std::string_view statement) {
+    ado::Recordset set;
+    set.Open(statement, connection);
+    std::string rows;
+    for (std::int64_t i = 1; i <= set.RecordCount(); ++i, set.MoveNext()) {
+        for (const std::string& name : set.ColumnNames()) {
+            rows += std::string(set.Item(name).value_or("NULL")) + '|';
+        }
+        rows += '\n';
+    }
+    return rows;
+}
 
 std::vector<std::string> ReadLines(const std::filesystem::path& file) {
     std::vector<std::string> lines;
@@ -91,18 +111,17 @@ TestApplication::TestApplication(const DatabaseAddress& address)
 }
 
 void TestApplication::Execute(std::string_view statement) {
-    ado::Connection connection;
-    connection.ConnectionString = ConnectionText(application.session);
-    connection.Open();
-    connection.Execute(statement);
+    Connected(application.session)->Execute(statement);
+}
+
+std::string TestApplication::Rows(std::string_view statement) const {
+    return AllRows(*Connected(application.session), statement);
 }
 
 void TestApplication::Insert(const std::string& table, const Row& row) {
-    ado::Connection connection;
-    connection.ConnectionString = ConnectionText(application.session);
-    connection.Open();
+    const auto connection = Connected(application.session);
     ado::Recordset rows;
-    rows.Open("select * from " + table, connection);
+    rows.Open("select * from " + table, *connection);
     rows.AddNew();
     for (const auto& [column, value] : row) rows.Collect(column, value);
     rows.Update();

@@ -28,6 +28,9 @@ struct DatabaseAddress {
     std::string SQLPass;
 };
 
+/// All rows of a statement, a line each, "|" behind every value, NULL by its name.
+std::string AllRows(ado::Connection& connection, std::string_view statement);
+
 /// The lines of a file without their CR LF.
 std::vector<std::string> ReadLines(const std::filesystem::path& file);
 
@@ -39,6 +42,9 @@ public:
 
     /// Runs a statement on a connection of its own.
     void Execute(std::string_view statement);
+
+    /// What AllRows gives on such a connection.
+    std::string Rows(std::string_view statement) const;
 
     /// Adds a row; values go in as they are.
     using Row = std::map<std::string, std::string>;

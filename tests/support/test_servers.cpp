@@ -1,21 +1,17 @@
 #include "support/test_servers.h"
 
-#include <fcntl.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
 #include <filesystem>
 #include <fstream>
 #include <map>
-#include <sstream>
 #include <stdexcept>
 
 #include <fmt/format.h>
 
 #include "foundation/database.h"
 #include "foundation/schema.h"
+#include "support/end_guard.h"
 #include "support/run_program.h"
-#include "support/temp_folder.h"
+#include "support/test_application.h"
 
 namespace tallix::test {
 
@@ -27,61 +23,31 @@ constexpr const char* kSchemaFolder = TALLIX_SOURCE_DIR "/data/schema";
 /// The ANSI driver by its file, so that the machine's list of drivers does not matter.
 constexpr const char* kPostgresDriver = "/usr/lib/x86_64-linux-gnu/odbc/psqlodbca.so";
 
-/// The running servers. A shell that reads from a pipe stops them when the pipe closes,
-/// which it does with this process whatever ends it.
+/// The running servers, which stop when this process ends.
 class Servers {
 public:
     Servers();
-    ~Servers();
-    Servers(const Servers&) = delete;
-    Servers& operator=(const Servers&) = delete;
 
     /// A value of the file that the script writes.
     std::string operator[](const std::string& name) const { return values_.at(name); }
 
 private:
-    void Watch();
-
     TempFolder folder_;
     std::string data_ = folder_.Path() / "servers";
+    EndGuard guard_{fmt::format(R"(/bin/bash "{}" stop "{}")", kScript, data_)};
     std::map<std::string, std::string> values_;
-    int pipe_ = -1;
-    pid_t watcher_ = -1;
 };
 
 Servers::Servers() {
     // PostgreSQL, which root runs under another account, must be able to get in.
     using std::filesystem::perms;
     std::filesystem::permissions(folder_.Path(), perms::owner_all | perms::group_exec | perms::others_exec);
-    Watch();
     const ProgramRun run = RunProgram("/bin/bash", {kScript, "start", data_});
     if (run.status != 0) throw std::runtime_error("The database servers do not start: " + run.err);
-    std::istringstream lines(ReadBytes(std::filesystem::path(data_) / "env"));
-    for (std::string line; std::getline(lines, line);) {
+    for (const std::string& line : ReadLines(data_ + "/env")) {
         const std::size_t equals = line.find('=');
         values_[line.substr(0, equals)] = line.substr(equals + 1);
     }
-}
-
-Servers::~Servers() {
-    close(pipe_);
-    waitpid(watcher_, nullptr, 0);
-}
-
-void Servers::Watch() {
-    std::array<int, 2> ends{};
-    if (pipe2(ends.data(), O_CLOEXEC) != 0) throw std::runtime_error("no pipe");
-    pipe_ = ends[1];
-    const std::string command =
-        fmt::format("exec >/dev/null 2>&1; read -r line; exec '{}' stop '{}'", kScript, data_);
-    watcher_ = fork();
-    if (watcher_ == 0) {
-        setsid();
-        dup2(ends[0], STDIN_FILENO);
-        execl("/bin/sh", "sh", "-c", command.c_str(), nullptr);
-        _exit(1);
-    }
-    close(ends[0]);
 }
 
 const Servers& RunningServers() {

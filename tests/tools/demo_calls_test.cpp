@@ -43,6 +43,11 @@ TEST(CallGenerator, GivesTheSameCallsForASeedOnEveryPlatform) {
     EXPECT_EQ(Line(calls.front()), "01/07/2019|07:21:03|00:00:48|6009|0|6009|661791|0|0|T002||003|");
     EXPECT_EQ(Line(calls.back()), "30/06/2024|13:10:42|00:01:50|6011|0|6011|661202|0|0|T001||003|");
     EXPECT_NE(Line(Generate(3000, 2).front()), Line(calls.front()));
+    std::uint32_t sum = 0;
+    for (const Call& call : calls) {
+        for (const char letter : Line(call)) sum = sum * 31 + static_cast<unsigned char>(letter);
+    }
+    EXPECT_EQ(sum, 1940275472U) << "a call in between";
 }
 
 TEST(CallGenerator, GivesTheCallsAskedForInOrderOfTimeWithoutTies) {
@@ -91,24 +96,6 @@ TEST(CallGenerator, ShapesEachCallByItsDirection) {
             EXPECT_TRUE(std::regex_match(number, outside) || (number.empty() && IsIncoming(call)));
         }
     }
-}
-
-TEST(CallGenerator, ResemblesTheYearsOfACompany) {
-    std::map<std::string, int> counts;
-    for (const Call& call : Generate(20000, 4)) {
-        counts["outgoing"] += IsOutgoing(call) ? 1 : 0;
-        counts["incoming"] += IsIncoming(call) ? 1 : 0;
-        counts["unanswered"] += call.duration == "00:00:00" ? 1 : 0;
-        counts["emergency"] += call.destNum == "999" || call.destNum == "112" ? 1 : 0;
-        counts["forwarded"] += call.forward == "1" ? 1 : 0;
-        counts["account"] += call.account.empty() ? 0 : 1;
-    }
-    EXPECT_NEAR(counts["outgoing"], 11000, 400);
-    EXPECT_NEAR(counts["incoming"], 7000, 400);
-    EXPECT_NEAR(counts["unanswered"], 2150, 650);
-    EXPECT_NEAR(counts["emergency"], 13, 12);
-    EXPECT_NEAR(counts["forwarded"], 500, 200);
-    EXPECT_NEAR(counts["account"], 2450, 450);
 }
 
 // A tariff row is claimed by the first digits that tell it from all others.

@@ -5,23 +5,11 @@
 #include <string>
 #include <vector>
 
-#include "foundation/ado/recordset.h"
 #include "support/run_program.h"
-#include "support/temp_folder.h"
+#include "support/smtp_server.h"
+#include "support/test_application.h"
 
 namespace tallix::test {
-
-/// All rows of a statement, a line each, "|" behind every value.
-inline std::string AllRows(ado::Connection& connection, const std::string& statement) {
-    ado::Recordset set;
-    set.Open(statement, connection);
-    std::string rows;
-    for (std::int64_t i = 1; i <= set.RecordCount(); ++i, set.MoveNext()) {
-        for (const std::string& name : set.ColumnNames()) rows += std::string(set.Text(name)) + '|';
-        rows += '\n';
-    }
-    return rows;
-}
 
 class SetupInstallation {
 public:
@@ -54,6 +42,34 @@ public:
 
 private:
     TempFolder folder_;
+};
+
+/// The same with the shipped reports and a company of 500 calls.
+class InstalledCompany : public SetupInstallation {
+public:
+    InstalledCompany() {
+        for (const char* folder : {"Reports/Scheduled", "Company Docs", "out", "temp"}) {
+            std::filesystem::create_directories(Home() / folder);
+        }
+        std::filesystem::create_directory_symlink(TALLIX_SOURCE_DIR "/data/Reports/Standard",
+                                                  Home() / "Reports" / "Standard");
+        const ProgramRun setup = RunSetup({"--demo", "500", "--seed", "3"});
+        if (setup.status != 0) throw std::runtime_error(setup.err);
+    }
+
+    /// In which the program finds the installation.
+    std::vector<std::pair<std::string, std::string>> Environment() const {
+        return {{"TALLIX_HOME", Home()}, {"TALLIX_REGISTRY", Home() / "settings"}, {"Temp", Home() / "temp"}};
+    }
+
+    void PointMailTo(const SmtpServer& server) {
+        settings.Write("SMTPServer", "127.0.0.1");
+        settings.Write("SMTPPort", std::to_string(server.Port()));
+        settings.Write("SMTPEmail", "tallix@example.test");
+    }
+
+    ScriptedPrompts prompts;
+    SettingsStore settings{Home() / "settings", Home() / "settings", prompts};
 };
 
 }  // namespace tallix::test

@@ -5,7 +5,7 @@
 
 #include "foundation/ado/row_batch.h"
 #include "foundation/errors.h"
-#include "support/temp_folder.h"
+#include "support/test_application.h"
 
 namespace tallix::ado {
 namespace {
@@ -32,15 +32,8 @@ protected:
         return set;
     }
 
-    // The names and the rings of all rows, NULL as "-".
     std::string Stored() {
-        std::string joined;
-        Recordset set = Open(kKeyed);
-        for (std::int64_t i = 1; i <= set.RecordCount(); ++i, set.MoveNext()) {
-            joined += std::string(set.Item("Name").value_or("-")) + "=" +
-                      std::string(set.Item("Rings").value_or("-")) + ";";
-        }
-        return joined;
+        return test::AllRows(connection_, "select Name, Rings from tblkeyed order by ID");
     }
 
     test::TempFolder folder_;
@@ -81,7 +74,7 @@ TEST_F(RecordsetTest, ANewRowReadsAsItIsFilledAndGivesWayToTheCurrentOne) {
     EXPECT_EQ(set.RecordCount(), 3);
     set.AddNew();
     set.Update();
-    EXPECT_EQ(Stored(), "Ann=0;Ben=0;Cy=0;Di=-;-=0;");
+    EXPECT_EQ(Stored(), "Ann|0|\nBen|0|\nCy|0|\nDi|NULL|\nNULL|0|\n");
 }
 
 TEST_F(RecordsetTest, WhatWasSetIsKeptInTheSetAndDroppedByARefusalOrAMove) {
@@ -99,7 +92,7 @@ TEST_F(RecordsetTest, WhatWasSetIsKeptInTheSetAndDroppedByARefusalOrAMove) {
     EXPECT_EQ(set.Text("Name"), "B'en");
     set.Collect("Rings", "7");  // finds the row by what was stored
     set.Update();
-    EXPECT_EQ(Stored(), "Ann=0;B'en=7;Cy=0;");
+    EXPECT_EQ(Stored(), "Ann|0|\nB'en|7|\nCy|0|\n");
 }
 
 TEST_F(RecordsetTest, DeletesTheCurrentRowAndWalksOnButOnlyInOneTable) {
@@ -115,7 +108,7 @@ TEST_F(RecordsetTest, DeletesTheCurrentRowAndWalksOnButOnlyInOneTable) {
     for (std::int64_t i = 1; i <= set.RecordCount(); ++i, set.MoveNext()) {
         if (set.Text("Name") != "Ben") set.Delete();
     }
-    EXPECT_EQ(Stored(), "Ben=0;");
+    EXPECT_EQ(Stored(), "Ben|0|\n");
 }
 
 TEST_F(RecordsetTest, ACloneHasAPlaceOfItsOwnAndOutlivesTheFirst) {
