@@ -3,9 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "custody/archive.h"
-#include "foundation/database.h"
 #include "foundation/errors.h"
-#include "foundation/schema.h"
 #include "support/engine_test.h"
 #include "support/faults.h"
 #include "support/run_program.h"
@@ -97,8 +95,6 @@ TEST(BrokenArchive, LosesNoCallWithItsServer) {
     for (const auto destination : {ArchiveDestination::ToDatabase, ArchiveDestination::ToFile}) {
         test::OwnServer server;
         test::TestApplication test(server.address);
-        OpenDatabase(test.application.session);
-        LayDownSchema(OpenConnection(test.application.session), TALLIX_SOURCE_DIR "/data/schema");
         for (int call = 0; call < 6; ++call) test.InsertCall();
         NotedView view;
         view.request = WholeYear("2021", destination);

@@ -8,9 +8,7 @@
 
 #include "custody/backup.h"
 #include "demo_data.h"
-#include "foundation/database.h"
 #include "foundation/errors.h"
-#include "foundation/schema.h"
 #include "support/faults.h"
 #include "support/test_application.h"
 #include "support/test_servers.h"
@@ -130,8 +128,6 @@ INSTANTIATE_TEST_SUITE_P(Engines, Restores, testing::ValuesIn(test::kSessionEngi
 TEST(BrokenRestore, EndsByItselfWhenItsServerStops) {
     test::OwnServer server;
     TestApplication target(server.address);
-    OpenDatabase(target.application.session);
-    LayDownSchema(OpenConnection(target.application.session), TALLIX_SOURCE_DIR "/data/schema");
     const auto file = target.Folder() / "calls.sbk";
     std::ofstream text(file);
     for (int i = 0; i < 100; ++i)

@@ -2,11 +2,7 @@
 // crontab, fired by the real cron, run by the built program with no display, delivered to
 // a folder and to a mail server. The user's crontab is back in place afterwards.
 #include <gmock/gmock.h>
-#include <sys/prctl.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
-#include <csignal>
 #include <iostream>
 #include <regex>
 #include <thread>
@@ -34,27 +30,6 @@ private:
     const test::TempFolder folder_;
     const std::string saved_ = folder_.Write("saved", before_.out);
     const test::EndGuard guard_{isEmpty_ ? "crontab -r" : "crontab " + saved_};
-};
-
-/// The machine's cron, or one of this test's own where none runs.
-class Cron {
-public:
-    Cron() {
-        process_ = fork();
-        if (process_ != 0) return;
-        prctl(PR_SET_PDEATHSIG, SIGTERM);
-        execl("/usr/sbin/cron", "cron", "-f", nullptr);
-        _exit(EXIT_FAILURE);
-    }
-    ~Cron() {
-        kill(process_, SIGTERM);
-        waitpid(process_, nullptr, 0);
-    }
-    Cron(const Cron&) = delete;
-    Cron& operator=(const Cron&) = delete;
-
-private:
-    pid_t process_;
 };
 
 class ScheduleChain : public testing::Test, protected test::InstalledCompany {
@@ -102,7 +77,8 @@ TEST_F(ScheduleChain, ReachesTheFolderAndTheMailboxWithinItsMinute) {
     SaveSchedule(application_, {"By mail", "All Calls", "Daily", false, "", {}}, false);
     CreateBackupTask(application_);
     LetAllRunNow();
-    const Cron cron;
+    // Where the machine has one already, this one ends at once.
+    const test::RunningProgram cron("/usr/sbin/cron -f");
     const auto complete = [&] {
         return !server.Mails().empty() && !Delivered().empty() &&
                test::ReadBytes(Home() / "Automated_Backup.sbk").find("INSERT INTO tblusers(") !=

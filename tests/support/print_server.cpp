@@ -1,8 +1,6 @@
 #include "support/print_server.h"
 
 #include <fmt/format.h>
-#include <signal.h>
-#include <sys/wait.h>
 
 #include <algorithm>
 #include <chrono>
@@ -64,12 +62,7 @@ Accepting Yes
 PrintServer::PrintServer(const std::string& printer) {
     WriteConfiguration(printer);
     const std::string root = folder_.Path().string();
-    process_ = fork();
-    if (process_ == 0) {
-        execl("/usr/sbin/cupsd", "cupsd", "-f", "-c", (root + "/cupsd.conf").c_str(), "-s",
-              (root + "/cups-files.conf").c_str(), nullptr);
-        _exit(127);
-    }
+    process_.emplace(fmt::format("/usr/sbin/cupsd -f -c {0}/cupsd.conf -s {0}/cups-files.conf", root));
     const std::string socket = root + "/cups.sock";
     const auto deadline = std::chrono::steady_clock::now() + kPatience;
     while (!fs::exists(socket)) {
@@ -95,11 +88,6 @@ void PrintServer::WriteConfiguration(const std::string& printer) const {
     folder_.Write("cups-files.conf", fmt::format(kFiles, root));
     folder_.Write("cupsd.conf", fmt::format(kServer, root));
     folder_.Write("printers.conf", fmt::format(kQueue, printer));
-}
-
-PrintServer::~PrintServer() {
-    kill(process_, SIGTERM);
-    waitpid(process_, nullptr, 0);
 }
 
 std::vector<fs::path> PrintServer::Jobs() const {

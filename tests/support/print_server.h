@@ -2,12 +2,12 @@
 // one printer whose device keeps each job as a file.
 #pragma once
 
-#include <sys/types.h>
-
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "support/end_guard.h"
 #include "support/temp_folder.h"
 
 namespace tallix::test {
@@ -16,9 +16,6 @@ class PrintServer {
 public:
     /// Starts the spooler and waits until it answers; this process then prints through it.
     explicit PrintServer(const std::string& printer);
-    ~PrintServer();
-    PrintServer(const PrintServer&) = delete;
-    PrintServer& operator=(const PrintServer&) = delete;
 
     /// The documents that the device has got, oldest first.
     std::vector<std::filesystem::path> Jobs() const;
@@ -27,7 +24,7 @@ private:
     void WriteConfiguration(const std::string& printer) const;
 
     TempFolder folder_;
-    pid_t process_ = -1;
+    std::optional<RunningProgram> process_;
 };
 
 }  // namespace tallix::test

@@ -8,7 +8,7 @@
 namespace tallix::test {
 
 struct ProgramRun {
-    int status = -1;  ///< as a shell sees it; 128 and the signal for a program that was killed
+    int status = -1;  ///< what it ended with; -1 where it was killed
     std::string out;  ///< standard output
     std::string err;  ///< standard error
 };

@@ -104,7 +104,6 @@ TestApplication::TestApplication(const DatabaseAddress& address)
     session.CurrentUser = "Ann";
     session.ReportsLocation = application.folder.string();
     session.DocsLocation = application.folder.string() + "\\Company Docs";
-    if (!address.DBIP.empty()) return;
     OpenDatabase(session);
     LayDownSchema(OpenConnection(session), std::filesystem::path(TALLIX_SOURCE_DIR) / "data" / "schema");
     CloseDatabase(session);

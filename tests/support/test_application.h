@@ -36,7 +36,7 @@ std::vector<std::string> ReadLines(const std::filesystem::path& file);
 
 class TestApplication {
 public:
-    /// On an embedded database of its own, or on the one given, which has its tables.
+    /// On an embedded database of its own, or on the one given.
     TestApplication();
     explicit TestApplication(const DatabaseAddress& address);
 
