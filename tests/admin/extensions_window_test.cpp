@@ -6,9 +6,7 @@
 #include "admin/address_book_page.h"
 #include "admin/extension_groups_page.h"
 #include "admin/extensions_page.h"
-#include "support/captioned.h"
-#include "support/test_application.h"
-#include "support/window_test.h"
+#include "support/form_test.h"
 
 namespace tallix {
 namespace {
@@ -17,43 +15,30 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using ui::ListRow;
 
-class AdminPagesTest : public test::WindowTest {
+class AdminPagesTest : public test::FormTest {
 protected:
     template <typename Page>
     Page& Open() {
-        auto page = std::make_unique<Page>(test_.application, nullptr);
+        auto page = std::make_unique<Page>(world.application, nullptr);
         Page& opened = *page;
         page_ = std::move(page);
-        page_->Load();
-        page_->show();
+        opened.Load();
+        opened.show();
         return opened;
     }
+    QWidget& Window() override { return *page_; }
 
-    void Click(const QString& caption) { test::Captioned<QPushButton>(*page_, caption).click(); }
-
-    void Enter(const QString& label, const QString& text) {
-        dynamic_cast<QLineEdit&>(*test::Captioned<QLabel>(*page_, label).buddy()).setText(text);
-    }
-
-    ui::ListView& List(const QString& name) { return *page_->findChild<ui::ListView*>(name); }
-
-    void Select(const QString& list, int row) {
-        List(list).setCurrentIndex(List(list).model()->index(row, 0));
-    }
-
-    const std::vector<ListRow>& Rows(const QString& list) { return List(list).Rows().All(); }
-
-    test::TestApplication test_;
-    std::unique_ptr<OptionsPage> page_;
+private:
+    std::unique_ptr<QWidget> page_;
 };
 
 TEST_F(AdminPagesTest, ExtensionsAreEditedOnTheScreenAlone) {
-    test_.Execute("INSERT INTO tblextensions(ExtensionNo, Name) VALUES ('202', 'Ann')");
-    for (const char* number : {"201", "202"}) test_.InsertCall({{"Extension", number}});
+    world.Execute("INSERT INTO tblextensions(ExtensionNo, Name) VALUES ('202', 'Ann')");
+    for (const char* number : {"201", "202"}) world.InsertCall({{"Extension", number}});
     ExtensionsPage& page = Open<ExtensionsPage>();
     Click("Get From Data");  // answered No
     EXPECT_FALSE(page.Changed());
-    test_.prompts.answers = {Answer::Yes};
+    world.prompts.answers = {Answer::Yes};
     Click("Get From Data");
     EXPECT_TRUE(page.Changed());
     Click("Delete");
@@ -61,21 +46,21 @@ TEST_F(AdminPagesTest, ExtensionsAreEditedOnTheScreenAlone) {
     EXPECT_FALSE(page.findChild<ui::EntryPanel*>()->isVisible());
     Click("Add");
     for (const char* number : {"203", "201"}) {  // the second is there already
-        Enter("Number:", number);
-        Enter("Name:", "Bob");
+        Type("Number:", number);
+        Type("Name:", "Bob");
         Click("Save");
         EXPECT_EQ(page.findChild<QLineEdit*>()->text(), "");
     }
     Click("Cancel");
-    Select("Extensions Data", 1);
+    SelectRow(1, "Extensions Data");
     Click("Edit");
-    EXPECT_FALSE(test::Captioned<QLabel>(page, "Number:").buddy()->isEnabled());
-    Enter("Name:", "Cid");
+    EXPECT_FALSE(Labelled("Number:").isEnabled());
+    Type("Name:", "Cid");
     Click("Save");
-    Select("Extensions Data", 2);
+    SelectRow(2, "Extensions Data");
     Click("Delete");
     EXPECT_THAT(page.Extensions(), ElementsAre(Extension{"202", "Ann"}, Extension{"201", "Cid"}));
-    EXPECT_THAT(LoadExtensions(test_.application.session), ElementsAre(Extension{"202", "Ann"}));
+    EXPECT_THAT(LoadExtensions(world.application.session), ElementsAre(Extension{"202", "Ann"}));
 }
 
 TEST_F(AdminPagesTest, ButtonsOfExtensionsFollowTheRights) {
@@ -86,7 +71,7 @@ TEST_F(AdminPagesTest, ButtonsOfExtensionsFollowTheRights) {
         access.at(21 + granted) = '1';
         page.ApplyRights(access);
         for (const char* caption : captions) {
-            EXPECT_EQ(test::Captioned<QPushButton>(page, caption).isVisible(), caption == captions[granted]);
+            EXPECT_EQ(Button(caption).isVisible(), caption == captions[granted]);
         }
     }
 }
@@ -94,57 +79,57 @@ TEST_F(AdminPagesTest, ButtonsOfExtensionsFollowTheRights) {
 TEST_F(AdminPagesTest, GroupsShowTheirMembers) {
     Open<ExtensionGroupsPage>();
     for (const char* nothing : {"Add Member", "Delete Group", "Delete Member"}) Click(nothing);
-    EXPECT_FALSE(page_->findChild<ui::EntryPanel*>()->isVisible());
+    EXPECT_FALSE(Window().findChild<ui::EntryPanel*>()->isVisible());
     for (const char* name : {"Sales", "Stores"}) {
         Click("Add Group");
-        Enter("Group Name:", name);
+        Type("Group Name:", name);
         Click("Save");
     }
     for (const int group : {0, 1}) {
-        Select("Add Group", group);
+        SelectRow(group, "Add Group");
         Click("Add Member");
-        Enter("Extension Number:", QString::number(201 + group));
+        Type("Extension Number:", QString::number(201 + group));
         Click("Save");
     }
     EXPECT_THAT(Rows("Group Members"), ElementsAre(ListRow{"202"}));
-    test_.prompts.answers = {Answer::Yes, Answer::Yes};
-    Select("Add Group", 0);
+    world.prompts.answers = {Answer::Yes, Answer::Yes};
+    SelectRow(0, "Add Group");
     Click("Delete Group");
     EXPECT_THAT(Rows("Add Group"), ElementsAre(ListRow{"Stores"}));
     EXPECT_THAT(Rows("Group Members"), IsEmpty());
-    Select("Add Group", 0);
+    SelectRow(0, "Add Group");
     EXPECT_THAT(Rows("Group Members"), ElementsAre(ListRow{"201"}));
-    Select("Group Members", 0);
+    SelectRow(0, "Group Members");
     Click("Delete Member");
     EXPECT_THAT(Rows("Group Members"), IsEmpty());
-    EXPECT_EQ(test_.prompts.messages.at(1).title, "Delete Extension");
+    EXPECT_EQ(world.prompts.messages.at(1).title, "Delete Extension");
 }
 
 TEST_F(AdminPagesTest, TheAddressBookIsWrittenAtOnce) {
-    const std::filesystem::path file = test_.Folder() / "numbers.csv";
+    const std::filesystem::path file = world.Folder() / "numbers.csv";
     std::ofstream(file) << "2001,Front Desk, Reception";
     Open<AddressBookPage>();
     Click("Import CSV");  // no file chosen
-    test_.prompts.paths = {file};
+    world.prompts.paths = {file};
     Click("Import CSV");
-    EXPECT_EQ(test_.prompts.messages.back().text, "Import complete!");
+    EXPECT_EQ(world.prompts.messages.back().text, "Import complete!");
     Click("Add Number");
-    Enter("Number: ", "2001");
+    Type("Number: ", "2001");
     Click("Save");
-    EXPECT_EQ(test_.prompts.messages.back().icon, MessageIcon::Critical);
-    Enter("Number: ", "2002");
-    Enter("Name: ", "Ann");
+    EXPECT_EQ(world.prompts.messages.back().icon, MessageIcon::Critical);
+    Type("Number: ", "2002");
+    Type("Name: ", "Ann");
     Click("Save");
-    Select("Current Numbers", 0);
+    SelectRow(0, "Current Numbers");
     Click("Edit Number");
-    Enter("Number: ", "2002");
-    Enter("Name: ", "Bob");
+    Type("Number: ", "2002");
+    Type("Name: ", "Bob");
     Click("Save");
-    test_.prompts.answers = {Answer::Yes};
+    world.prompts.answers = {Answer::Yes};
     Click("Delete Number");
-    EXPECT_EQ(test_.prompts.messages.back().text, "Are you sure you wish to delete 2001?");
+    EXPECT_EQ(world.prompts.messages.back().text, "Are you sure you wish to delete 2001?");
     EXPECT_THAT(Rows("Current Numbers"), ElementsAre(ListRow{"Bob", "2002"}));
-    EXPECT_THAT(LoadAddressBook(test_.application.session), ElementsAre(KnownNumber{"Bob", "2002"}));
+    EXPECT_THAT(LoadAddressBook(world.application.session), ElementsAre(KnownNumber{"Bob", "2002"}));
 }
 
 }  // namespace

@@ -3,17 +3,13 @@
 #include <gmock/gmock.h>
 
 #include <QCheckBox>
-#include <QLineEdit>
 #include <QRadioButton>
 #include <QTest>
 
 #include "foundation/access_rights.h"
 #include "foundation/ado/recordset.h"
 #include "foundation/database.h"
-#include "foundation/form_names.h"
-#include "support/captioned.h"
-#include "support/test_application.h"
-#include "support/window_test.h"
+#include "support/form_test.h"
 #include "ui/report_preview.h"
 
 namespace tallix {
@@ -21,30 +17,14 @@ namespace {
 
 using testing::ElementsAre;
 
-class OptionsWindowTest : public test::WindowTest {
+class OptionsWindowTest : public test::FormTest {
 protected:
     OptionsWindowTest() {
         std::filesystem::create_directories(world.Folder() / "Collector");
         world.application.session.CurrentAccess = std::string(kRights, '1');
-        for (const char* name : {kMainForm, kSitesForm, kAccessLoggingForm}) {
-            forms.Register(name, [this, name] { return std::make_unique<ui::Form>(forms, name); });
-        }
-        forms.Register(kOptionsForm,
-                       [this] { return std::make_unique<OptionsWindow>(forms, world.application); });
+        StandIn({kMainForm, kSitesForm, kAccessLoggingForm});
+        UnderTest<OptionsWindow>(kOptionsForm, world.application);
     }
-
-    QWidget& Window() {
-        if (forms.Find(kOptionsForm) == nullptr) forms.Show(kOptionsForm);
-        return *forms.Find(kOptionsForm);
-    }
-    template <typename Widget>
-    Widget& Captioned(const QString& caption) {
-        return test::Captioned<Widget>(Window(), caption);
-    }
-    QLineEdit& Field(const QString& label) {
-        return dynamic_cast<QLineEdit&>(*Captioned<QLabel>(label).buddy());
-    }
-    void Click(const QString& caption) { Captioned<QPushButton>(caption).click(); }
 
     /// The entries at the side that can be chosen.
     std::vector<std::string> Pages() {
@@ -57,13 +37,10 @@ protected:
         }
         return pages;
     }
-    std::string LastMessage() const { return world.prompts.messages.back().text; }
-
-    test::TestApplication world;
 };
 
 TEST_F(OptionsWindowTest, OffersWhatTheRightsGrant) {
-    EXPECT_FALSE(Captioned<QPushButton>("Access Logging").isEnabled()) << "for the Administrator alone";
+    EXPECT_FALSE(Button("Access Logging").isEnabled()) << "for the Administrator alone";
     forms.Unload(kOptionsForm);
 
     world.application.session.CurrentUser = "Administrator";
@@ -72,10 +49,10 @@ TEST_F(OptionsWindowTest, OffersWhatTheRightsGrant) {
     for (const char* button :
          {"Save and Exit", "Edit Custom Mappings", "Scheduled Reports", "Edit Call Costings", "Compute Costs",
           "Titlebar Colour", "Restore Defaults"}) {
-        EXPECT_FALSE(Captioned<QPushButton>(button).isEnabled()) << button;
+        EXPECT_FALSE(Button(button).isEnabled()) << button;
     }
     for (const char* button : {"Exit Without Saving", "Cover/Backing", "Access Logging", "Enable"}) {
-        EXPECT_TRUE(Captioned<QPushButton>(button).isEnabled()) << button;
+        EXPECT_TRUE(Button(button).isEnabled()) << button;
     }
     forms.Unload(kOptionsForm);
 
@@ -87,36 +64,36 @@ TEST_F(OptionsWindowTest, GivesWayToTheWindowsItOpensAndStaysWhereThereIsNone) {
     world.Insert("tblsite", {{"ID", "001"}});
     EXPECT_EQ(Window().findChild<QLabel*>("SiteCount")->text(), "1");
     Click("Edit Call Costings");
-    EXPECT_TRUE(Window().isVisible());
+    EXPECT_TRUE(IsVisible(kOptionsForm));
     Click("Configure Sites");
-    EXPECT_FALSE(Window().isVisible());
-    EXPECT_TRUE(forms.Find(kSitesForm)->isVisible());
+    EXPECT_FALSE(IsVisible(kOptionsForm));
+    EXPECT_TRUE(IsVisible(kSitesForm));
     world.Insert("tblsite", {{"ID", "002"}});
     forms.Show(kOptionsForm);
     EXPECT_EQ(Window().findChild<QLabel*>("SiteCount")->text(), "2");
     QTest::keyClick(&Window(), Qt::Key_Escape);
-    EXPECT_EQ(forms.Find(kOptionsForm), nullptr);
-    EXPECT_TRUE(forms.Find(kMainForm)->isVisible());
+    EXPECT_FALSE(IsLoaded());
+    EXPECT_TRUE(IsVisible(kMainForm));
     EXPECT_THAT(world.prompts.messages, testing::IsEmpty()) << "nothing was changed, nothing is asked";
 }
 
 TEST_F(OptionsWindowTest, SavesWhatIsOnTheScreenAndLeaves) {
     world.settings.Write("ProxyIP", "old");
     world.settings.Write("SwitchBaud", "9600");
-    EXPECT_FALSE(Field("Proxy Server:").isEnabled());
-    EXPECT_FALSE(Field("Listen Port:").isEnabled());
-    Field("Proxy Server:").setText("new");
+    EXPECT_FALSE(Labelled("Proxy Server:").isEnabled());
+    EXPECT_FALSE(Labelled("Listen Port:").isEnabled());
+    Type("Proxy Server:", "new");
     Captioned<QCheckBox>("Set Collector to Listen").click();
-    EXPECT_TRUE(Field("Listen Port:").isEnabled());
-    Field("SMTP Pass:").setText(" p\\w\"£ ");
+    EXPECT_TRUE(Labelled("Listen Port:").isEnabled());
+    Type("SMTP Pass:", " p\\w\"£ ");
     Captioned<QRadioButton>("Italian").click();
     Captioned<QRadioButton>("Right").click();
     world.prompts.paths = {"/srv/reports"};
     Click("Browse");
     Click("Disable");
     Click("Save and Exit");
-    EXPECT_EQ(LastMessage(), "Settings saved!");
-    EXPECT_EQ(forms.Find(kOptionsForm), nullptr);
+    EXPECT_EQ(LastMessage().text, "Settings saved!");
+    EXPECT_FALSE(IsLoaded());
     const std::vector<std::pair<const char*, const char*>> stored = {
         {"ProxyIP", "old"},     {"SwitchBaud", "9600"},
         {"ListenPort", "1752"}, {"SMTPPass", " p\\w\"£ "},
@@ -126,29 +103,16 @@ TEST_F(OptionsWindowTest, SavesWhatIsOnTheScreenAndLeaves) {
     EXPECT_EQ(world.crontab.Text(), "");
 }
 
-/// A person who cannot wait for the end of the save.
-class Impatience : public EventQueue {
-public:
-    void Serve() override {
-        if (const auto once = std::exchange(act, {})) once();
-    }
-    std::function<void()> act;
-};
-
 TEST_F(OptionsWindowTest, SavesOnceThoughItIsClickedAndClosedMeanwhile) {
-    Impatience events;
-    const Application& calm = world.application;
-    Application hasty{calm.folder,   calm.tempFolder, calm.version, world.settings,
-                      world.prompts, world.clock,     events,       std::move(world.application.session)};
-    forms.Register(kOptionsForm, [&] { return std::make_unique<OptionsWindow>(forms, hasty); });
-    events.act = [this] {
+    world.events.onServe = [this] {
+        world.events.onServe = {};
         Click("Save and Exit");
         Window().close();
-        EXPECT_NE(forms.Find(kOptionsForm), nullptr);
+        EXPECT_TRUE(IsLoaded());
     };
     Click("Save and Exit");
     EXPECT_EQ(world.prompts.messages.size(), 1U);
-    EXPECT_EQ(forms.Find(kOptionsForm), nullptr);
+    EXPECT_FALSE(IsLoaded());
 }
 
 TEST_F(OptionsWindowTest, AsksBeforeExtensionsOutOfTheCallsAreDiscardedAndSavesThem) {
@@ -156,15 +120,15 @@ TEST_F(OptionsWindowTest, AsksBeforeExtensionsOutOfTheCallsAreDiscardedAndSavesT
     world.prompts.answers = {Answer::Yes, Answer::No, Answer::Yes};
     Click("Get From Data");
     Window().close();
-    EXPECT_EQ(LastMessage(),
+    EXPECT_EQ(LastMessage().text,
               "Any changes that you have made will be discarded. Are you sure you want to exit?");
-    EXPECT_TRUE(Window().isVisible());
+    EXPECT_TRUE(IsVisible(kOptionsForm));
     Click("Exit Without Saving");
-    EXPECT_EQ(forms.Find(kOptionsForm), nullptr);
+    EXPECT_FALSE(IsLoaded());
     world.prompts.answers = {Answer::Yes};
     Click("Get From Data");
     Click("Save and Exit");
-    EXPECT_EQ(forms.Find(kOptionsForm), nullptr);
+    EXPECT_FALSE(IsLoaded());
     EXPECT_THAT(LoadExtensions(world.application.session), ElementsAre(Extension{"305", ""}));
 }
 
@@ -173,24 +137,24 @@ TEST_F(OptionsWindowTest, TellsOfLostCallsAndDebugLoggingByMouseAndByKey) {
     auto& lost = Captioned<QCheckBox>("Include 'lost' calls in call records");
     EXPECT_THAT(world.prompts.messages, testing::IsEmpty());
     lost.click();
-    EXPECT_THAT(LastMessage(), testing::StartsWith("If you have already"));
+    EXPECT_THAT(LastMessage().text, testing::StartsWith("If you have already"));
     QTest::keyClick(&lost, Qt::Key_Space);
-    EXPECT_THAT(LastMessage(), testing::StartsWith("IMPORTANT! - This"));
+    EXPECT_THAT(LastMessage().text, testing::StartsWith("IMPORTANT! - This"));
     auto& debug = *Window().findChild<QCheckBox*>("DebugLogging");
     debug.click();
-    EXPECT_EQ(world.prompts.messages.back().title, "Debug Logging");
+    EXPECT_EQ(LastMessage().title, "Debug Logging");
     debug.click();
     EXPECT_EQ(world.prompts.messages.size(), 3U) << "clearing it is not told of";
     EXPECT_FALSE(debug.isChecked());
 }
 
 TEST_F(OptionsWindowTest, TestsTheMailOnlyWithAServerAndAPort) {
-    auto& test = Captioned<QPushButton>("Test Attach");
-    Field("SMTP Port:").setText("25");
+    auto& test = Button("Test Attach");
+    Type("SMTP Port:", "25");
     EXPECT_FALSE(test.isEnabled());
-    Field("SMTP Server:").setText("127.0.0.1");
+    Type("SMTP Server:", "127.0.0.1");
     test.click();
-    EXPECT_EQ(LastMessage(), "No default site has been configured, test email failed!");
+    EXPECT_EQ(LastMessage().text, "No default site has been configured, test email failed!");
     EXPECT_TRUE(test.isEnabled());
 }
 
@@ -208,7 +172,7 @@ TEST_F(OptionsWindowTest, ComputesCostsOnYes) {
     Click("Compute Costs");
     EXPECT_EQ(count(), 1);
     EXPECT_EQ(world.prompts.messages.size(), 2U);
-    EXPECT_TRUE(Captioned<QPushButton>("Compute Costs").isEnabled());
+    EXPECT_TRUE(Button("Compute Costs").isEnabled());
 }
 
 TEST_F(OptionsWindowTest, RestoredColoursReachTheReportsByASaveOnly) {

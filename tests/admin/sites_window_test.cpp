@@ -2,37 +2,20 @@
 
 #include <gtest/gtest.h>
 
-#include <QLabel>
 #include <QTest>
 
-#include "foundation/access_log.h"
-#include "foundation/form_names.h"
-#include "support/captioned.h"
-#include "support/test_application.h"
-#include "support/window_test.h"
+#include "support/form_test.h"
 
 namespace tallix {
 namespace {
 
-class SitesWindowTest : public test::WindowTest {
+class SitesWindowTest : public test::FormTest {
 protected:
     SitesWindowTest() {
-        forms.Register(kOptionsForm, [this] { return std::make_unique<ui::Form>(forms, "Options"); });
-        forms.Register(kSitesForm,
-                       [this] { return std::make_unique<SitesWindow>(forms, world.application); });
+        StandIn({kOptionsForm});
+        UnderTest<SitesWindow>(kSitesForm, world.application);
         world.Insert("tblphonemapping", {{"Mapping_Name", "Reception"}});
         world.Insert("tblsite", {{"ID", "1"}, {"Name", "Head"}, {"VM", "500"}, {"3PTDatabase", "2"}});
-        forms.Show(kSitesForm);
-    }
-
-    QWidget& Window() { return *forms.Find(kSitesForm); }
-    QPushButton& Button(const QString& caption) { return test::Captioned<QPushButton>(Window(), caption); }
-    ui::ListView& List() { return *Window().findChild<ui::ListView*>(); }
-    void SelectFirst() { List().setCurrentIndex(List().Rows().index(0, 0)); }
-
-    template <typename Input>
-    Input& Labelled(const QString& label) {
-        return dynamic_cast<Input&>(*test::Captioned<QLabel>(Window(), label).buddy());
     }
 
     QString Enabled() {
@@ -42,49 +25,47 @@ protected:
             letters += Button(caption).isEnabled() ? caption[0] : '-';
         return letters;
     }
-
-    test::TestApplication world;
 };
 
 TEST_F(SitesWindowTest, AddsAndEditsInTheEntryFrame) {
     EXPECT_EQ(Enabled(), "A--SE");
-    Button("Add Site").click();
+    Click("Add Site");
     EXPECT_EQ(Enabled(), "-----");
-    QTest::keyClicks(&Labelled<QLineEdit>("Site Name:"), "West");
-    auto& ip = Labelled<QLineEdit>("Switch IP:");
+    QTest::keyClicks(&Labelled("Site Name:"), "West");
+    auto& ip = Labelled("Switch IP:");
     QTest::keyClicks(&ip, "1.2.3");
-    EXPECT_TRUE(test::Captioned<QCheckBox>(Window(), "Include Site In Collector Service").isChecked());
+    EXPECT_TRUE(Captioned<QCheckBox>("Include Site In Collector Service").isChecked());
     Labelled<QComboBox>("Mappings:").setCurrentText("Reception");
-    Button("Save").click();
-    EXPECT_EQ(world.prompts.messages.back().title, "IP Error");
+    Click("Save");
+    EXPECT_EQ(LastMessage().title, "IP Error");
     EXPECT_EQ(Enabled(), "-----") << "the frame stays open";
     ip.setText("1.2.3.4");
     QTest::keyClick(&ip, Qt::Key_Return);
-    EXPECT_EQ(List().Rows().All().back(), (ui::ListRow{"2", "West", "", "", "", "", "", "", "", "1.2.3.4", "",
-                                                       "Reception", "C", "0", "", "", ""}));
+    EXPECT_EQ(Rows().back(), (ui::ListRow{"2", "West", "", "", "", "", "", "", "", "1.2.3.4", "", "Reception",
+                                          "C", "0", "", "", ""}));
     EXPECT_EQ(Enabled(), "A--SE");
 
-    SelectFirst();
+    SelectRow(0);
     EXPECT_EQ(Enabled(), "AEDSE");
-    Button("Edit Site").click();
-    EXPECT_EQ(Labelled<QLineEdit>("VM:").text(), "500");
+    Click("Edit Site");
+    EXPECT_EQ(Labelled("VM:").text(), "500");
     EXPECT_EQ(Labelled<QComboBox>("3PT System:").currentText(), "FreePBX");
-    QTest::keyClick(&Labelled<QLineEdit>("VM:"), Qt::Key_Escape);
+    QTest::keyClick(&Labelled("VM:"), Qt::Key_Escape);
     EXPECT_EQ(Enabled(), "AEDSE");
 }
 
 TEST_F(SitesWindowTest, AsksBeforeItDeletesAndBeforeItLeaves) {
-    SelectFirst();
+    SelectRow(0);
     world.prompts.answers = {Answer::Yes};
-    Button("Delete Site").click();
-    EXPECT_EQ(List().Rows().Count(), 0);
-    Button("Exit Without Saving").click();
-    EXPECT_EQ(world.prompts.messages.back().title, "Settings Changed");
-    ASSERT_TRUE(Window().isVisible());
+    Click("Delete Site");
+    EXPECT_EQ(Rows().size(), 0U);
+    Click("Exit Without Saving");
+    EXPECT_EQ(LastMessage().title, "Settings Changed");
+    ASSERT_TRUE(IsVisible(kSitesForm));
     world.prompts.answers = {Answer::Yes};
     QTest::keyClick(&Window(), Qt::Key_Escape);
-    EXPECT_EQ(forms.Find(kSitesForm), nullptr);
-    EXPECT_TRUE(forms.Find(kOptionsForm)->isVisible());
+    EXPECT_FALSE(IsLoaded());
+    EXPECT_TRUE(IsVisible(kOptionsForm));
 }
 
 TEST_F(SitesWindowTest, RestartsTheServicesOnlyWhenAskedTo) {
@@ -93,12 +74,11 @@ TEST_F(SitesWindowTest, RestartsTheServicesOnlyWhenAskedTo) {
     std::ofstream(world.Folder() / "Processor/Service_Off.bat") << "sleep 0.1; echo off >> said\n";
     std::ofstream(world.Folder() / "Processor/service_on.bat") << "echo on >> said\n";
     for (const Answer answer : {Answer::No, Answer::Yes}) {
-        forms.Show(kSitesForm);
         world.prompts.answers = {answer};
-        Button("Save and Exit").click();
+        Click("Save and Exit");
         EXPECT_EQ(test::ReadBytes(world.Folder() / "said"), answer == Answer::Yes ? "off\non\n" : "");
-        EXPECT_EQ(world.prompts.messages.back().text, "Site Settings saved!");
-        EXPECT_EQ(ReadAccessLog(world.application.session).back().back(), "Site Settings Saved");
+        EXPECT_EQ(LastMessage().text, "Site Settings saved!");
+        EXPECT_EQ(Logged().back(), "Site Settings Saved");
     }
 }
 

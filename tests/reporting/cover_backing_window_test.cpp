@@ -2,37 +2,19 @@
 
 #include <gmock/gmock.h>
 
-#include <QLabel>
-#include <QPushButton>
 #include <QTest>
 
-#include "foundation/access_log.h"
-#include "foundation/form_names.h"
-#include "support/captioned.h"
-#include "support/test_application.h"
-#include "support/window_test.h"
+#include "support/form_test.h"
 
 namespace tallix {
 namespace {
 
-class CoverBackingWindowTest : public test::WindowTest {
+class CoverBackingWindowTest : public test::FormTest {
 protected:
     CoverBackingWindowTest() {
-        for (const char* name : {kMainForm, kOptionsForm}) {
-            forms.Register(name, [this, name] { return std::make_unique<ui::Form>(forms, name); });
-        }
-        forms.Register(kCoverPagesForm,
-                       [this] { return std::make_unique<CoverBackingWindow>(forms, world.application); });
+        StandIn({kMainForm, kOptionsForm});
+        UnderTest<CoverBackingWindow>(kCoverPagesForm, world.application);
     }
-
-    template <typename Widget>
-    Widget& Captioned(const QString& caption) {
-        return test::Captioned<Widget>(*forms.Load(kCoverPagesForm), caption);
-    }
-
-    QLineEdit& Title() { return dynamic_cast<QLineEdit&>(*Captioned<QLabel>("Title:").buddy()); }
-
-    test::TestApplication world;
 };
 
 TEST_F(CoverBackingWindowTest, ShowsWhatIsStoredAndOffersATitleOnlyWhereOneIsWanted) {
@@ -41,16 +23,16 @@ TEST_F(CoverBackingWindowTest, ShowsWhatIsStoredAndOffersATitleOnlyWhereOneIsWan
     EXPECT_TRUE(Captioned<QRadioButton>("Default Title").isChecked());
     EXPECT_TRUE(Captioned<QCheckBox>("Show Notes Section").isChecked());
     EXPECT_FALSE(Captioned<QCheckBox>("Enable Cover").isChecked());
-    EXPECT_EQ(Title().text(), "Quarter");
-    EXPECT_FALSE(Title().isEnabled());
+    EXPECT_EQ(Labelled("Title:").text(), "Quarter");
+    EXPECT_FALSE(Labelled("Title:").isEnabled());
     Captioned<QRadioButton>("Custom Title").click();
-    EXPECT_TRUE(Title().isEnabled());
+    EXPECT_TRUE(Labelled("Title:").isEnabled());
     Captioned<QRadioButton>("Default Title").click();
-    EXPECT_FALSE(Title().isEnabled());
+    EXPECT_FALSE(Labelled("Title:").isEnabled());
 
     forms.Unload(kCoverPagesForm);
     world.settings.Write("CTitle", "1");
-    EXPECT_TRUE(Title().isEnabled());
+    EXPECT_TRUE(Labelled("Title:").isEnabled());
 }
 
 TEST_F(CoverBackingWindowTest, SavesEachBoxUnderItsKeyAndLogsIt) {
@@ -61,8 +43,8 @@ TEST_F(CoverBackingWindowTest, SavesEachBoxUnderItsKeyAndLogsIt) {
     };
     for (const auto& [caption, key] : keys) {
         Captioned<QCheckBox>(caption).click();
-        Captioned<QPushButton>("Save and Exit").click();
-        EXPECT_EQ(forms.Find(kCoverPagesForm), nullptr);
+        Click("Save and Exit");
+        EXPECT_FALSE(IsLoaded());
         for (const auto& [other, otherKey] : keys) {
             EXPECT_EQ(world.settings.Read(otherKey), std::string(key) == otherKey ? "1" : "0") << otherKey;
         }
@@ -77,24 +59,21 @@ TEST_F(CoverBackingWindowTest, SavesEachBoxUnderItsKeyAndLogsIt) {
 }
 
 TEST_F(CoverBackingWindowTest, GoesBackToTheWindowThatOpenedIt) {
-    forms.Show(kCoverPagesForm);
-    forms.Find(kCoverPagesForm)->close();
-    EXPECT_TRUE(forms.Find(kMainForm)->isVisible());
+    Window().close();
+    EXPECT_TRUE(IsVisible(kMainForm));
     forms.Hide(kMainForm);
 
-    forms.Show(kCoverPagesForm);
     Captioned<QCheckBox>("Enable Cover").click();
     QTest::keyClick(&Captioned<QCheckBox>("Enable Cover"), Qt::Key_Escape);
-    EXPECT_EQ(forms.Find(kCoverPagesForm), nullptr);
+    EXPECT_FALSE(IsLoaded());
     EXPECT_NE(world.settings.Read("CCover"), "1");
-    EXPECT_TRUE(forms.Find(kMainForm)->isVisible());
+    EXPECT_TRUE(IsVisible(kMainForm));
     forms.Hide(kMainForm);
 
     forms.Load(kOptionsForm);
-    forms.Show(kCoverPagesForm);
-    forms.Find(kCoverPagesForm)->close();
-    EXPECT_TRUE(forms.Find(kOptionsForm)->isVisible());
-    EXPECT_FALSE(forms.Find(kMainForm)->isVisible());
+    Window().close();
+    EXPECT_TRUE(IsVisible(kOptionsForm));
+    EXPECT_FALSE(IsVisible(kMainForm));
 }
 
 }  // namespace

@@ -3,40 +3,22 @@
 #include <gtest/gtest.h>
 
 #include <QCalendarWidget>
-#include <QLabel>
 
-#include "foundation/form_names.h"
-#include "support/captioned.h"
-#include "support/test_application.h"
-#include "support/window_test.h"
-#include "ui/forms.h"
+#include "support/form_test.h"
 
 namespace tallix {
 namespace {
 
-class CustomReportsWindowTest : public test::WindowTest {
+class CustomReportsWindowTest : public test::FormTest {
 protected:
     CustomReportsWindowTest() {
-        test_.application.session.CurrentAccess = std::string(42, '1');
-        test_.application.session.ReportsLocation = test_.application.folder.string();
-        for (const char* name : {kMainForm, kReportOutputForm}) {
-            forms.Register(name, [this, name] { return std::make_unique<ui::Form>(forms, name); });
-        }
-        forms.Register(kCustomReportsForm, [this] {
-            return std::make_unique<CustomReportsWindow>(forms, test_.application, printers_);
-        });
+        world.application.session.CurrentAccess = std::string(42, '1');
+        world.application.session.ReportsLocation = world.application.folder.string();
+        StandIn({kMainForm, kReportOutputForm});
+        UnderTest<CustomReportsWindow>(kCustomReportsForm, world.application, printers_);
         forms.Show(kMainForm);
     }
 
-    void Open() { forms.Show(kCustomReportsForm); }
-    template <typename Widget>
-    Widget& Captioned(const QString& caption) {
-        return test::Captioned<Widget>(*forms.Find(kCustomReportsForm), caption);
-    }
-    template <typename Widget>
-    Widget& Labelled(const QString& caption) {
-        return dynamic_cast<Widget&>(*Captioned<QLabel>(caption).buddy());
-    }
     void Select(const QString& report) {
         auto& list = Labelled<QListWidget>("Available Reports");
         list.setCurrentItem(list.findItems(report, Qt::MatchExactly).value(0));
@@ -53,52 +35,48 @@ protected:
         EXPECT_TRUE(button.isEnabled());
         button.click();
         box.setChecked(false);
-        auto& panel = *forms.Find(kCustomReportsForm)->findChild<ui::CalendarPanel*>();
+        auto& panel = *Window().findChild<ui::CalendarPanel*>();
         emit panel.findChild<QCalendarWidget*>()->clicked(day);
         EXPECT_EQ(field.text().toStdString(), ShortDate({day.year(), day.month(), day.day()}));
         EXPECT_TRUE(box.isChecked());
     }
 
-    test::TestApplication test_;
     ui::Printers printers_;
 };
 
 TEST_F(CustomReportsWindowTest, AReportIsMadeKeptAndRun) {
-    test_.InsertCall();
-    Open();
-    EXPECT_FALSE(Captioned<QPushButton>("Run Report").isEnabled());
+    world.InsertCall();
+    EXPECT_FALSE(Button("Run Report").isEnabled());
     Select("<Create New Report>");
-    EXPECT_EQ(Labelled<QLineEdit>("Report Name:").text(), "New Report 1");
+    EXPECT_EQ(Labelled("Report Name:").text(), "New Report 1");
     Field(4).setCheckState(Qt::Checked);
-    Labelled<QLineEdit>("Extension:").setText("201");
-    Labelled<QLineEdit>("Report Name:").setText("Mine");
+    Type("Extension:", "201");
+    Type("Report Name:", "Mine");
     Captioned<QCheckBox>("End Date").setChecked(true);
     PickAsEndDate(QDate(2099, 1, 2));
-    Captioned<QPushButton>("Save Report").click();
-    EXPECT_EQ(test_.prompts.messages.at(0).text, "Report Saved!");
+    Click("Save Report");
+    EXPECT_EQ(world.prompts.messages.at(0).text, "Report Saved!");
     EXPECT_EQ(Labelled<QListWidget>("Available Reports").count(), 1) << "not listed anew";
-    Captioned<QPushButton>("Run Report").click();
-    EXPECT_EQ(test_.prompts.messages.at(1).text, "No data matches your query!") << "of extension 0201";
-    EXPECT_EQ(forms.Find(kCustomReportsForm), nullptr);
-    EXPECT_TRUE(forms.Find(kMainForm)->isVisible());
+    Click("Run Report");
+    EXPECT_EQ(world.prompts.messages.at(1).text, "No data matches your query!") << "of extension 0201";
+    EXPECT_FALSE(IsLoaded());
+    EXPECT_TRUE(IsVisible(kMainForm));
 
-    test_.InsertCall({{"Extension", "0201"}});
-    Open();
+    world.InsertCall({{"Extension", "0201"}});
     Select("Mine");
-    EXPECT_FALSE(Labelled<QLineEdit>("Extension:").isEnabled());
+    EXPECT_FALSE(Labelled("Extension:").isEnabled());
     EXPECT_EQ(Field(4).checkState(), Qt::Checked);
     EXPECT_EQ(Field(5).checkState(), Qt::Unchecked);
-    Captioned<QPushButton>("Run Report").click();
-    EXPECT_TRUE(forms.Find(kReportOutputForm)->isVisible());
+    Click("Run Report");
+    EXPECT_TRUE(IsVisible(kReportOutputForm));
 }
 
 TEST_F(CustomReportsWindowTest, RightsHideWhatIsNotGranted) {
-    test_.application.session.CurrentAccess[27] = '0';
-    for (std::size_t place = 38; place < 41; ++place) test_.application.session.CurrentAccess[place] = '0';
-    Open();
+    world.application.session.CurrentAccess[27] = '0';
+    for (std::size_t place = 38; place < 41; ++place) world.application.session.CurrentAccess[place] = '0';
     EXPECT_EQ(Labelled<QListWidget>("Available Reports").count(), 0);
-    EXPECT_FALSE(Captioned<QPushButton>("Save Report").isVisible());
-    EXPECT_FALSE(Captioned<QPushButton>("Delete Report").isVisible());
+    EXPECT_FALSE(Button("Save Report").isVisible());
+    EXPECT_FALSE(Button("Delete Report").isVisible());
     EXPECT_FALSE(Labelled<QListWidget>("Select data you wish to show").isEnabled());
     EXPECT_FALSE(Captioned<QRadioButton>("On Screen").isVisible());
 }

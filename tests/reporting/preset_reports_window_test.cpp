@@ -7,17 +7,13 @@
 #include <QToolButton>
 #include <filesystem>
 
-#include "foundation/form_names.h"
 #include "reporting/report_run.h"
-#include "support/captioned.h"
-#include "support/test_application.h"
-#include "support/window_test.h"
+#include "support/form_test.h"
 #include "ui/qt_events.h"
 
 namespace tallix {
 namespace {
 
-using test::TestApplication;
 using ::testing::StartsWith;
 
 class TwoPrinters : public ui::Printers {
@@ -25,18 +21,13 @@ public:
     std::vector<std::string> Names() const override { return {"Front Desk", "Back Office"}; }
 };
 
-class PresetReportsWindowTest : public test::WindowTest {
+class PresetReportsWindowTest : public test::FormTest {
 protected:
     PresetReportsWindowTest() {
-        application.session.DBType = world.application.session.DBType;
-        application.session.DBIP = world.application.session.DBIP;
-        application.session.CurrentAccess = std::string(42, '1');
-        for (const char* name : {kMainForm, kReportOutputForm}) {
-            forms.Register(name, [this, name] { return std::make_unique<ui::Form>(forms, name); });
-        }
-        forms.Register(kPresetReportsForm, [this] {
-            return std::make_unique<PresetReportsWindow>(forms, application, flags, printers);
-        });
+        world.events.queue = &events_;
+        world.application.session.CurrentAccess = std::string(42, '1');
+        StandIn({kMainForm, kReportOutputForm});
+        UnderTest<PresetReportsWindow>(kPresetReportsForm, world.application, flags_, printers_);
         world.WriteReport("All Calls", {{"Date", "True"}}, {});
         world.WriteReport("Of Extension", {{"Date", "True"}}, {{"Extension", "True"}});
         world.WriteReport("Of Nobody", {{"Date", "True"}}, {{"Where", "WHERE Extension = '999'"}});
@@ -50,47 +41,26 @@ protected:
         return *forms.Find(kPresetReportsForm);
     }
 
-    template <typename Widget>
-    Widget& Captioned(const QString& caption) {
-        return test::Captioned<Widget>(*forms.Find(kPresetReportsForm), caption);
-    }
-
-    QWidget& Labelled(const QString& caption) { return *Captioned<QLabel>(caption).buddy(); }
-
     void Select(const QString& report) {
-        auto& list = dynamic_cast<QListView&>(Labelled("Available Reports"));
+        auto& list = Labelled<QListView>("Available Reports");
         const auto found = list.model()->match(list.model()->index(0, 0), Qt::DisplayRole, report);
         list.setCurrentIndex(found.value(0));
     }
 
-    void Type(const QString& label, const QString& text) {
-        dynamic_cast<QLineEdit&>(Labelled(label)).setText(text);
-    }
-
-    bool IsVisible(const char* form) const { return forms.Find(form) && forms.Find(form)->isVisible(); }
-
-    TestApplication world;
-    ui::QtEvents events;
-    Application application{world.application.folder,
-                            world.application.tempFolder,
-                            world.application.version,
-                            world.settings,
-                            world.prompts,
-                            world.clock,
-                            events};
-    ReportFlags flags;
-    TwoPrinters printers;
+    ui::QtEvents events_;
+    ReportFlags flags_;
+    TwoPrinters printers_;
 };
 
 TEST_F(PresetReportsWindowTest, OpensWithItsListsAndWithNothingToRun) {
     world.Execute("INSERT INTO tblsite(ID) VALUES ('7')");
     Open();
-    EXPECT_EQ(dynamic_cast<QListView&>(Labelled("Available Reports")).model()->rowCount(), 3);
-    EXPECT_FALSE(Captioned<QPushButton>("Run Report").isEnabled());
-    const auto& sites = dynamic_cast<QComboBox&>(Labelled("Site:"));
+    EXPECT_EQ(Labelled<QListView>("Available Reports").model()->rowCount(), 3);
+    EXPECT_FALSE(Button("Run Report").isEnabled());
+    const auto& sites = Labelled<QComboBox>("Site:");
     EXPECT_EQ(sites.currentText(), "ALL");
     EXPECT_EQ(sites.itemText(1), "007");
-    const auto& times = dynamic_cast<QComboBox&>(Labelled("Time:"));
+    const auto& times = Labelled<QComboBox>("Time:");
     EXPECT_EQ(times.count(), 1440);
     EXPECT_EQ(times.itemText(9 * 60 + 5), "09:05");
     EXPECT_EQ(times.currentText(), "");
@@ -98,7 +68,7 @@ TEST_F(PresetReportsWindowTest, OpensWithItsListsAndWithNothingToRun) {
     EXPECT_FALSE(Captioned<QCheckBox>("GRAPH").isVisible());
 
     forms.Unload(kPresetReportsForm);
-    application.session.CurrentAccess[36] = '0';
+    world.application.session.CurrentAccess[36] = '0';
     Open();
     EXPECT_FALSE(Captioned<QRadioButton>("To Printer").isVisible());
 }
@@ -117,22 +87,22 @@ TEST_F(PresetReportsWindowTest, AReportEnablesTheInputsThatItAsksForAndKeepsWhat
         Select("All Calls");
         Type("Extension:", "x");
         for (const auto& [otherKey, other] : inputs) {
-            EXPECT_EQ(Labelled(other).isEnabled(), key == otherKey) << key << ", " << other;
+            EXPECT_EQ(Labelled<QWidget>(other).isEnabled(), key == otherKey) << key << ", " << other;
             EXPECT_EQ(Captioned<QLabel>(other).isEnabled(), key == otherKey) << key << ", " << other;
         }
         EXPECT_EQ(Captioned<QRadioButton>("Less Than").isEnabled(), key == "Duration");
-        EXPECT_EQ(Captioned<QPushButton>("...").isEnabled(), key == "Date");
+        EXPECT_EQ(Button("...").isEnabled(), key == "Date");
     }
-    EXPECT_TRUE(Captioned<QPushButton>("Run Report").isEnabled());
+    EXPECT_TRUE(Button("Run Report").isEnabled());
     world.WriteReport("All Calls", {}, {{"Group", "true"}});
-    auto& reports = dynamic_cast<QListView&>(Labelled("Available Reports"));
+    auto& reports = Labelled<QListView>("Available Reports");
     QTest::mouseClick(reports.viewport(), Qt::LeftButton, {},
                       reports.visualRect(reports.currentIndex()).center());
-    EXPECT_TRUE(Labelled("Group:").isEnabled()) << "read again at a second click";
-    std::filesystem::remove(PresetReportFile(application.folder, "Of Extension"));
+    EXPECT_TRUE(Labelled<QWidget>("Group:").isEnabled()) << "read again at a second click";
+    std::filesystem::remove(PresetReportFile(world.application.folder, "Of Extension"));
     Select("Of Extension");
-    for (const auto& [key, caption] : inputs) EXPECT_FALSE(Labelled(caption).isEnabled()) << key;
-    EXPECT_EQ(dynamic_cast<QLineEdit&>(Labelled("Extension:")).text(), "x");
+    for (const auto& [key, caption] : inputs) EXPECT_FALSE(Labelled<QWidget>(caption).isEnabled()) << key;
+    EXPECT_EQ(Labelled("Extension:").text(), "x");
 }
 
 TEST_F(PresetReportsWindowTest, ADateIsTypedOrPicked) {
@@ -146,7 +116,7 @@ TEST_F(PresetReportsWindowTest, ADateIsTypedOrPicked) {
     field.clear();
     EXPECT_FALSE(box.isChecked());
 
-    Captioned<QPushButton>("...").click();
+    Click("...");
     auto& panel = *window.findChild<ui::CalendarPanel*>();
     auto& calendar = *panel.findChild<QCalendarWidget*>();
     EXPECT_TRUE(panel.isVisible());
@@ -161,7 +131,7 @@ TEST_F(PresetReportsWindowTest, ADateIsTypedOrPicked) {
     EXPECT_TRUE(box.isChecked());
 
     box.setChecked(false);
-    Captioned<QPushButton>("...").click();
+    Click("...");
     emit calendar.clicked(QDate(2021, 2, 5));
     EXPECT_TRUE(box.isChecked()) << "the day that the field held before";
 }
@@ -186,12 +156,12 @@ TEST_F(PresetReportsWindowTest, EveryRunEndsAtTheMainMenuOrAtTheReport) {
         Open();
         Select(c.report);
         Type("Extension:", c.extension);
-        if (c.vanishes) std::filesystem::remove(PresetReportFile(application.folder, c.report));
-        Captioned<QPushButton>("Run Report").click();
-        EXPECT_EQ(forms.Find(kPresetReportsForm), nullptr) << c.extension;
+        if (c.vanishes) std::filesystem::remove(PresetReportFile(world.application.folder, c.report));
+        Click("Run Report");
+        EXPECT_FALSE(IsLoaded()) << c.extension;
         EXPECT_EQ(IsVisible(kReportOutputForm), c.message == nullptr) << c.extension;
         EXPECT_EQ(IsVisible(kMainForm), c.message != nullptr) << c.extension;
-        EXPECT_EQ(std::filesystem::exists(PageFile(application)), c.leavesPage) << c.extension;
+        EXPECT_EQ(std::filesystem::exists(PageFile(world.application)), c.leavesPage) << c.extension;
         ASSERT_EQ(world.prompts.messages.size(), c.message ? 1U : 0U) << c.extension;
         if (c.message) {
             EXPECT_THAT(world.prompts.messages[0].text, StartsWith(c.message));
@@ -212,8 +182,8 @@ TEST_F(PresetReportsWindowTest, QuotesInEveryFieldHarmNothing) {
         for (QComboBox* list : window.findChildren<QComboBox*>()) {
             if (list->isEditable()) list->setCurrentText(text);
         }
-        Captioned<QPushButton>("Run Report").click();
-        EXPECT_EQ(forms.Find(kPresetReportsForm), nullptr);
+        Click("Run Report");
+        EXPECT_FALSE(IsLoaded());
     }
     EXPECT_TRUE(IsVisible(kReportOutputForm)) << "the calls are still there";
 }
@@ -239,10 +209,10 @@ TEST_F(PresetReportsWindowTest, TheDestinationEnablesItsListAndAPrinterThatIsGon
     printerList->addItem("Gone");
     printerList->setCurrentText("Gone");
     Select("All Calls");
-    Captioned<QPushButton>("Run Report").click();
+    Click("Run Report");
     EXPECT_TRUE(window.isVisible());
     EXPECT_FALSE(window.findChild<ui::ProgressPanel*>()->isVisible());
-    Captioned<QPushButton>("Cancel").click();
+    Click("Cancel");
     EXPECT_TRUE(IsVisible(kMainForm));
 }
 
@@ -264,14 +234,14 @@ TEST_F(PresetReportsWindowTest, AnswersDuringARunAndIsNotDisturbedByIt) {
         for (const QLabel* label : window.findChildren<QLabel*>()) {
             sawRecords = sawRecords || label->text().endsWith(" Of 524288");
         }
-        Captioned<QPushButton>("Run Report").click();
-        Captioned<QPushButton>("Cancel").click();
+        Click("Run Report");
+        Click("Cancel");
         window.close();
         EXPECT_TRUE(window.isVisible());
     });
     Later([&] {
         heart.start(1);
-        Captioned<QPushButton>("Run Report").click();
+        Click("Run Report");
         heart.stop();
         EXPECT_TRUE(IsVisible(kReportOutputForm));
         QCoreApplication::exit(0);
@@ -279,7 +249,7 @@ TEST_F(PresetReportsWindowTest, AnswersDuringARunAndIsNotDisturbedByIt) {
     EXPECT_EQ(RunToTheEnd(), 0);
     EXPECT_GE(beats, 2);
     EXPECT_TRUE(sawRecords);
-    EXPECT_EQ(forms.Find(kPresetReportsForm), nullptr);
+    EXPECT_FALSE(IsLoaded());
     EXPECT_TRUE(failures.empty());
 }
 

@@ -8,15 +8,12 @@
 #include <QTest>
 #include <thread>
 
-#include "foundation/access_log.h"
-#include "foundation/form_names.h"
 #include "foundation/page_setup.h"
 #include "reporting/destinations_window.h"
 #include "reporting/report_run.h"
+#include "support/form_test.h"
 #include "support/print_server.h"
 #include "support/run_program.h"
-#include "support/test_application.h"
-#include "support/window_test.h"
 
 namespace tallix {
 namespace {
@@ -36,16 +33,12 @@ public:
     std::optional<PrintTicket> answer;
 };
 
-class ReportOutputTest : public test::WindowTest {
+class ReportOutputTest : public test::FormTest {
 protected:
     ReportOutputTest() {
-        for (const char* name : {kMainForm, kStatisticsForm, kPresetReportsForm}) {
-            forms.Register(name, [this, name] { return std::make_unique<ui::Form>(forms, name); });
-        }
-        forms.Register(kReportOutputForm, [this] {
-            return std::make_unique<ReportOutputWindow>(forms, test_.application, printers_);
-        });
-        test_.application.session.CurrentAccess = std::string(42, '1');
+        StandIn({kMainForm, kStatisticsForm, kPresetReportsForm});
+        UnderTest<ReportOutputWindow>(kReportOutputForm, world.application, printers_);
+        world.application.session.CurrentAccess = std::string(42, '1');
         forms.Load(kMainForm);
         forms.Load(kPresetReportsForm);
     }
@@ -56,21 +49,21 @@ protected:
 
     /// A page of the coloured layout with so many calls.
     void WritePage(int calls) {
-        for (int call = 0; call < calls; ++call) test_.InsertCall();
+        for (int call = 0; call < calls; ++call) world.InsertCall();
         for (const char* colour : {"rptTC", "rptTHC", "rptTDC", "rptTBC"}) {
-            test_.settings.Write(colour, "000128255");
+            world.settings.Write(colour, "000128255");
         }
-        test_.settings.Write("V1Reports", "1");
-        test_.Execute("INSERT INTO tblsite(ID, Name) VALUES ('1', 'Caf\xC3\xA9')");
-        const auto file = test_.WriteReport("Calls", {{"Date", "True"}, {"DestNum", "True"}}, {});
+        world.settings.Write("V1Reports", "1");
+        world.Execute("INSERT INTO tblsite(ID, Name) VALUES ('1', 'Caf\xC3\xA9')");
+        const auto file = world.WriteReport("Calls", {{"Date", "True"}, {"DestNum", "True"}}, {});
         ReportFlags flags;
         NoProgress progress;
-        ReportRun(test_.application, flags, progress)
+        ReportRun(world.application, flags, progress)
             .Make({.reportName = "Calls", .reportFile = file, .rules = kPresetRules});
     }
 
     void Deliver(const DestinationChoice& choice) {
-        DeliverReport(forms, test_.application, printers_, choice, kPresetReportsForm);
+        DeliverReport(forms, world.application, printers_, choice, kPresetReportsForm);
     }
 
     template <typename Condition>
@@ -78,30 +71,17 @@ protected:
         return QTest::qWaitFor(condition, kPatience);
     }
 
-    QWidget* Output() { return forms.Find(kReportOutputForm); }
-    QWidget* WaitingFrame() { return Output()->findChild<QWidget*>("WaitingFrame"); }
-    QPushButton* Button(const QString& caption) {
-        for (auto* button : Output()->findChildren<QPushButton*>()) {
-            if (button->text() == caption) return button;
-        }
-        return nullptr;
-    }
+    QWidget* WaitingFrame() { return Window().findChild<QWidget*>("WaitingFrame"); }
     bool Says(const QString& text) {
-        for (const QLabel* label : Output()->findChildren<QLabel*>()) {
+        for (const QLabel* label : Window().findChildren<QLabel*>()) {
             if (label->text() == text && label->isVisible()) return true;
         }
         return false;
-    }
-    std::vector<std::string> LoggedEvents() {
-        std::vector<std::string> events;
-        for (const AccessLogRow& row : ReadAccessLog(test_.application.session)) events.push_back(row[3]);
-        return events;
     }
 
     static constexpr int kPatience = 15000;
     static constexpr int kPause = 20;
 
-    test::TestApplication test_;
     ScriptedPrinters printers_;
 };
 
@@ -114,13 +94,13 @@ TEST_F(ReportOutputTest, ShowsTheReportPrintsItAndDeletesItWhenClosed) {
     WritePage(3);
     forms.Show(kMainForm);
     Deliver({});
-    ASSERT_TRUE(Output()->isVisible());
-    EXPECT_FALSE(forms.Find(kMainForm)->isVisible());
+    ASSERT_TRUE(IsVisible(kReportOutputForm));
+    EXPECT_FALSE(IsVisible(kMainForm));
     EXPECT_EQ(forms.Find(kPresetReportsForm), nullptr);
     EXPECT_TRUE(Says(kWaiting));
     EXPECT_TRUE(WaitFor([&] { return !WaitingFrame()->isVisible(); }));
 
-    auto* view = Output()->findChild<QWebEngineView*>();
+    auto* view = Window().findChild<QWebEngineView*>();
     EXPECT_EQ(view->title(), "Tallix Reports - Calls");
     QString text;
     view->page()->toPlainText([&](const QString& shown) { text = shown; });
@@ -128,34 +108,34 @@ TEST_F(ReportOutputTest, ShowsTheReportPrintsItAndDeletesItWhenClosed) {
     EXPECT_THAT(text.toStdString(), HasSubstr("Caf\xC3\xA9"));
     EXPECT_THAT(text.toStdString(), HasSubstr("Total Number Of Records: 3"));
 
-    Button("Print Report")->click();
+    Click("Print Report");
     printers_.answer = PrintTicket{.printer = kPrinter};
-    Button("Print Report")->click();
+    Click("Print Report");
     EXPECT_TRUE(WaitFor([&] { return !server.Jobs().empty(); }));
     EXPECT_EQ(server.Jobs().size(), 1U) << "the first was answered with Cancel";
     EXPECT_THAT(TextOf(server.Jobs().front()), HasSubstr("Page 1 of 1\n"));
-    EXPECT_THAT(LoggedEvents(), ElementsAre("Report Run - Calls", "Report Printed", "Report Printed"));
+    EXPECT_THAT(Logged(), ElementsAre("Report Run - Calls", "Report Printed", "Report Printed"));
 
-    Output()->activateWindow();
+    Window().activateWindow();
     view->setFocus();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(Output()));
-    QTest::keyClick(Output()->windowHandle(), Qt::Key_Escape);
-    EXPECT_TRUE(WaitFor([&] { return Output() == nullptr; }));
-    EXPECT_TRUE(forms.Find(kMainForm)->isVisible());
-    EXPECT_FALSE(std::filesystem::exists(PageFile(test_.application)));
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&Window()));
+    QTest::keyClick(Window().windowHandle(), Qt::Key_Escape);
+    EXPECT_TRUE(WaitFor([&] { return !IsLoaded(); }));
+    EXPECT_TRUE(IsVisible(kMainForm));
+    EXPECT_FALSE(std::filesystem::exists(PageFile(world.application)));
 }
 
 TEST_F(ReportOutputTest, PrintsEachPageWithItsNumberThoughTheLastWindowIsGone) {
     const test::PrintServer server(kPrinter);
     WritePage(150);
-    WritePageSetup(test_.settings, {"mine", "&bmine too"});
+    WritePageSetup(world.settings, {"mine", "&bmine too"});
     Deliver({.destination = Destination::ToPrinter, .printer = "Back_Office"});
     EXPECT_NE(forms.Find(kPresetReportsForm), nullptr) << "the printer is not there";
     EXPECT_FALSE(SpoolDocument({.printer = "Back_Office"}, "%PDF-1.4"));
     Later([&] {
         Deliver({.destination = Destination::ToPrinter, .printer = kPrinter});
-        EXPECT_EQ(Output(), nullptr);
-        EXPECT_FALSE(std::filesystem::exists(PageFile(test_.application)));
+        EXPECT_FALSE(IsLoaded());
+        EXPECT_FALSE(std::filesystem::exists(PageFile(world.application)));
         forms.Unload(kMainForm);
     });
     EXPECT_EQ(RunToTheEnd(), 0);
@@ -168,26 +148,26 @@ TEST_F(ReportOutputTest, PrintsEachPageWithItsNumberThoughTheLastWindowIsGone) {
     EXPECT_THAT(text, HasSubstr("Page 1 of 3\n"));
     EXPECT_THAT(text, HasSubstr("Page 3 of 3\n"));
     EXPECT_THAT(text, testing::Not(HasSubstr("mine")));
-    const PageSetup kept = ReadPageSetup(test_.settings);
+    const PageSetup kept = ReadPageSetup(world.settings);
     EXPECT_EQ(kept.header + "|" + kept.footer, "mine|&bmine too");
-    EXPECT_THAT(LoggedEvents(), ElementsAre("Report Run - Calls"));
+    EXPECT_THAT(Logged(), ElementsAre("Report Run - Calls"));
 }
 
 TEST_F(ReportOutputTest, ADatabaseThatIsGoneIsPassedOverAndOnlyTheRightOffersToPrint) {
-    test_.application.session.UseStatsMain = true;
+    world.application.session.UseStatsMain = true;
     forms.Show(kStatisticsForm);
     Deliver({});
-    EXPECT_FALSE(forms.Find(kStatisticsForm)->isVisible());
-    test_.application.session.DBIP = "sqlite:/nowhere/at/all.db";
-    Button("Print Report")->click();
-    Button("Close")->click();
-    EXPECT_TRUE(forms.Find(kStatisticsForm)->isVisible());
-    EXPECT_FALSE(forms.Find(kMainForm)->isVisible());
+    EXPECT_FALSE(IsVisible(kStatisticsForm));
+    world.application.session.DBIP = "sqlite:/nowhere/at/all.db";
+    Click("Print Report");
+    Click("Close");
+    EXPECT_TRUE(IsVisible(kStatisticsForm));
+    EXPECT_FALSE(IsVisible(kMainForm));
 
-    test_.application.session.CurrentAccess[6] = '0';
+    world.application.session.CurrentAccess[6] = '0';
     Deliver({});
-    EXPECT_FALSE(Button("Print Report")->isVisible());
-    EXPECT_FALSE(Button("Export As PDF")->isVisible());
+    EXPECT_FALSE(Button("Print Report").isVisible());
+    EXPECT_FALSE(Button("Export As PDF").isVisible());
 }
 
 TEST_F(ReportOutputTest, ALoadThatReplacesAnotherFindsTheReportAlthoughItIsDeleted) {
@@ -198,7 +178,7 @@ TEST_F(ReportOutputTest, ALoadThatReplacesAnotherFindsTheReportAlthoughItIsDelet
         QTest::qWait(load * kPause / 2);  // the request of some loads is under way by then
     }
     output->Navigate();
-    std::filesystem::remove(PageFile(test_.application));
+    std::filesystem::remove(PageFile(world.application));
     forms.Show(kReportOutputForm);
     EXPECT_TRUE(WaitFor([&] { return !WaitingFrame()->isVisible(); }));
     EXPECT_EQ(output->findChild<QWebEngineView*>()->title(), "Tallix Reports - Calls");
@@ -207,16 +187,16 @@ TEST_F(ReportOutputTest, ALoadThatReplacesAnotherFindsTheReportAlthoughItIsDelet
 TEST_F(ReportOutputTest, AReportThatIsGoneAndADeadRendererSaySoAndLeaveTheProgramAlive) {
     Deliver({});
     EXPECT_TRUE(WaitFor([&] { return Says(kFailed); }));
-    Button("Close")->click();
+    Click("Close");
 
     WritePage(1);
     Deliver({});
     EXPECT_TRUE(WaitFor([&] { return !WaitingFrame()->isVisible(); }));
-    const auto renderer = Output()->findChild<QWebEngineView*>()->page()->renderProcessPid();
+    const auto renderer = Window().findChild<QWebEngineView*>()->page()->renderProcessPid();
     ASSERT_GT(renderer, 0);
     kill(static_cast<pid_t>(renderer), SIGKILL);
     EXPECT_TRUE(WaitFor([&] { return Says(kFailed); }));
-    EXPECT_TRUE(Output()->isVisible());
+    EXPECT_TRUE(IsVisible(kReportOutputForm));
 }
 
 }  // namespace

@@ -2,14 +2,8 @@
 
 #include <gmock/gmock.h>
 
-#include <QLabel>
-
-#include "foundation/access_log.h"
-#include "foundation/form_names.h"
 #include "reporting/catalogue.h"
-#include "support/captioned.h"
-#include "support/test_application.h"
-#include "support/window_test.h"
+#include "support/form_test.h"
 #include "ui/qt_events.h"
 
 namespace tallix {
@@ -19,48 +13,35 @@ using ::testing::ElementsAre;
 using ::testing::EndsWith;
 using ::testing::IsEmpty;
 
-class ScheduledReportsWindowTest : public test::WindowTest {
+class ScheduledReportsWindowTest : public test::FormTest {
 protected:
     ScheduledReportsWindowTest() {
-        forms.Register(kSchedulesForm,
-                       [this] { return std::make_unique<ScheduledReportsWindow>(forms, world.application); });
-        forms.Register(kOptionsForm, [this] { return std::make_unique<ui::Form>(forms, "Options"); });
+        UnderTest<ScheduledReportsWindow>(kSchedulesForm, world.application);
+        StandIn({kOptionsForm});
         std::filesystem::create_directories(Scheduled());
         world.WriteReport("Calls", {}, {{"Date", "True"}, {"Account", "true"}});
         world.WriteReport("Times", {}, {{"Time", "True"}, {"Site", "True"}});
         std::filesystem::copy(PresetReportFile(world.application.folder, "Calls"),
                               world.application.folder / "Reports/Standard/CST_Mine.SRT");
-        forms.Show(kSchedulesForm);
     }
 
-    template <typename Widget>
-    Widget& Captioned(const QString& caption) {
-        return test::Captioned<Widget>(*forms.Load(kSchedulesForm), caption);
-    }
-    template <typename Widget>
-    Widget& Input(const QString& label) {
-        return dynamic_cast<Widget&>(*Captioned<QLabel>(label).buddy());
-    }
-    QListView& Tasks() { return Input<QListView>("Current Tasks"); }
+    QListView& Tasks() { return Labelled<QListView>("Current Tasks"); }
     QStringList Listed() { return dynamic_cast<QStringListModel&>(*Tasks().model()).stringList(); }
-    void Click(const QString& caption) { Captioned<QAbstractButton>(caption).click(); }
     std::filesystem::path Scheduled() const { return world.application.folder / "Reports" / "Scheduled"; }
 
     /// Fills in what "Create New" asks for and saves it.
     void Create(const QString& name, const QString& frequency) {
         Click("Create New");
-        Input<QLineEdit>("Task Name:").setText(name);
-        Input<QComboBox>("Select Preset Report:").setCurrentText("Times");
+        Type("Task Name:", name);
+        Labelled<QComboBox>("Select Preset Report:").setCurrentText("Times");
         Click(frequency);
-        Input<QLineEdit>("Location:").setText("/out\\");
+        Type("Location:", "/out\\");
         Click("Save Schedule");
     }
-
-    test::TestApplication world;
 };
 
 TEST_F(ScheduledReportsWindowTest, OffersTheParametersThatAReportCanUse) {
-    auto& reports = Input<QComboBox>("Select Preset Report:");
+    auto& reports = Labelled<QComboBox>("Select Preset Report:");
     EXPECT_EQ(reports.count(), 2) << "a file of another prefix is no preset report";
     EXPECT_FALSE(reports.isEnabled());
     Click("Create New");
@@ -73,17 +54,17 @@ TEST_F(ScheduledReportsWindowTest, OffersTheParametersThatAReportCanUse) {
         return labels;
     };
     EXPECT_EQ(enabled(), "Date:") << "of True and true the first is told alone";
-    Input<QLineEdit>("Date:").setText("01/02/2021");
+    Type("Date:", "01/02/2021");
     reports.setCurrentText("Times");
     EXPECT_EQ(enabled(), "Site:Time:");
-    EXPECT_EQ(Input<QLineEdit>("Date:").text(), "");
-    EXPECT_EQ(Input<QComboBox>("Time:").count(), 1440);
+    EXPECT_EQ(Labelled("Date:").text(), "");
+    EXPECT_EQ(Labelled<QComboBox>("Time:").count(), 1440);
 }
 
 TEST_F(ScheduledReportsWindowTest, RefusesWhatLacksInItsOrder) {
     Click("Create New");
     Click("Save Schedule");
-    Input<QLineEdit>("Task Name:").setText("Week");
+    Type("Task Name:", "Week");
     Click("Save Schedule");
     Click("Weekly");
     Click("Save Schedule");
@@ -107,18 +88,18 @@ TEST_F(ScheduledReportsWindowTest, SavesEditsAndDeletesAScheduleWithItsTask) {
     const std::string command =
         " '" + home + "/Tallix_Reports' '" + home + "/Reports/Scheduled/My Week.SSR'\n";
     EXPECT_EQ(world.crontab.Text(), "# Tallix_My Week\n1 0 * * 2" + command) << "the ninth was a Tuesday";
-    EXPECT_EQ(ReadAccessLog(world.application.session).back().back(), "Saved Scheduled Reports");
-    EXPECT_FALSE(Captioned<QPushButton>("Edit Selected").isEnabled());
+    EXPECT_EQ(Logged().back(), "Saved Scheduled Reports");
+    EXPECT_FALSE(Button("Edit Selected").isEnabled());
 
     Tasks().setCurrentIndex(Tasks().model()->index(0, 0));
     Click("Edit Selected");
-    EXPECT_FALSE(Input<QLineEdit>("Task Name:").isEnabled());
-    EXPECT_EQ(Input<QLineEdit>("Location:").text(), "/out\\");
-    Input<QComboBox>("Select Preset Report:").setCurrentText("Times");
+    EXPECT_FALSE(Labelled("Task Name:").isEnabled());
+    EXPECT_EQ(Labelled("Location:").text(), "/out\\");
+    Labelled<QComboBox>("Select Preset Report:").setCurrentText("Times");
     Click("Email");
     Click("Hourly");
-    Input<QLineEdit>("Site:").setText("ALL");
-    Input<QComboBox>("Time:").setCurrentText("09:00");
+    Type("Site:", "ALL");
+    Labelled<QComboBox>("Time:").setCurrentText("09:00");
     Click("Save Schedule");
     EXPECT_EQ(world.crontab.Text(), "# Tallix_My Week\n1 * * * *" + command);
     EXPECT_EQ(Listed(), QStringList({"My Week", "My Week"})) << "until the list is read anew";
@@ -131,28 +112,17 @@ TEST_F(ScheduledReportsWindowTest, SavesEditsAndDeletesAScheduleWithItsTask) {
         Tasks().setCurrentIndex(Tasks().model()->index(0, 0));
         Click("Delete Selected");
     }
-    EXPECT_EQ(world.prompts.messages.back().text,
-              "Are you sure you wish to delete the scheduled report My Week?");
+    EXPECT_EQ(LastMessage().text, "Are you sure you wish to delete the scheduled report My Week?");
     EXPECT_EQ(world.crontab.Text(), "");
     EXPECT_THAT(Listed(), IsEmpty());
     EXPECT_TRUE(std::filesystem::is_empty(Scheduled()));
 }
 
 TEST_F(ScheduledReportsWindowTest, StaysWhileATaskIsMade) {
-    forms.Find(kSchedulesForm)->Unload();
     ui::QtEvents events;
-    Application served{world.application.folder,
-                       world.application.tempFolder,
-                       world.application.version,
-                       world.application.settings,
-                       world.application.prompts,
-                       world.application.clock,
-                       events,
-                       Session()};
-    forms.Register(kSchedulesForm, [&] { return std::make_unique<ScheduledReportsWindow>(forms, served); });
-    forms.Show(kSchedulesForm);
+    world.events.queue = &events;
     Later([this] {
-        Later([this] { forms.Find(kSchedulesForm)->close(); });
+        Later([this] { Window().close(); });
         Create("Week", "Weekly");
         EXPECT_EQ(Listed(), QStringList("Week"));
         QCoreApplication::quit();
@@ -176,10 +146,10 @@ TEST_F(ScheduledReportsWindowTest, PutsTheChosenFolderInAndReturnsToTheOptions) 
     Click("...");
     Click("...");
     EXPECT_EQ(world.prompts.questions.front().title, "Select Output Folder");
-    EXPECT_EQ(Input<QLineEdit>("Location:").text(), "/srv/out\\");
+    EXPECT_EQ(Labelled("Location:").text(), "/srv/out\\");
     Click("Exit Schedule Screen");
-    EXPECT_EQ(forms.Find(kSchedulesForm), nullptr);
-    EXPECT_TRUE(forms.Find(kOptionsForm)->isVisible());
+    EXPECT_FALSE(IsLoaded());
+    EXPECT_TRUE(IsVisible(kOptionsForm));
 }
 
 }  // namespace

@@ -34,6 +34,22 @@ std::string AllRows(ado::Connection& connection, std::string_view statement);
 /// The lines of a file without their CR LF.
 std::vector<std::string> ReadLines(const std::filesystem::path& file);
 
+/// Events that a test takes a hand in: they are served by another queue, or do what it says.
+class TestEvents : public EventQueue {
+public:
+    void Serve() override {
+        if (queue) queue->Serve();
+        if (const auto act = onServe) act();  // which may set another
+    }
+    void ServeDuring(const std::function<void()>& work) override {
+        if (queue) return queue->ServeDuring(work);
+        work();
+    }
+
+    EventQueue* queue = nullptr;
+    std::function<void()> onServe;
+};
+
 class TestApplication {
 public:
     /// On an embedded database of its own, or on the one given.
@@ -66,7 +82,7 @@ public:
     TestCrontab crontab;
     ScriptedPrompts prompts;
     FixedClock clock;
-    NoEvents events;
+    TestEvents events;
     SettingsStore settings;
     Application application;
 };

@@ -1,0 +1,103 @@
+// The ground of the tests of one window: an application of its own, and the window as a
+// person sees it, by the words on it.
+//
+//     SitesWindowTest() { UnderTest<SitesWindow>(kSitesForm, world.application); }
+//     ...
+//     Type("Site Name:", "West");
+//     Click("Save");
+//     EXPECT_EQ(LastMessage().title, "IP Error");
+#pragma once
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "foundation/access_log.h"
+#include "foundation/form_names.h"
+#include "support/test_application.h"
+#include "support/window_test.h"
+#include "ui/form.h"
+#include "ui/list_view.h"
+
+namespace tallix::test {
+
+class FormTest : public WindowTest {
+protected:
+    /// Names the form under test. It is shown when a test first asks for something on it.
+    template <typename TestedWindow, typename... Parts>
+    void UnderTest(const char* name, Parts&... parts) {
+        form_ = name;
+        forms.Register(name, [this, &parts...] { return std::make_unique<TestedWindow>(forms, parts...); });
+    }
+
+    /// Takes a form that was named before under test again.
+    void UnderTest(const char* name) { form_ = name; }
+
+    /// Empty forms in the places of other windows.
+    void StandIn(std::initializer_list<const char*> names) {
+        for (const char* name : names) {
+            forms.Register(name, [this, name] { return std::make_unique<ui::Form>(forms, name); });
+        }
+    }
+
+    virtual QWidget& Window() {
+        if (forms.Find(form_) == nullptr) forms.Show(form_);
+        return *forms.Find(form_);
+    }
+    bool IsLoaded() const { return forms.Find(form_) != nullptr; }
+    bool IsVisible(const char* form) const { return forms.Find(form) && forms.Find(form)->isVisible(); }
+
+    /// The first widget of that type and text, of those that show if any does. Throws
+    /// std::runtime_error where there is none.
+    template <typename Widget>
+    Widget& Captioned(const QString& caption) {
+        Widget* hidden = nullptr;
+        for (Widget* widget : Window().findChildren<Widget*>()) {
+            if (widget->text() != caption) continue;
+            if (widget->isVisible()) return *widget;
+            if (hidden == nullptr) hidden = widget;
+        }
+        if (hidden == nullptr) throw std::runtime_error("no \"" + caption.toStdString() + "\"");
+        return *hidden;
+    }
+    QAbstractButton& Button(const QString& caption) { return Captioned<QAbstractButton>(caption); }
+    void Click(const QString& caption) { Button(caption).click(); }
+
+    /// The input that the label belongs to.
+    template <typename Input = QLineEdit>
+    Input& Labelled(const QString& label) {
+        return dynamic_cast<Input&>(*Captioned<QLabel>(label).buddy());
+    }
+    void Type(const QString& label, const QString& text) { Labelled(label).setText(text); }
+
+    /// The field with that tip, which belongs to no label, or not to it alone.
+    QLineEdit& Tipped(const QString& tip) {
+        for (QLineEdit* field : Window().findChildren<QLineEdit*>()) {
+            if (field->toolTip() == tip) return *field;
+        }
+        throw std::runtime_error("no field for \"" + tip.toStdString() + "\"");
+    }
+
+    /// The list of that name, or the only one.
+    ui::ListView& List(const QString& name = {}) { return *Window().findChild<ui::ListView*>(name); }
+    void SelectRow(int row, const QString& list = {}) {
+        List(list).setCurrentIndex(List(list).model()->index(row, 0));
+    }
+    const std::vector<ui::ListRow>& Rows(const QString& list = {}) { return List(list).Rows().All(); }
+
+    const Message& LastMessage() const { return world.prompts.messages.back(); }
+
+    /// What the access log tells, first to last.
+    std::vector<std::string> Logged() {
+        std::vector<std::string> events;
+        for (const AccessLogRow& row : ReadAccessLog(world.application.session)) events.push_back(row.back());
+        return events;
+    }
+
+    TestApplication world;
+
+private:
+    const char* form_ = nullptr;
+};
+
+}  // namespace tallix::test
