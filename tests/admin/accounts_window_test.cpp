@@ -11,25 +11,10 @@
 namespace tallix {
 namespace {
 
-class AccountsPageTest : public test::FormTest {
-protected:
-    template <typename Page>
-    Page& Open() {
-        auto page = std::make_unique<Page>(world.application, nullptr);
-        Page& opened = *page;
-        page_ = std::move(page);
-        opened.Load();
-        opened.show();
-        return opened;
-    }
-    QWidget& Window() override { return *page_; }
-
-private:
-    std::unique_ptr<QWidget> page_;
-};
+class AccountsPageTest : public test::FormTest {};
 
 TEST_F(AccountsPageTest, AnAccountIsMadeAndGivenRights) {
-    auto& page = Open<AccountsPage>();
+    auto& page = OpenPage<AccountsPage>();
     EXPECT_FALSE(Button("Access").isEnabled());
     Click("Add");
     EXPECT_EQ(Labelled<ui::PermissionList>("Permissions:").Access(), AccessOfNewAccount());
@@ -66,7 +51,7 @@ TEST_F(AccountsPageTest, AnAccountIsMadeAndGivenRights) {
 
 TEST_F(AccountsPageTest, AGroupKeepsItsRights) {
     AddUserGroup(world.application.session, "Desk", "01" + std::string(40, '0'));
-    auto& page = Open<UserGroupsPage>();
+    auto& page = OpenPage<UserGroupsPage>();
     SelectRow(0);
     Click("Edit");
     page.findChild<ui::PermissionList*>()->item(2)->setCheckState(Qt::Checked);

@@ -15,27 +15,12 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using ui::ListRow;
 
-class AdminPagesTest : public test::FormTest {
-protected:
-    template <typename Page>
-    Page& Open() {
-        auto page = std::make_unique<Page>(world.application, nullptr);
-        Page& opened = *page;
-        page_ = std::move(page);
-        opened.Load();
-        opened.show();
-        return opened;
-    }
-    QWidget& Window() override { return *page_; }
-
-private:
-    std::unique_ptr<QWidget> page_;
-};
+class AdminPagesTest : public test::FormTest {};
 
 TEST_F(AdminPagesTest, ExtensionsAreEditedOnTheScreenAlone) {
     world.Execute("INSERT INTO tblextensions(ExtensionNo, Name) VALUES ('202', 'Ann')");
     for (const char* number : {"201", "202"}) world.InsertCall({{"Extension", number}});
-    ExtensionsPage& page = Open<ExtensionsPage>();
+    ExtensionsPage& page = OpenPage<ExtensionsPage>();
     Click("Get From Data");  // answered No
     EXPECT_FALSE(page.Changed());
     world.prompts.answers = {Answer::Yes};
@@ -64,7 +49,7 @@ TEST_F(AdminPagesTest, ExtensionsAreEditedOnTheScreenAlone) {
 }
 
 TEST_F(AdminPagesTest, ButtonsOfExtensionsFollowTheRights) {
-    auto& page = Open<ExtensionsPage>();
+    auto& page = OpenPage<ExtensionsPage>();
     const char* const captions[] = {"Get From Data", "Add", "Edit", "Delete"};
     for (std::size_t granted = 0; granted < std::size(captions); ++granted) {
         std::string access(42, '0');
@@ -77,7 +62,7 @@ TEST_F(AdminPagesTest, ButtonsOfExtensionsFollowTheRights) {
 }
 
 TEST_F(AdminPagesTest, GroupsShowTheirMembers) {
-    Open<ExtensionGroupsPage>();
+    OpenPage<ExtensionGroupsPage>();
     for (const char* nothing : {"Add Member", "Delete Group", "Delete Member"}) Click(nothing);
     EXPECT_FALSE(Window().findChild<ui::EntryPanel*>()->isVisible());
     for (const char* name : {"Sales", "Stores"}) {
@@ -108,7 +93,7 @@ TEST_F(AdminPagesTest, GroupsShowTheirMembers) {
 TEST_F(AdminPagesTest, TheAddressBookIsWrittenAtOnce) {
     const std::filesystem::path file = world.Folder() / "numbers.csv";
     std::ofstream(file) << "2001,Front Desk, Reception";
-    Open<AddressBookPage>();
+    OpenPage<AddressBookPage>();
     Click("Import CSV");  // no file chosen
     world.prompts.paths = {file};
     Click("Import CSV");

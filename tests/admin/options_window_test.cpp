@@ -21,7 +21,6 @@ class OptionsWindowTest : public test::FormTest {
 protected:
     OptionsWindowTest() {
         std::filesystem::create_directories(world.Folder() / "Collector");
-        world.application.session.CurrentAccess = std::string(kRights, '1');
         StandIn({kMainForm, kSitesForm, kAccessLoggingForm});
         UnderTest<OptionsWindow>(kOptionsForm, world.application);
     }

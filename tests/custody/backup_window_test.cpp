@@ -12,7 +12,6 @@ using testing::ElementsAre;
 class BackupWindowTest : public test::FormTest {
 protected:
     BackupWindowTest() {
-        world.application.session.CurrentAccess = std::string(42, '1');
         StandIn({kMainForm});
         UnderTest<BackupWindow>(kBackupForm, world.application, channel_);
         forms.Show(kMainForm);

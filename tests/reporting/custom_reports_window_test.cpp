@@ -12,7 +12,6 @@ namespace {
 class CustomReportsWindowTest : public test::FormTest {
 protected:
     CustomReportsWindowTest() {
-        world.application.session.CurrentAccess = std::string(42, '1');
         world.application.session.ReportsLocation = world.application.folder.string();
         StandIn({kMainForm, kReportOutputForm});
         UnderTest<CustomReportsWindow>(kCustomReportsForm, world.application, printers_);

@@ -38,7 +38,6 @@ protected:
     ReportOutputTest() {
         StandIn({kMainForm, kStatisticsForm, kPresetReportsForm});
         UnderTest<ReportOutputWindow>(kReportOutputForm, world.application, printers_);
-        world.application.session.CurrentAccess = std::string(42, '1');
         forms.Load(kMainForm);
         forms.Load(kPresetReportsForm);
     }
@@ -71,7 +70,7 @@ protected:
         return QTest::qWaitFor(condition, kPatience);
     }
 
-    QWidget* WaitingFrame() { return Window().findChild<QWidget*>("WaitingFrame"); }
+    bool HasLoaded() { return !Window().findChild<QWidget*>("WaitingFrame")->isVisible(); }
     bool Says(const QString& text) {
         for (const QLabel* label : Window().findChildren<QLabel*>()) {
             if (label->text() == text && label->isVisible()) return true;
@@ -98,7 +97,7 @@ TEST_F(ReportOutputTest, ShowsTheReportPrintsItAndDeletesItWhenClosed) {
     EXPECT_FALSE(IsVisible(kMainForm));
     EXPECT_EQ(forms.Find(kPresetReportsForm), nullptr);
     EXPECT_TRUE(Says(kWaiting));
-    EXPECT_TRUE(WaitFor([&] { return !WaitingFrame()->isVisible(); }));
+    EXPECT_TRUE(WaitFor([&] { return HasLoaded(); }));
 
     auto* view = Window().findChild<QWebEngineView*>();
     EXPECT_EQ(view->title(), "Tallix Reports - Calls");
@@ -180,7 +179,7 @@ TEST_F(ReportOutputTest, ALoadThatReplacesAnotherFindsTheReportAlthoughItIsDelet
     output->Navigate();
     std::filesystem::remove(PageFile(world.application));
     forms.Show(kReportOutputForm);
-    EXPECT_TRUE(WaitFor([&] { return !WaitingFrame()->isVisible(); }));
+    EXPECT_TRUE(WaitFor([&] { return HasLoaded(); }));
     EXPECT_EQ(output->findChild<QWebEngineView*>()->title(), "Tallix Reports - Calls");
 }
 
@@ -191,7 +190,7 @@ TEST_F(ReportOutputTest, AReportThatIsGoneAndADeadRendererSaySoAndLeaveTheProgra
 
     WritePage(1);
     Deliver({});
-    EXPECT_TRUE(WaitFor([&] { return !WaitingFrame()->isVisible(); }));
+    EXPECT_TRUE(WaitFor([&] { return HasLoaded(); }));
     const auto renderer = Window().findChild<QWebEngineView*>()->page()->renderProcessPid();
     ASSERT_GT(renderer, 0);
     kill(static_cast<pid_t>(renderer), SIGKILL);

@@ -2,31 +2,28 @@
 
 #include <gmock/gmock.h>
 
-#include <QLabel>
 #include <QRegularExpression>
 #include <algorithm>
 
-#include "foundation/form_names.h"
-#include "support/test_application.h"
-#include "support/window_test.h"
+#include "support/form_test.h"
 
 namespace tallix {
 namespace {
 
-class SplashWindowTest : public test::WindowTest {
+class SplashWindowTest : public test::FormTest {
 protected:
-    SplashWindowTest() { test_.settings.Write("DBIP", "10.0.0.5"); }
+    SplashWindowTest() { world.settings.Write("DBIP", "10.0.0.5"); }
 
     SplashWindow* LoadSplash(const std::string& commandLine) {
         forms.Register(kSplashForm, [this, commandLine] {
-            return std::make_unique<SplashWindow>(forms, test_.application, commandLine, Work(),
+            return std::make_unique<SplashWindow>(forms, world.application, commandLine, Work(),
                                                   std::chrono::milliseconds(5));
         });
         return dynamic_cast<SplashWindow*>(forms.Load(kSplashForm));
     }
 
     UnattendedWork Work() {
-        return {nullptr, [this] { visibleAtTheDump_ = forms.Find(kSplashForm)->isVisible(); }};
+        return {nullptr, [this] { visibleAtTheDump_ = IsVisible(kSplashForm); }};
     }
 
     std::ptrdiff_t VisibleTicks() const {
@@ -35,7 +32,6 @@ protected:
                              [](const QWidget* tick) { return tick->isVisible(); });
     }
 
-    test::TestApplication test_;
     bool visibleAtTheDump_ = true;
 };
 
@@ -47,7 +43,7 @@ TEST_F(SplashWindowTest, ShowsItsStepsToAPersonAndMakesWayForTheLogin) {
     });
     SplashWindow* splash = LoadSplash("");
     QObject::connect(splash, &QObject::destroyed, [&] {
-        EXPECT_TRUE(forms.Find(kLoginForm)->isVisible());
+        EXPECT_TRUE(IsVisible(kLoginForm));
         forms.Unload(kLoginForm);
     });
     EXPECT_EQ(splash->findChild<QLabel*>("Version")->text(), "Version: 1.4.6");

@@ -13,6 +13,7 @@
 #include <QPushButton>
 
 #include "foundation/access_log.h"
+#include "foundation/access_rights.h"
 #include "foundation/form_names.h"
 #include "support/test_application.h"
 #include "support/window_test.h"
@@ -23,6 +24,8 @@ namespace tallix::test {
 
 class FormTest : public WindowTest {
 protected:
+    FormTest() { world.application.session.CurrentAccess = std::string(kRights, '1'); }
+
     /// Names the form under test. It is shown when a test first asks for something on it.
     template <typename TestedWindow, typename... Parts>
     void UnderTest(const char* name, Parts&... parts) {
@@ -40,7 +43,18 @@ protected:
         }
     }
 
-    virtual QWidget& Window() {
+    /// Takes a page of the options under test, which then stands alone.
+    template <typename Page>
+    Page& OpenPage() {
+        auto* page = new Page(world.application, nullptr);
+        page_.reset(page);
+        page->Load();
+        page->show();
+        return *page;
+    }
+
+    QWidget& Window() {
+        if (page_) return *page_;
         if (forms.Find(form_) == nullptr) forms.Show(form_);
         return *forms.Find(form_);
     }
@@ -98,6 +112,7 @@ protected:
 
 private:
     const char* form_ = nullptr;
+    std::unique_ptr<QWidget> page_;
 };
 
 }  // namespace tallix::test

@@ -6,6 +6,7 @@
 #include <stdexcept>
 #include <thread>
 
+#include "support/test_application.h"
 #include "support/window_test.h"
 #include "ui/dialog_keys.h"
 #include "ui/progress_panel.h"
@@ -13,12 +14,6 @@
 
 namespace tallix::ui {
 namespace {
-
-class CountedEvents : public EventQueue {
-public:
-    void Serve() override { ++served; }
-    int served = 0;
-};
 
 class PaintCount : public QObject {
 public:
@@ -36,7 +31,9 @@ protected:
 
 TEST_F(ProgressTest, ALineFollowsItsRecordsAndServesEventsAtEachOfThem) {
     QWidget window;
-    CountedEvents events;
+    test::TestEvents events;
+    int served = 0;
+    events.onServe = [&] { ++served; };
     ProgressPanel panel(window, "Please Wait", "Working.");
     ProgressLine& line = panel.AddLine(events, "Record %1 Of %2");
     window.show();
@@ -49,7 +46,7 @@ TEST_F(ProgressTest, ALineFollowsItsRecordsAndServesEventsAtEachOfThem) {
     line.Record(30000, 30000);
     EXPECT_EQ(TextOf(line), "Record 30000 Of 30000");
     EXPECT_EQ(line.findChild<QProgressBar*>()->value(), 30000);
-    EXPECT_EQ(events.served, 30000);
+    EXPECT_EQ(served, 30000);
     EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
     PaintCount count;
     line.findChild<QLabel*>()->installEventFilter(&count);
