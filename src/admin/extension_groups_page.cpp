@@ -11,6 +11,7 @@ constexpr int kValue = 0;  ///< the one column of both lists
 
 void Fill(ui::ListView& list, const std::vector<std::string>& values) {
     std::vector<ui::ListRow> rows;
+    rows.reserve(values.size());
     for (const std::string& value : values) rows.push_back({value});
     list.Rows().Set(std::move(rows));
 }

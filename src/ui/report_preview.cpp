@@ -42,8 +42,8 @@ public:
         const int cell = bar.width() / static_cast<int>(cells.size());
         for (int i = 0; i < static_cast<int>(cells.size()); ++i) {
             const QRect place(bar.left() + i * cell, bar.top(), cell, bar.height());
-            painter_.drawText(place.adjusted(kGrid, 0, -kGrid, 0), alignment_ | Qt::AlignVCenter,
-                              cells.at(i));
+            const Qt::Alignment alignment = alignment_ | Qt::AlignVCenter;
+            painter_.drawText(place.adjusted(kGrid, 0, -kGrid, 0), static_cast<int>(alignment), cells.at(i));
         }
     }
 
