@@ -42,18 +42,18 @@ std::string Keys(const KeyList& list, const TestApplication::Row& values) {
     return text;
 }
 
-std::unique_ptr<ado::Connection> Connected(const Session& session) {
-    auto connection = std::make_unique<ado::Connection>();
-    connection->ConnectionString = ConnectionText(session);
-    connection->Open();
-    return connection;
-}
-
 const KeyList kSwitches = {
     {"Date", "Duration", "Extension", "Account", "Site", "Group", "Time", "Cost", "Hours"}, "False"};
 const KeyList kTexts = {{"Title", "Where", "Sum", "Top"}, ""};
 
 }  // namespace
+
+std::unique_ptr<ado::Connection> ConnectTo(const std::string& connectionText) {
+    auto connection = std::make_unique<ado::Connection>();
+    connection->ConnectionString = connectionText;
+    connection->Open();
+    return connection;
+}
 
 std::string AllRows(ado::Connection& connection, std::string_view statement) {
     ado::Recordset set;
@@ -110,15 +110,15 @@ TestApplication::TestApplication(const DatabaseAddress& address)
 }
 
 void TestApplication::Execute(std::string_view statement) {
-    Connected(application.session)->Execute(statement);
+    ConnectTo(ConnectionText(application.session))->Execute(statement);
 }
 
 std::string TestApplication::Rows(std::string_view statement) const {
-    return AllRows(*Connected(application.session), statement);
+    return AllRows(*ConnectTo(ConnectionText(application.session)), statement);
 }
 
 void TestApplication::Insert(const std::string& table, const Row& row) {
-    const auto connection = Connected(application.session);
+    const auto connection = ConnectTo(ConnectionText(application.session));
     ado::Recordset rows;
     rows.Open("select * from " + table, *connection);
     rows.AddNew();

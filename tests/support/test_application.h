@@ -8,6 +8,7 @@
 
 #include <filesystem>
 #include <map>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -27,6 +28,8 @@ struct DatabaseAddress {
     std::string SQLUser;
     std::string SQLPass;
 };
+
+std::unique_ptr<ado::Connection> ConnectTo(const std::string& connectionText);
 
 /// All rows of a statement, a line each, "|" behind every value, NULL by its name.
 std::string AllRows(ado::Connection& connection, std::string_view statement);

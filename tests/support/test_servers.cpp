@@ -122,10 +122,7 @@ const TestEngine& EngineNamed(std::string_view name) {
 }
 
 std::unique_ptr<ado::Connection> Connect(const TestEngine& engine) {
-    auto connection = std::make_unique<ado::Connection>();
-    connection->ConnectionString = engine.connectionText;
-    connection->Open();
-    return connection;
+    return ConnectTo(engine.connectionText);
 }
 
 std::unique_ptr<ado::Connection> FreshDatabase(const TestEngine& engine) {

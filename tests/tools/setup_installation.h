@@ -33,11 +33,8 @@ public:
 
     /// All rows of a statement on the embedded database of that name in the application folder.
     std::string Rows(const std::string& statement, const std::string& database = "tallix.db") const {
-        ado::Connection connection;
-        connection.ConnectionString =
-            "DRIVER={MySQL ODBC 5.1 Driver};SERVER=sqlite:" + (Home() / database).string();
-        connection.Open();
-        return AllRows(connection, statement);
+        const std::string file = Home() / database;
+        return AllRows(*ConnectTo("DRIVER={MySQL ODBC 5.1 Driver};SERVER=sqlite:" + file), statement);
     }
 
 private:
