@@ -23,7 +23,7 @@ struct Call {
     std::string numRings;
     std::string origNum;  ///< empty where a caller withheld the number
     std::string destNum;
-    std::string internal;  ///< "1" between extensions, else "0"
+    std::string internal;  ///< "1" between extensions, "2" from outside, else "0"
     std::string error;
     std::string supervision;
     std::string speedcall;

@@ -113,7 +113,7 @@ TEST_P(Restores, ExecuteNothingButWholeLinesOfTheDump) {
         << "INSERT INTO tblextensions(ExtensionNo,Name) VALUES ('4','Caf\xE9')\r\n"
         << "INSERT INTO tblextensions(ExtensionNo,Name) VALUES ('5','O'Neill')\r\n"
         << "INSERT INTO tblextensions(ExtensionNo,Name) VALUES ('6','two\r\nlines')\r\n"
-        << std::string("INSERT INTO tblextensions(ExtensionNo,Name) VALUES ('7\0\xFF\n", 58)
+        << "INSERT INTO tblextensions(ExtensionNo,Name) VALUES ('7" << '\0' << "\xFF\n"
         << "INSERT INTO tblextensions(ExtensionNo,Name) VALUES ('8','cut";
     target.Execute("INSERT INTO tblextensions(ExtensionNo, Name) VALUES (\"0\", \"kept\")");
     int lines = 0;
