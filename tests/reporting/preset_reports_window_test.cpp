@@ -195,6 +195,7 @@ TEST_F(PresetReportsWindowTest, TheDestinationEnablesItsListAndAPrinterThatIsGon
         if (list->accessibleName() == "To Printer") printerList = list;
         if (list->accessibleName() == "In External Application") applicationList = list;
     }
+    ASSERT_TRUE(printerList && applicationList);
     EXPECT_FALSE(printerList->isEnabled() || applicationList->isEnabled());
     EXPECT_EQ(printerList->count(), 2);
     EXPECT_EQ(printerList->currentIndex(), -1);
