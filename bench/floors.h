@@ -6,7 +6,7 @@
 #include <memory>
 #include <string>
 
-#include "foundation/ado/connection_text.h"
+#include "database/connection_text.h"
 
 namespace tallix::bench {
 

@@ -6,19 +6,19 @@
 #include <array>
 #include <fstream>
 
-#include "admin/address_book.h"
-#include "admin/extensions.h"
+#include "administration/address_book.h"
+#include "administration/extensions.h"
+#include "backup/archive.h"
+#include "backup/automated_backup.h"
+#include "backup/backup.h"
+#include "backup/restore.h"
 #include "costing/cost_computation.h"
-#include "custody/archive.h"
-#include "custody/automated_backup.h"
-#include "custody/backup.h"
-#include "custody/restore.h"
 #include "floors.h"
-#include "foundation/database.h"
 #include "reporting/custom_reports.h"
 #include "reporting/report_run.h"
-#include "ui/progress_panel.h"
-#include "ui/qt_events.h"
+#include "session/database.h"
+#include "toolkit/progress_panel.h"
+#include "toolkit/qt_events.h"
 
 namespace tallix::bench {
 
@@ -68,9 +68,9 @@ struct ShownWork {
     int none = 0;
     QApplication toolkit{none, nullptr};
     QWidget window;
-    ui::QtEvents events;
-    ui::ProgressPanel panel{window, "Please Wait", "Your selected report is being generated."};
-    ui::ProgressLine& records = panel.AddLine(events, "Processing Record %1 Of %2");
+    toolkit::QtEvents events;
+    toolkit::ProgressPanel panel{window, "Please Wait", "Your selected report is being generated."};
+    toolkit::ProgressLine& records = panel.AddLine(events, "Processing Record %1 Of %2");
 };
 
 std::int64_t PlainReport(World& world) {
@@ -152,13 +152,13 @@ void SendNumbers(World& world, std::int64_t) {
 /// The bar of a backup at the screen.
 class ShownBackup : public BackupProgress {
 public:
-    explicit ShownBackup(ui::ProgressLine& rows) : rows_(rows) {}
+    explicit ShownBackup(toolkit::ProgressLine& rows) : rows_(rows) {}
     void ShowOverall(std::size_t, std::size_t) override {}
     void ShowModule(std::int64_t row, std::int64_t rows) override { rows_.Record(row, rows); }
     void ClearModule() override {}
 
 private:
-    ui::ProgressLine& rows_;
+    toolkit::ProgressLine& rows_;
 };
 
 std::int64_t BackUpCalls(World& world) {

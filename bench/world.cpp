@@ -3,11 +3,11 @@
 #include <fstream>
 #include <sstream>
 
-#include "demo_data.h"
-#include "foundation/ado/connection.h"
-#include "foundation/database.h"
-#include "foundation/schema.h"
-#include "reference_data.h"
+#include "database/connection.h"
+#include "database/schema.h"
+#include "session/database.h"
+#include "setup/demo_data.h"
+#include "setup/reference_data.h"
 
 namespace tallix::bench {
 

@@ -6,9 +6,9 @@
 #include <filesystem>
 #include <string>
 
-#include "foundation/ado/connection_text.h"
-#include "foundation/application.h"
-#include "ui/qt_events.h"
+#include "database/connection_text.h"
+#include "session/application.h"
+#include "toolkit/qt_events.h"
 
 namespace tallix::bench {
 

@@ -21,10 +21,10 @@ export QT_LOGGING_RULES="*.info=false;*.debug=false"
 export TALLIX_HOME="$work/home" TALLIX_REGISTRY="$work/settings" Temp="$work/temp"
 
 cd "$work/home"
-/usr/bin/python3 "$driver" first_run "$pictures" "$build/src/Tallix_Reports"
-"$build/tools/Tallix_Setup" --demo 300000 --admin-password Larkfield7 >/dev/null
+/usr/bin/python3 "$driver" first_run "$pictures" "$build/programs/reports_tool/Tallix_Reports"
+"$build/programs/setup/Tallix_Setup" --demo 300000 --admin-password Larkfield7 >/dev/null
 sed -i "s|sqlite:$work/home/|sqlite:|" "$TALLIX_REGISTRY/HKLM.reg" # an address that fits on its line
-/usr/bin/python3 "$driver" session "$pictures" "$build/src/Tallix_Reports"
-/usr/bin/python3 "$driver" long_run "$pictures" "$build/src/Tallix_Reports"
+/usr/bin/python3 "$driver" session "$pictures" "$build/programs/reports_tool/Tallix_Reports"
+/usr/bin/python3 "$driver" long_run "$pictures" "$build/programs/reports_tool/Tallix_Reports"
 /usr/bin/python3 "$driver" statistics "$pictures" "$build/tests/show_form" Form18
 /usr/bin/python3 "$driver" cost_map "$pictures" "$build/tests/show_form" Form19

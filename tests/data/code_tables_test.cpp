@@ -5,7 +5,8 @@
 #include <set>
 #include <sstream>
 
-#include "foundation/prefix_table.h"
+#include "session/prefix_table.h"
+#include "support/places.h"
 #include "support/temp_folder.h"
 
 namespace tallix {
@@ -14,8 +15,7 @@ namespace {
 using Rows = std::vector<std::pair<std::string, std::string>>;
 
 Rows ReadTable(const std::string& name, const std::string& head) {
-    std::istringstream text(
-        test::ReadBytes(std::filesystem::path(TALLIX_SOURCE_DIR) / "data" / "reference" / name));
+    std::istringstream text(test::ReadBytes(test::SourceFolder() / "data" / "reference" / name));
     std::string line;
     std::getline(text, line);
     EXPECT_EQ(line, head);

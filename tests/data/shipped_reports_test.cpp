@@ -4,19 +4,20 @@
 
 #include <set>
 
-#include "foundation/ado/recordset.h"
-#include "foundation/database.h"
-#include "foundation/text_conversion.h"
+#include "database/recordset.h"
 #include "reporting/catalogue.h"
 #include "reporting/query_builder.h"
+#include "session/database.h"
+#include "support/places.h"
 #include "support/test_application.h"
+#include "text/text_conversion.h"
 
 namespace tallix {
 namespace {
 
 using test::TestApplication;
 
-const std::filesystem::path kData = std::filesystem::path(TALLIX_SOURCE_DIR) / "data";
+const std::filesystem::path kData = test::SourceFolder() / "data";
 
 const std::vector<std::string>& ReportNames() {
     static const std::vector<std::string> names = ListReports(PresetReportsFolder(kData));

@@ -6,12 +6,12 @@
 #include <cstdlib>
 #include <string_view>
 
-#include "foundation/attempt.h"
-#include "foundation/code_page.h"
-#include "foundation/encryption_tools.h"
-#include "foundation/hive_file.h"
-#include "foundation/ini_file.h"
-#include "foundation/text_conversion.h"
+#include "compat/hive_file.h"
+#include "compat/ini_file.h"
+#include "failures/attempt.h"
+#include "text/code_page.h"
+#include "text/encryption_tools.h"
+#include "text/text_conversion.h"
 
 namespace tallix::fuzz {
 

@@ -2,13 +2,13 @@
 // no way leads in the program: show_form Form18
 #include <iostream>
 
-#include "foundation/access_rights.h"
 #include "platform/paths.h"
-#include "shell/windows.h"
-#include "ui/guarded_application.h"
-#include "ui/message_prompts.h"
-#include "ui/qt_events.h"
-#include "ui/style.h"
+#include "session/access_rights.h"
+#include "toolkit/guarded_application.h"
+#include "toolkit/message_prompts.h"
+#include "toolkit/qt_events.h"
+#include "toolkit/style.h"
+#include "windows/window_registry.h"
 
 namespace tallix {
 namespace {
@@ -24,10 +24,10 @@ Session SessionOfAdministrator(const SettingsStore& settings) {
 }
 
 int ShowForm(const char* name) {
-    ui::MessagePrompts prompts;
+    toolkit::MessagePrompts prompts;
     SettingsStore settings(MachineSettingsFolder(), UserSettingsFolder(), prompts);
     SystemClock clock;
-    ui::QtEvents events;
+    toolkit::QtEvents events;
     Application application{ApplicationFolder(),
                             TempFolder(),
                             ProgramVersion(),
@@ -36,8 +36,8 @@ int ShowForm(const char* name) {
                             clock,
                             events,
                             SessionOfAdministrator(settings)};
-    ui::Printers printers;
-    ui::Forms forms;
+    toolkit::Printers printers;
+    toolkit::Forms forms;
     ReportFlags flags;
     RegisterWindows(forms, application, flags, printers);
     forms.Show(name);
@@ -48,9 +48,9 @@ int ShowForm(const char* name) {
 }  // namespace tallix
 
 int main(int argumentCount, char** arguments) {
-    tallix::ui::GuardedApplication toolkit(argumentCount, arguments, [](const std::exception& failure) {
+    tallix::toolkit::GuardedApplication toolkit(argumentCount, arguments, [](const std::exception& failure) {
         std::cerr << failure.what() << std::endl;
     });
-    tallix::ui::ApplyStyle(toolkit);
+    tallix::toolkit::ApplyStyle(toolkit);
     return argumentCount == 2 ? tallix::ShowForm(arguments[1]) : EXIT_FAILURE;
 }

@@ -8,6 +8,7 @@
 #include <string>
 #include <thread>
 
+#include "support/places.h"
 #include "support/run_program.h"
 #include "support/temp_folder.h"
 #include "support/test_application.h"
@@ -19,11 +20,11 @@ class OwnServer {
 public:
     OwnServer() {
         std::filesystem::permissions(folder_.Path(), std::filesystem::perms(0755));
-        RunProgram("/bin/bash", {kScript, "start", data_});
+        RunProgram("/bin/bash", {script_, "start", data_});
         const std::string line = ReadLines(data_ + "/env").at(0);
         address.DBIP = line.substr(line.find('=') + 1);
     }
-    ~OwnServer() { RunProgram("/bin/bash", {kScript, "stop", data_}); }
+    ~OwnServer() { RunProgram("/bin/bash", {script_, "stop", data_}); }
 
     void Stop() const {
         const pid_t process = std::stoi(ReadBytes(data_ + "/mariadb.pid"));
@@ -34,7 +35,7 @@ public:
     DatabaseAddress address = {"1", "", "Tallix", "norvadat"};
 
 private:
-    static constexpr const char* kScript = TALLIX_SOURCE_DIR "/scripts/servers.sh";
+    const std::string script_ = SourceFolder() / "scripts/servers.sh";
     TempFolder folder_;
     std::string data_ = folder_.Path() / "servers";
 };

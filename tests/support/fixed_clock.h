@@ -1,7 +1,7 @@
 // A clock that stands still at the moment a test gives it.
 #pragma once
 
-#include "foundation/clock.h"
+#include "host/clock.h"
 
 namespace tallix::test {
 

@@ -12,13 +12,13 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-#include "foundation/access_log.h"
-#include "foundation/access_rights.h"
-#include "foundation/form_names.h"
+#include "session/access_log.h"
+#include "session/access_rights.h"
 #include "support/test_application.h"
 #include "support/window_test.h"
-#include "ui/form.h"
-#include "ui/list_view.h"
+#include "toolkit/form.h"
+#include "toolkit/form_names.h"
+#include "toolkit/list_view.h"
 
 namespace tallix::test {
 
@@ -39,7 +39,7 @@ protected:
     /// Empty forms in the places of other windows.
     void StandIn(std::initializer_list<const char*> names) {
         for (const char* name : names) {
-            forms.Register(name, [this, name] { return std::make_unique<ui::Form>(forms, name); });
+            forms.Register(name, [this, name] { return std::make_unique<toolkit::Form>(forms, name); });
         }
     }
 
@@ -93,11 +93,13 @@ protected:
     }
 
     /// The list of that name, or the only one.
-    ui::ListView& List(const QString& name = {}) { return *Window().findChild<ui::ListView*>(name); }
+    toolkit::ListView& List(const QString& name = {}) {
+        return *Window().findChild<toolkit::ListView*>(name);
+    }
     void SelectRow(int row, const QString& list = {}) {
         List(list).setCurrentIndex(List(list).model()->index(row, 0));
     }
-    const std::vector<ui::ListRow>& Rows(const QString& list = {}) { return List(list).Rows().All(); }
+    const std::vector<toolkit::ListRow>& Rows(const QString& list = {}) { return List(list).Rows().All(); }
 
     const Message& LastMessage() const { return world.prompts.messages.back(); }
 

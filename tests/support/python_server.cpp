@@ -3,6 +3,7 @@
 #include <chrono>
 #include <stdexcept>
 #include <thread>
+#include "support/places.h"
 
 namespace tallix::test {
 namespace {
@@ -15,7 +16,8 @@ constexpr auto kPatience = 20s;
 
 PythonServer::PythonServer(const std::string& script, const std::vector<std::string>& arguments) {
     // The system's own interpreter: others do not see Debian's packages.
-    std::string command = "exec /usr/bin/python3 '" TALLIX_SOURCE_DIR "/tests/support/" + script + "'";
+    std::string command =
+        "exec /usr/bin/python3 '" + (SourceFolder() / "tests/support" / script).string() + "'";
     for (const std::string& argument : arguments) command += " '" + argument + "'";
     const std::filesystem::path port = folder_.Path() / "port";
     input_ = popen((command + " >" + port.string()).c_str(), "we");

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "foundation/prompts.h"
+#include "host/prompts.h"
 
 namespace tallix::test {
 

@@ -5,10 +5,11 @@
 #include <fstream>
 #include <sstream>
 
-#include "foundation/ado/recordset.h"
-#include "foundation/database.h"
-#include "foundation/schema.h"
+#include "database/recordset.h"
+#include "database/schema.h"
 #include "reporting/catalogue.h"
+#include "session/database.h"
+#include "support/places.h"
 
 namespace tallix::test {
 
@@ -105,7 +106,7 @@ TestApplication::TestApplication(const DatabaseAddress& address)
     session.ReportsLocation = application.folder.string();
     session.DocsLocation = application.folder.string() + "\\Company Docs";
     OpenDatabase(session);
-    LayDownSchema(OpenConnection(session), std::filesystem::path(TALLIX_SOURCE_DIR) / "data" / "schema");
+    LayDownSchema(OpenConnection(session), SourceFolder() / "data" / "schema");
     CloseDatabase(session);
 }
 

@@ -13,7 +13,7 @@
 #include <string_view>
 #include <vector>
 
-#include "foundation/application.h"
+#include "session/application.h"
 #include "support/fixed_clock.h"
 #include "support/scripted_prompts.h"
 #include "support/temp_folder.h"

@@ -7,9 +7,10 @@
 
 #include <fmt/format.h>
 
-#include "foundation/database.h"
-#include "foundation/schema.h"
+#include "database/schema.h"
+#include "session/database.h"
 #include "support/end_guard.h"
+#include "support/places.h"
 #include "support/run_program.h"
 #include "support/test_application.h"
 
@@ -17,8 +18,8 @@ namespace tallix::test {
 
 namespace {
 
-constexpr const char* kScript = TALLIX_SOURCE_DIR "/scripts/servers.sh";
-constexpr const char* kSchemaFolder = TALLIX_SOURCE_DIR "/data/schema";
+const std::string kScript = SourceFolder() / "scripts/servers.sh";
+const std::string kSchemaFolder = SourceFolder() / "data/schema";
 
 /// The ANSI driver by its file, so that the machine's list of drivers does not matter.
 constexpr const char* kPostgresDriver = "/usr/lib/x86_64-linux-gnu/odbc/psqlodbca.so";

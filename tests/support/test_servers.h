@@ -18,8 +18,8 @@
 #include <string>
 #include <string_view>
 
-#include "foundation/ado/connection.h"
-#include "foundation/session.h"
+#include "database/connection.h"
+#include "session/session.h"
 
 namespace tallix::test {
 

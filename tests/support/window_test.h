@@ -10,8 +10,8 @@
 #include <string>
 #include <vector>
 
-#include "ui/forms.h"
-#include "ui/guarded_application.h"
+#include "toolkit/forms.h"
+#include "toolkit/guarded_application.h"
 
 namespace tallix::test {
 
@@ -19,7 +19,7 @@ class WindowTest : public testing::Test {
 protected:
     WindowTest() {
         qputenv("QT_QPA_PLATFORM", "offscreen");
-        toolkit_ = std::make_unique<ui::GuardedApplication>(
+        toolkit_ = std::make_unique<toolkit::GuardedApplication>(
             argumentCount_, arguments_,
             [this](const std::exception& failure) { failures.emplace_back(failure.what()); });
     }
@@ -44,10 +44,10 @@ private:
     int argumentCount_ = 1;
     std::string programName_ = "window_tests";
     char* arguments_[2] = {programName_.data(), nullptr};
-    std::unique_ptr<ui::GuardedApplication> toolkit_;
+    std::unique_ptr<toolkit::GuardedApplication> toolkit_;
 
 protected:
-    ui::Forms forms;
+    toolkit::Forms forms;
 };
 
 }  // namespace tallix::test

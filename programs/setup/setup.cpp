@@ -1,0 +1,126 @@
+#include "setup/setup.h"
+
+#include <fmt/format.h>
+
+#include <filesystem>
+#include <fstream>
+#include <ostream>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "costing/cost_computation.h"
+#include "database/connection_text.h"
+#include "database/schema.h"
+#include "host/prompts.h"
+#include "platform/paths.h"
+#include "session/database.h"
+#include "settings/settings_store.h"
+#include "setup/administrator_account.h"
+#include "setup/demo_data.h"
+#include "setup/office_suite.h"
+#include "setup/reference_data.h"
+#include "setup/settings_seed.h"
+#include "setup/setup_error.h"
+
+namespace tallix {
+namespace {
+
+// The seeding finds out by itself whether a setting was written.
+class QuietPrompts : public UnattendedPrompts {
+public:
+    Answer Show(const Message&) override { return Answer::Ok; }
+};
+
+Session SessionFor(const DatabaseChoice& choice) {
+    Session session;
+    session.DBType = choice.type;
+    session.DBIP = choice.address;
+    session.SQLUser = choice.user;
+    session.SQLPass = choice.password;
+    session.StrQuote = StringQuote(choice.type);
+    return session;
+}
+
+// The embedded engine opens a file that exists; an empty one is an empty database. One
+// that was made here goes again, unless it is kept.
+class DatabaseFile {
+public:
+    explicit DatabaseFile(const DatabaseChoice& choice) {
+        const ado::ConnectionParts parts = ado::ReadConnectionText(ConnectionText(SessionFor(choice)));
+        if (parts.server != ado::Server::Sqlite || parts.file.empty()) return;
+        if (std::filesystem::exists(parts.file)) return;
+        if (!std::ofstream(parts.file)) {
+            throw SetupError(fmt::format("the database file cannot be made: {}", parts.file));
+        }
+        made_ = parts.file;
+    }
+    ~DatabaseFile() {
+        std::error_code ignored;
+        if (!made_.empty()) std::filesystem::remove(made_, ignored);
+    }
+    DatabaseFile(const DatabaseFile&) = delete;
+    DatabaseFile& operator=(const DatabaseFile&) = delete;
+
+    void Keep() { made_.clear(); }
+
+private:
+    std::filesystem::path made_;
+};
+
+// The embedded database is first read by its first statement, which therefore belongs
+// to reaching it.
+void Reach(Session& session, std::ostream& out) {
+    OpenDatabase(session);
+    OpenConnection(session).Fetch("SELECT 1 AS Answer");
+    out << fmt::format("Database: {} reached\n", session.DBIP);
+}
+
+void LayDownTables(ado::Connection& connection, const std::filesystem::path& folder, std::ostream& out) {
+    const std::vector<std::string> made = LayDownSchema(connection, folder);
+    for (const std::string& table : made) out << fmt::format("Table {}: laid down\n", table);
+    if (made.empty()) out << "Tables: all there already\n";
+}
+
+// What a company would have settled before it looks at reports.
+constexpr std::pair<const char*, const char*> kCompanySettings[] = {{"TimeOpen", "08:30"},
+                                                                    {"TimeClosed", "17:30"}};
+
+// The costs that reports show are computed ones.
+void AddCompany(const SetupOptions& options, Session& session, const SettingsStore& settings,
+                std::ostream& out) {
+    if (!AddDemonstration(OpenConnection(session), *options.demoCalls, options.seed, out)) return;
+    for (const auto& [name, value] : kCompanySettings) {
+        if (settings.Read(name).empty()) settings.Write(name, value);
+    }
+    out << fmt::format("tblcostcount: {} calls priced\n", ComputeCosts(session, settings));
+}
+
+// What the database holds, once it was reached and is remembered.
+void FillDatabase(const SetupOptions& options, Session& session, const SettingsStore& settings,
+                  std::ostream& out) {
+    const std::filesystem::path folder = ApplicationFolder();
+    ado::Connection& connection = OpenConnection(session);
+    LayDownTables(connection, folder / "schema", out);
+    FillReferenceData(connection, folder / "reference", out);
+    EnsureAdministrator(session, options.adminPassword, out);
+    if (options.demoCalls) AddCompany(options, session, settings, out);
+}
+
+}  // namespace
+
+void SetUp(const SetupOptions& options, std::ostream& out) {
+    QuietPrompts prompts;
+    const SettingsStore settings(MachineSettingsFolder(), UserSettingsFolder(), prompts);
+    const DatabaseChoice choice = ChooseDatabase(options, settings, ApplicationFolder());
+    DatabaseFile file(choice);  // outlives the connection to it
+    Session session = SessionFor(choice);
+    Reach(session, out);
+    SeedSettings(choice, settings, out);
+    RecordOfficeSuite(OfficeFolders(), settings, out);
+    file.Keep();
+    FillDatabase(options, session, settings, out);
+    CloseDatabase(session);
+}
+
+}  // namespace tallix

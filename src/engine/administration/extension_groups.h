@@ -1,0 +1,36 @@
+// The groups of extensions that reports can select. Every action writes at once.
+//
+// Members are filed under their group's line in the list plus one, not under the group's own
+// key; lines count from 1. When a group goes, the groups below it move up and show the members
+// of their neighbours: nothing is renumbered. All functions throw DatabaseError.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "session/session.h"
+
+namespace tallix {
+
+/// The names in the order of the list.
+std::vector<std::string> LoadExtensionGroups(Session& session);
+
+/// A name may repeat.
+void AddExtensionGroup(Session& session, std::string_view name);
+
+/// Removes all groups of the name, and the members filed under `line` itself: those of the
+/// group above. The members of the group stay.
+void DeleteExtensionGroup(Session& session, std::string_view name, std::int64_t line);
+
+/// The extensions of the group on that line.
+std::vector<std::string> LoadGroupMembers(Session& session, std::int64_t line);
+
+/// The extension need not exist, and may repeat.
+void AddGroupMember(Session& session, std::int64_t line, std::string_view extension);
+
+/// Takes the extension out of every group.
+void DeleteGroupMember(Session& session, std::string_view extension);
+
+}  // namespace tallix

@@ -1,0 +1,15 @@
+// The unattended dump that the operating system's backup task runs.
+#pragma once
+
+#include "session/application.h"
+
+namespace tallix {
+
+inline constexpr std::string_view kAutomatedBackupName = "Automated_Backup.sbk";
+
+/// Writes all six tables to kAutomatedBackupName in the application folder, replacing
+/// the file. Shows and logs nothing. Throws what stopped it; the file is then left as
+/// far as it was written.
+void WriteAutomatedBackup(Application& application);
+
+}  // namespace tallix

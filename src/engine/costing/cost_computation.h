@@ -1,0 +1,17 @@
+// The batch that prices every outside call and stores the result for the reports.
+#pragma once
+
+#include <cstdint>
+
+#include "session/session.h"
+#include "settings/settings_store.h"
+
+namespace tallix {
+
+/// Empties tblcostcount and fills it anew: one row for each call with `Internal` "0"
+/// and a duration. Returns the number of calls priced. Failures of the database are
+/// passed over: what was computed until then stays, and rows that the server refuses
+/// cost only themselves. Opens the session's connection and closes it again.
+std::int64_t ComputeCosts(Session& session, const SettingsStore& settings);
+
+}  // namespace tallix

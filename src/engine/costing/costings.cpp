@@ -1,0 +1,92 @@
+#include "costing/costings.h"
+
+#include "database/recordset.h"
+#include "failures/attempt.h"
+#include "session/database.h"
+#include "text/text_lines.h"
+
+namespace tallix {
+namespace {
+
+constexpr std::string_view kStandardNumber = "Default";
+constexpr std::string_view kTariffClass = "99";
+constexpr std::string_view kStandardClass = "21";
+constexpr std::string_view kBilling = "Billing";
+constexpr std::string_view kPerMinute = "M";
+constexpr std::string_view kPerSecond = "S";
+constexpr char kAllCosts[] = "select * from tblcosts";
+
+enum TariffCell : std::size_t { kDestination, kCost };
+enum FileField : std::size_t { kDescription, kNumber, kPrice };
+
+void ReadTariff(Session& session, Costings& costings) {
+    ado::Recordset costs;
+    costs.Open(kAllCosts, OpenConnection(session));
+    for (std::int64_t i = 1; i <= costs.RecordCount(); ++i, costs.MoveNext()) {
+        const std::string_view number = costs.Text("Number");
+        const std::string_view cost = costs.Text("Cost");
+        if (number == kStandardNumber) {
+            costings.standardCost = cost;
+        } else {
+            costings.rows.push_back({std::string(number), std::string(cost)});
+        }
+    }
+}
+
+/// A row without a cost is stored without one.
+void AddRow(ado::Recordset& costs, const TariffRow& row, std::string_view costClass) {
+    costs.AddNew();
+    if (row.size() > kDestination) costs.Collect("Number", row[kDestination]);
+    if (row.size() > kCost) costs.Collect("Cost", row[kCost]);
+    costs.Collect("CostID", costClass);
+    costs.Update();
+}
+
+std::vector<std::string> Fields(const std::string& line) {
+    std::vector<std::string> fields;
+    std::size_t start = 0;
+    for (std::size_t comma = line.find(','); comma != std::string::npos; comma = line.find(',', start)) {
+        fields.push_back(line.substr(start, comma - start));
+        start = comma + 1;
+    }
+    fields.push_back(line.substr(start));
+    return fields;
+}
+
+}  // namespace
+
+Costings LoadCostings(Session& session, const SettingsStore& settings) {
+    Costings costings;
+    Attempt([&] { OpenDatabase(session); });
+    Attempt([&] { ReadTariff(session, costings); });
+    CloseDatabase(session);
+    costings.perSecond = settings.Read(kBilling) == kPerSecond;
+    return costings;
+}
+
+void SaveCostings(Session& session, const SettingsStore& settings, const Costings& costings) {
+    Attempt([&] { OpenDatabase(session); });
+    Attempt([&] { OpenConnection(session).Execute("DELETE FROM tblcosts"); });
+    Attempt([&] {
+        ado::Recordset costs;
+        costs.Open(kAllCosts, OpenConnection(session));
+        for (const TariffRow& row : costings.rows) Attempt([&] { AddRow(costs, row, kTariffClass); });
+        AddRow(costs, {std::string(kStandardNumber), costings.standardCost}, kStandardClass);
+    });
+    CloseDatabase(session);
+    settings.Write(kBilling, costings.perSecond ? kPerSecond : kPerMinute);
+}
+
+void AppendCostingFile(const std::filesystem::path& file, std::vector<TariffRow>& rows) {
+    TextLines lines(file);
+    std::size_t place = 0;  // counted from 1: the first line's cost has no row
+    for (const std::string* line = lines.Next(); line != nullptr; line = lines.Next(), ++place) {
+        const std::vector<std::string> fields = Fields(*line);
+        if (fields.size() > kNumber) rows.push_back({fields[kNumber]});
+        if (fields.size() > kPrice && place > 0 && place <= rows.size()) {
+            rows[place - 1].push_back(fields[kPrice]);
+        }
+    }
+}
+
+}  // namespace tallix

@@ -1,0 +1,36 @@
+// The tariff of one run, read once from tblcosts, and the search for the one row that
+// prices a number.
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+#include "costing/cost_text.h"
+#include "session/prefix_table.h"
+#include "session/session.h"
+
+namespace tallix {
+
+class Tariff {
+public:
+    /// Reads the table over the session's open connection. A table that cannot be read
+    /// gives an empty tariff. `session` must outlive the tariff and stay connected: odd
+    /// numbers are looked up by the server.
+    explicit Tariff(Session& session);
+
+    /// The cost of the "Default" row; zero where there is none.
+    const UnitCost& Standard() const { return standard_; }
+
+    /// The cost text of the one row whose number begins with the first three or more
+    /// characters of `number`; nothing when none does or when rows stay tied. The prefix
+    /// must be decided before the number's end: its last character is never looked at, so
+    /// that numbers of three characters and less have no match. This narrows a prefix and
+    /// is no longest match. The view lives as long as the tariff.
+    std::optional<std::string_view> Match(std::string_view number);
+
+private:
+    PrefixLookup costs_;
+    UnitCost standard_;
+};
+
+}  // namespace tallix

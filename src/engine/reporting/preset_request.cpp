@@ -1,0 +1,85 @@
+#include "reporting/preset_request.h"
+
+#include <fmt/format.h>
+
+#include <string_view>
+
+#include "compat/ini_file.h"
+#include "database/recordset.h"
+#include "platform/paths.h"
+#include "reporting/catalogue.h"
+#include "session/database.h"
+#include "text/text_conversion.h"
+
+namespace tallix {
+
+namespace {
+
+constexpr std::string_view kMessageTitle = "Tallix Reports";
+constexpr std::string_view kNoData =
+    "The report does not contain any data.\nIf you have recently installed Tallix, please wait 24 hours "
+    "before the Processor has run. Otherwise check that you have entered your filter options correctly.";
+
+constexpr std::array<std::string_view, kInputs> kOptionKeys = {"Date", "Duration", "Extension", "Account",
+                                                               "Site", "Group",    "Time"};
+
+Message Exclamation(std::string_view text) {
+    return {std::string(kMessageTitle), std::string(text), MessageIcon::Exclamation};
+}
+
+std::vector<std::string> ReadColumn(Session& session, std::string_view table, std::string_view column) {
+    ado::Recordset rows;
+    rows.Open(fmt::format("SELECT * FROM {}", table), OpenConnection(session));
+    std::vector<std::string> values;
+    for (std::int64_t row = 0; row < rows.RecordCount(); ++row, rows.MoveNext()) {
+        values.emplace_back(rows.Text(column));
+    }
+    return values;
+}
+
+std::vector<std::string> BehindAll(const std::vector<std::string>& values) {
+    std::vector<std::string> list = {std::string(kAll)};
+    list.insert(list.end(), values.begin(), values.end());
+    return list;
+}
+
+std::optional<Message> RefusalOf(std::string_view field, const std::string& value) {
+    if (IsNumeric(value)) return std::nullopt;
+    return Exclamation(
+        fmt::format("You have not entered a {}value for {}. This report requires this value to run!",
+                    value.empty() ? "" : "numeric ", field));
+}
+
+}  // namespace
+
+PresetChoices ReadPresetChoices(Application& application) {
+    PresetChoices choices;
+    choices.reports = ListReports(PresetReportsFolder(application.folder));
+    OpenDatabase(application.session);
+    std::vector<std::string> sites = ReadColumn(application.session, "tblsite", "ID");
+    for (std::string& id : sites) id = fmt::format("{:0>3}", id);
+    choices.sites = BehindAll(sites);
+    choices.groups = BehindAll(ReadColumn(application.session, "tblgroupnames", "Name"));
+    CloseDatabase(application.session);
+    return choices;
+}
+
+EnabledInputs::EnabledInputs(const std::filesystem::path& reportFile) {
+    const IniFile report(FindIgnoringCase(reportFile));
+    for (std::size_t i = 0; i < kInputs; ++i) {
+        enabled_[i] = EqualNoCase(report.Read("Options", kOptionKeys[i]), "True");
+    }
+}
+
+std::optional<Message> RefusalOf(const RunDescription& run) {
+    std::optional<Message> refusal;
+    if (run.demandsExtension) refusal = RefusalOf("extension number", run.inputs.extension);
+    if (!refusal && run.demandsAccount) refusal = RefusalOf("account code", run.inputs.account);
+    return refusal;
+}
+
+Message NoDataMessage() {
+    return Exclamation(kNoData);
+}
+
+}  // namespace tallix

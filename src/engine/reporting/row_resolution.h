@@ -1,0 +1,92 @@
+// Fills the row of a call: walks the report's cells in their order and works out the
+// text of each, by a plain field or by lookups in the name, address book, area,
+// provider, country and cost tables.
+//
+//     RowResolver resolver(context, CallColumns(calls));
+//     const std::vector<std::string_view>& cells = resolver.Resolve(calls);
+//
+// This is the inside of the record loop: no cell allocates, none throws in the ordinary
+// case.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "costing/call_pricing.h"
+#include "costing/tariff.h"
+#include "host/event_queue.h"
+#include "reporting/call_columns.h"
+#include "reporting/catalogue.h"
+#include "reporting/key_lookup.h"
+#include "reporting/report_columns.h"
+#include "reporting/report_settings.h"
+#include "reporting/site.h"
+#include "session/prefix_table.h"
+#include "session/session.h"
+
+namespace tallix {
+
+/// What the rows of one run have in common. All of it must outlive the resolver.
+struct RowContext {
+    Session& session;
+    EventQueue& events;  ///< served while the longer tables are read
+    const ReportFlags& flags;
+    const ReportSettings& settings;
+    const Site& site;
+    Tariff& tariff;
+    std::string_view currency;
+    bool dropsShortNumbers = false;  ///< in a count of dialled numbers, those of four characters
+};
+
+class RowResolver {
+public:
+    /// `columns` are the places in the set that Resolve is called with.
+    RowResolver(const RowContext& context, const CallColumns& columns);
+
+    /// Whether the current call is left out of a count of dialled numbers.
+    bool IsDropped(const ado::Recordset& calls) const;
+
+    /// The texts of the current call's cells. Fewer than the report has columns when the
+    /// address book ends the row early, and for the cost of an internal call. They live
+    /// until the next call is resolved.
+    const std::vector<std::string_view>& Resolve(const ado::Recordset& calls);
+
+    /// The sum of the costs shown so far, in pence.
+    std::int32_t TotalPence() const { return totalPence_; }
+
+private:
+    enum class Next { Cell, EndOfRow };
+
+    Next Add(Cell cell, const ado::Recordset& calls);
+    void AddField(std::string_view text) { cells_.push_back(text.empty() ? kBlankCell : text); }
+    void AddName(const ado::Recordset& calls);
+    void AddForward(const ado::Recordset& calls);
+    void AddDestNum(const ado::Recordset& calls);
+    Next AddArea(const ado::Recordset& calls);
+    void AddCountry(const ado::Recordset& calls);
+    void AddCost(const ado::Recordset& calls);
+    void AddAmount(std::string_view text, std::int32_t pence);
+    std::string_view AreaName(std::string_view number, std::string_view destNum);
+    bool IsOutside(const ado::Recordset& calls) const;
+    void AddStoredCost(const ado::Recordset& calls);
+    void AddPricedCost(const ado::Recordset& calls);
+    void AddToTotal(std::int32_t pence);
+
+    const RowContext context_;
+    const CallColumns columns_;
+    const std::vector<Cell> plan_;
+    KeyLookup names_;
+    KeyLookup addressBook_;
+    KeyLookup storedCosts_;
+    PrefixLookup areas_;
+    PrefixLookup countries_;
+    CallPricing pricing_;
+    std::vector<std::string_view> cells_;
+    std::string number_;  ///< what cells_ refers to where a cell is put together
+    std::string cost_;
+    std::int32_t totalPence_ = 0;
+};
+
+}  // namespace tallix

@@ -1,0 +1,58 @@
+#include "scheduling/test_mail.h"
+
+#include <optional>
+
+#include "database/recordset.h"
+#include "failures/attempt.h"
+#include "platform/paths.h"
+#include "session/database.h"
+#include "text/text_conversion.h"
+
+namespace tallix {
+namespace {
+
+constexpr char kTitle[] = "Tallix Reports";
+constexpr char kLogo[] = "\\Company Docs\\Logo.jpg";
+
+/// The address of the first site. Nothing without one.
+std::optional<std::string> Recipient(Session& session) {
+    OpenDatabase(session);
+    std::optional<std::string> address;
+    ado::Recordset sites;
+    sites.Open("select * from tblsite", OpenConnection(session));
+    if (sites.RecordCount() > 0) address = sites.Text("Email");
+    CloseDatabase(session);
+    return address;
+}
+
+MailServer ServerOf(const TestMailInput& input) {
+    MailServer server;
+    server.host = input.server;
+    server.port = 0;
+    server.authenticate = input.authenticate;
+    server.ssl = input.ssl;
+    Attempt([&] { server.port = ToInteger16(input.port); });
+    if (!input.authenticate) return server;
+    server.user = input.user;
+    server.password = input.password;
+    return server;
+}
+
+}  // namespace
+
+Message SendTestMail(Application& application, const TestMailInput& input, TestAttachment attachment) {
+    const std::optional<std::string> recipient = Recipient(application.session);
+    if (!recipient) return {kTitle, "No default site has been configured, test email failed!"};
+    Mail mail = {.from = input.from,
+                 .to = *recipient,
+                 .subject = "Tallix Test Email",
+                 .body = "This is a test email from Tallix Call Accounting System",
+                 .attachments = {}};
+    if (attachment == TestAttachment::Logo) {
+        mail.attachments.push_back(FindIgnoringCase(ToNativePath(application.folder.string() + kLogo)));
+    }
+    SendMail(mail, ServerOf(input));
+    return {kTitle, "Test Email Sent!"};
+}
+
+}  // namespace tallix

@@ -1,0 +1,42 @@
+#include "toolkit/permission_list.h"
+
+#include "session/access_rights.h"
+#include "toolkit/style.h"
+
+namespace tallix::toolkit {
+namespace {
+
+constexpr int kHeight = 30 * kGrid;
+
+}  // namespace
+
+PermissionList::PermissionList(QWidget* parent) : QListWidget(parent) {
+    setMinimumHeight(kHeight);
+    ensurePolished();  // rows that are scrolled before they show are measured with the right style
+    for (const std::string_view label : kRightLabels) {
+        auto* right =
+            new QListWidgetItem(QString::fromUtf8(label.data(), static_cast<qsizetype>(label.size())), this);
+        right->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
+        right->setCheckState(Qt::Unchecked);
+    }
+}
+
+void PermissionList::ShowAccess(std::string_view access) {
+    for (int row = 0; row < count(); ++row) {
+        const bool granted = Allows(access, static_cast<AccessRight>(row));
+        item(row)->setCheckState(granted ? Qt::Checked : Qt::Unchecked);
+    }
+    scrollToTop();
+}
+
+std::string PermissionList::Access() const {
+    std::string access;
+    for (int row = 0; row < count(); ++row) access += item(row)->checkState() == Qt::Checked ? '1' : '0';
+    return access;
+}
+
+void PermissionList::TickAll(bool ticked) {
+    for (int row = 0; row < count(); ++row) item(row)->setCheckState(ticked ? Qt::Checked : Qt::Unchecked);
+}
+
+}  // namespace tallix::toolkit

@@ -1,0 +1,19 @@
+// Folders: where custom reports and the company's documents lie.
+#pragma once
+
+#include "windows/administration/settings_page.h"
+
+namespace tallix {
+
+class FoldersPage : public SettingsPage {
+    Q_OBJECT
+public:
+    FoldersPage(Application& application, QWidget* parent);
+
+    bool IsGranted(std::string_view access) const override;
+
+private:
+    QLineEdit& AddFolder(const QString& title, std::string_view key, const char* question);
+};
+
+}  // namespace tallix

@@ -1,0 +1,63 @@
+// One item of the Custom Mappings window: its lamp, its name, which chooses it, and the
+// boxes of its first and its last character.
+#pragma once
+
+#include <QGridLayout>
+#include <QLineEdit>
+#include <QObject>
+#include <QPushButton>
+#include <QWidget>
+
+#include "administration/mappings.h"
+
+namespace tallix {
+
+enum class LampState { NotMapped, BeingMapped, Mapped };
+
+/// A small round light. What it says has a name for those who do not see its colour.
+class Lamp : public QWidget {
+public:
+    /// `item` is what the lamp speaks of.
+    Lamp(QString item, QWidget* parent);
+
+    LampState State() const { return state_; }
+    void SetState(LampState state);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QString item_;
+    LampState state_ = LampState::NotMapped;
+};
+
+class MappingItemRow : public QObject {
+    Q_OBJECT
+public:
+    /// Belongs to `window`, and stands in the grid's four columns from `column` on.
+    MappingItemRow(const MappingItem& item, QWidget& window, QGridLayout& grid, int row, int column);
+
+    Positions Shown() const;
+
+    /// Fills the boxes and lights the lamp green, or red where there are no positions.
+    void Show(const Positions& positions);
+
+    /// Marks the item that is being mapped, or takes the mark away. The lamp turns yellow
+    /// or, unless it is green, red; the boxes keep what they have.
+    void SetCurrent(bool current);
+
+signals:
+    /// A click on the name.
+    void Chosen();
+
+private:
+    void MakeName();
+    void FollowTyping();
+
+    Lamp* lamp_;
+    QPushButton* name_;
+    QLineEdit* start_;
+    QLineEdit* finish_;
+};
+
+}  // namespace tallix

@@ -1,0 +1,199 @@
+#include "windows/administration/settings_page.h"
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+
+#include "toolkit/style.h"
+
+namespace tallix {
+namespace {
+
+constexpr char kPerformanceText[] = "Indicates this could impact on system performance.";
+constexpr int kLabelWidth = 20 * toolkit::kGrid;
+constexpr int kListWidth = 16 * toolkit::kGrid;
+constexpr char kStored[] = "stored";  ///< the stored text of a radio button
+
+QString Text(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+QWidget* SideBySide(QWidget* first, QWidget* second) {
+    auto* both = new QWidget;
+    auto* row = new QHBoxLayout(both);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(toolkit::kSpacing);
+    row->addWidget(first, qobject_cast<QLineEdit*>(first) != nullptr ? 1 : 0);
+    row->addWidget(second);
+    if (qobject_cast<QLineEdit*>(first) == nullptr) row->addStretch();
+    return both;
+}
+
+QLabel* PerformanceMark() {
+    auto* mark = new QLabel("●");
+    QPalette colours = mark->palette();
+    colours.setColor(QPalette::WindowText, QColor(toolkit::kEntryColours.back()));
+    mark->setPalette(colours);
+    mark->setToolTip(kPerformanceText);
+    return mark;
+}
+
+}  // namespace
+
+SettingsPage::SettingsPage(Application& application, QWidget* parent)
+    : OptionsPage(parent), application_(application), rows_(new QVBoxLayout(this)) {
+    rows_->setContentsMargins(0, 0, 0, 0);
+    rows_->setSpacing(2 * toolkit::kSpacing);
+}
+
+bool SettingsPage::IsGranted(std::string_view access) const {
+    return Allows(access, AccessRight::SystemSettings);
+}
+
+QFormLayout& SettingsPage::AddPanel(const QString& title, int stretch) {
+    auto* panel = new QGroupBox(title, this);
+    auto* form = new QFormLayout(panel);
+    form->setContentsMargins(2 * toolkit::kGrid, toolkit::kGrid, 2 * toolkit::kGrid, 2 * toolkit::kGrid);
+    form->setSpacing(toolkit::kSpacing);
+    form->setLabelAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    form->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
+    rows_->addWidget(panel, stretch);
+    return *form;
+}
+
+QWidget* SettingsPage::MakeField(const OptionSetting& setting) {
+    auto* field = new QLineEdit;
+    field->setMinimumWidth(2 * kListWidth);
+    if (setting.kind == SettingKind::Password) field->setEchoMode(QLineEdit::Password);
+    Bind(setting.key,
+         {[field](const QString& stored) { field->setText(stored); }, [field] { return field->text(); }});
+    return field;
+}
+
+QWidget* SettingsPage::MakeList(const OptionSetting& setting) {
+    auto* list = new QComboBox;
+    list->setMinimumWidth(kListWidth);
+    for (const SettingChoice& choice : setting.choices) list->addItem(Text(choice.stored));
+    const auto show = [list](const QString& stored) {
+        if (!stored.isEmpty() && list->findText(stored) < 0) list->addItem(stored);
+        list->setCurrentIndex(list->findText(stored));
+    };
+    Bind(setting.key, {show, [list] { return list->currentText(); }});
+    return list;
+}
+
+QList<QRadioButton*> SettingsPage::AddOptions(QFormLayout& panel, std::string_view key) {
+    const OptionSetting& setting = SettingOf(key);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(3 * toolkit::kSpacing);
+    panel.addRow(row);
+    auto* group = new QButtonGroup(this);
+    QList<QRadioButton*> options;
+    for (const SettingChoice& choice : setting.choices) {
+        auto* option = new QRadioButton(Text(choice.label));
+        option->setProperty(kStored, Text(choice.stored));
+        group->addButton(option);
+        row->addWidget(option);
+        options.append(option);
+    }
+    row->addStretch();
+    const auto show = [options](const QString& stored) {
+        for (auto* option : options) {
+            if (option->property(kStored).toString() == stored) option->setChecked(true);
+        }
+    };
+    Bind(setting.key, {show, [group] { return group->checkedButton()->property(kStored).toString(); }});
+    return options;
+}
+
+QWidget* SettingsPage::MakeSwitch(const OptionSetting& setting) {
+    auto* box = new QCheckBox(Text(setting.label));
+    const QString off = Text(setting.choices.front().stored);
+    const QString on = Text(setting.choices.back().stored);
+    Bind(setting.key, {[box, on](const QString& stored) { box->setChecked(stored == on); },
+                       [box, on, off] { return box->isChecked() ? on : off; }});
+    return box;
+}
+
+QWidget* SettingsPage::MakeControl(const OptionSetting& setting) {
+    switch (setting.kind) {
+        case SettingKind::List:
+            return MakeList(setting);
+        case SettingKind::Switch:
+            return MakeSwitch(setting);
+        default:
+            return MakeField(setting);
+    }
+}
+
+QWidget& SettingsPage::AddSetting(QFormLayout& panel, std::string_view key, QWidget* behind) {
+    const OptionSetting& setting = SettingOf(key);
+    QWidget* control = MakeControl(setting);
+    controls_[setting.key] = control;
+    control->setObjectName(Text(setting.key));
+    control->setAccessibleName(Text(setting.label));  // also where a button shares its row
+    QWidget* row = behind == nullptr ? control : SideBySide(control, behind);
+    if (setting.kind == SettingKind::Switch) {
+        panel.addRow(row);
+        return *control;
+    }
+    auto* label = new QLabel(Text(setting.label));
+    control->ensurePolished();
+    label->setMinimumSize(kLabelWidth, control->sizeHint().height());  // in the middle of its row
+    label->setBuddy(control);
+    panel.addRow(label, row);
+    GoWithSwitch(setting, control, label);
+    return *control;
+}
+
+void SettingsPage::AddMarkedSetting(QFormLayout& panel, std::string_view key) {
+    AddSetting(panel, key, PerformanceMark()).setAccessibleDescription(kPerformanceText);
+}
+
+// A setting that is only written while a switch is on can only be edited then.
+void SettingsPage::GoWithSwitch(const OptionSetting& setting, QWidget* control, QWidget* label) {
+    if (setting.onlyWhen.empty()) return;
+    for (QWidget* widget : {control, label}) {
+        widget->setEnabled(false);
+        connect(&Box(setting.onlyWhen), &QCheckBox::toggled, widget, &QWidget::setEnabled);
+    }
+}
+
+void SettingsPage::AddCommandPanel(const CommandFile& file) {
+    auto* box = new QPlainTextEdit;
+    box->setAccessibleName(Text(file.label));
+    box->setTabChangesFocus(true);
+    box->setLineWrapMode(QPlainTextEdit::NoWrap);
+    AddPanel(Text(file.label), 1).addRow(box);
+    const auto take = [box] { return box->toPlainText().replace('\n', "\r\n"); };
+    Bind(file.name, {[box](const QString& text) { box->setPlainText(text); }, take});
+}
+
+void SettingsPage::ShowValues(const OptionsValues& values) {
+    for (const auto& [key, binding] : bindings_)
+        binding.show(QString::fromStdString(values.find(key)->second));
+}
+
+void SettingsPage::TakeValues(OptionsValues& values) const {
+    for (const auto& [key, binding] : bindings_) values[std::string(key)] = binding.take().toStdString();
+}
+
+QLineEdit& SettingsPage::Field(std::string_view key) const {
+    return dynamic_cast<QLineEdit&>(*controls_.at(key));
+}
+
+QCheckBox& SettingsPage::Box(std::string_view key) const {
+    return dynamic_cast<QCheckBox&>(*controls_.at(key));
+}
+
+QWidget* PerformanceLegend() {
+    auto* text = new QLabel(kPerformanceText);
+    toolkit::MakeQuiet(*text);
+    return SideBySide(PerformanceMark(), text);
+}
+
+}  // namespace tallix

@@ -1,0 +1,62 @@
+#include "windows/administration/site_summary_page.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "database/recordset.h"
+#include "session/access_rights.h"
+#include "session/database.h"
+#include "toolkit/form_names.h"
+#include "toolkit/style.h"
+
+namespace tallix {
+namespace {
+
+constexpr char kPurpose[] =
+    "Tallix supports a multi-site configuration.     To configure multiple sites (or just a single site) "
+    "Please click the button below:";
+
+std::int64_t CountSites(Session& session) {
+    OpenDatabase(session);
+    ado::Recordset sites;
+    sites.Open("select * from tblsite", OpenConnection(session));
+    CloseDatabase(session);
+    return sites.RecordCount();
+}
+
+}  // namespace
+
+SiteSummaryPage::SiteSummaryPage(Application& application, QWidget* parent)
+    : OptionsPage(parent), application_(application), count_(new QLabel) {
+    auto* purpose = new QLabel(kPurpose);
+    purpose->setWordWrap(true);
+    auto* configure = new QPushButton("Configure Sites");
+    connect(configure, &QPushButton::clicked, this, [this] { emit WindowWanted(kSitesForm); });
+    count_->setObjectName("SiteCount");
+    auto* counted = new QHBoxLayout;
+    counted->setSpacing(toolkit::kSpacing);
+    counted->addWidget(new QLabel("Currently Configured Sites:"));
+    counted->addWidget(count_, 1);
+    auto* rows = new QVBoxLayout(this);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(2 * toolkit::kSpacing);
+    rows->addWidget(purpose);
+    rows->addLayout(counted);
+    rows->addWidget(configure, 0, Qt::AlignLeft);
+    rows->addStretch();
+}
+
+void SiteSummaryPage::Load() {
+    count_->setText(QString::number(CountSites(application_.session)));
+}
+
+void SiteSummaryPage::showEvent(QShowEvent*) {
+    Load();
+}
+
+bool SiteSummaryPage::IsGranted(std::string_view access) const {
+    return Allows(access, AccessRight::SiteData);
+}
+
+}  // namespace tallix

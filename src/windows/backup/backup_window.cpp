@@ -1,0 +1,279 @@
+#include "windows/backup/backup_window.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QStackedLayout>
+
+#include "backup/restore.h"
+#include "session/access_log.h"
+#include "session/database.h"
+#include "toolkit/dialog_keys.h"
+#include "toolkit/main_menu_form.h"
+#include "toolkit/style.h"
+#include "toolkit/wait_panel.h"
+
+namespace tallix {
+namespace {
+
+constexpr int kFieldWidth = 30 * toolkit::kGrid;
+constexpr int kSpin = 100;  ///< where the bars of a restore, which measure nothing, begin anew
+
+constexpr BackupChoice kBackupChoices[] = {
+    {BackupGroup::ProcessedCalls, "Backup Processed Call Data", "Select to backup call data",
+     AccessRight::BackupCallData},
+    {BackupGroup::RawCalls, "Backup RAW Call Data", "Select to backup raw data", AccessRight::BackupRawData},
+    {BackupGroup::SystemOptions, "Backup System Options", "Select to backup system options",
+     AccessRight::BackupSystemOptions},
+};
+
+constexpr BackupChoice kRestoreChoices[] = {
+    {BackupGroup::SystemOptions, "Restore System Options", "Select to restore system options",
+     AccessRight::RestoreSystemOptions},
+    {BackupGroup::RawCalls, "Restore RAW Call Data", "Select to restore raw data",
+     AccessRight::RestoreRawData},
+    {BackupGroup::ProcessedCalls, "Restore Processed Call Data", "Select to restore call data",
+     AccessRight::RestoreCallData},
+};
+
+constexpr char kPurpose[] =
+    "This section allows you to perform a backup or resotration of the Tallix database.";
+constexpr char kImportant[] =
+    "IMPORTANT! - Because the backup tool performs various procedures on the database that may make it "
+    "unavailable to other programs, you should ensure all programs that access the database are stopped. The "
+    "backup utility will automatically stop any Tallix services when backup/restore starts.";
+constexpr char kWaitTitle[] = "Please Wait";
+constexpr char kWaitText[] = "Your backup is currently being prepared and saved to disk";
+constexpr char kOverall[] = "Overall Progress";
+constexpr char kModule[] = "Module Progress";
+constexpr char kFileLabel[] = "Tallix Backup File";
+constexpr char kFilePattern[] = "*.sbk";
+
+const Message kNoLocation = {"Backup",
+                             "You have not entered a name and location for the backup. The backup process "
+                             "cannot continue!",
+                             MessageIcon::Exclamation};
+const Message kBackedUp = {
+    "Backup Complete",
+    "Tallix backup complete!\nPlease ensure that you place the backup in a safe place to "
+    "allow easy and fast restoration of your Tallix data in the future",
+    MessageIcon::Information};
+const Message kRestoreQuestion = {
+    "Restore",
+    "WARNING!!!\nRestoring data into the Tallix database REMOVES old data first. Please ensure you have a "
+    "recent backup of your data as well as checking that you have selected the appropriate options for "
+    "the resotration.\n\nAre you sure you wish to restore the database?",
+    MessageIcon::Exclamation, MessageButtons::YesNo};
+const Message kRestored = {
+    "Restore Complete",
+    "Restore Complete!\nPlease check the data has been imported correctly by running a report",
+    MessageIcon::Information};
+
+/// The two bars of the panel.
+class PanelProgress : public BackupProgress {
+public:
+    PanelProgress(toolkit::WaitPanel& panel, EventQueue& events)
+        : overall_(panel.AddLine(events, kOverall)), module_(panel.AddLine(events, kModule)) {
+        overall_.ShowText(kOverall);
+        module_.ShowText(kModule);
+    }
+    void ShowOverall(std::size_t done, std::size_t groups) override {
+        if (groups > 0) overall_.Record(static_cast<std::int64_t>(done), static_cast<std::int64_t>(groups));
+    }
+    void ShowModule(std::int64_t row, std::int64_t rows) override { module_.Record(row, rows); }
+    void ClearModule() override {
+        module_.Reset();
+        module_.ShowText(kModule);
+    }
+    void Spin() {
+        spin_ = (spin_ + 1) % kSpin;
+        overall_.Record(spin_, kSpin);
+        module_.Record(spin_, kSpin);
+    }
+
+private:
+    toolkit::ProgressLine& overall_;
+    toolkit::ProgressLine& module_;
+    std::int64_t spin_ = 0;
+};
+
+std::filesystem::path PathIn(const QLineEdit& field) {
+    return field.text().toStdString();
+}
+
+}  // namespace
+
+BackupFrame::BackupFrame(const QString& title)
+    : QGroupBox(title), rows_(new QVBoxLayout(this)), fields_(new QGridLayout) {
+    fields_->setHorizontalSpacing(2 * toolkit::kSpacing);
+    fields_->setVerticalSpacing(toolkit::kSpacing);
+    rows_->setContentsMargins(toolkit::kMargin, toolkit::kMargin, toolkit::kMargin, toolkit::kMargin);
+    rows_->setSpacing(toolkit::kSpacing);
+    rows_->addLayout(fields_);
+}
+
+void BackupFrame::AddChoices(std::span<const BackupChoice> choices, QPushButton& begin) {
+    rows_->addSpacing(toolkit::kSpacing);
+    for (const BackupChoice& choice : choices) {
+        auto* box = new QCheckBox(choice.caption);
+        box->setToolTip(choice.tip);
+        rows_->addWidget(box);
+        boxes_.push_back({choice, box});
+    }
+    rows_->addStretch();
+    rows_->addSpacing(toolkit::kSpacing);
+    rows_->addWidget(&begin, 0, Qt::AlignRight);
+}
+
+QLineEdit* BackupFrame::AddField(const QString& label, const QString& tip, QPushButton* button) {
+    auto* field = new QLineEdit(this);
+    field->setToolTip(tip);
+    field->setMinimumWidth(kFieldWidth);
+    auto* words = new QLabel(label, this);
+    words->setBuddy(field);
+    const int row = fields_->rowCount();
+    fields_->addWidget(words, row, 0);
+    fields_->addWidget(field, row, 1);
+    if (button != nullptr) fields_->addWidget(button, row, 2);
+    return field;
+}
+
+void BackupFrame::ApplyRights(std::string_view access) {
+    for (const auto& [choice, box] : boxes_) box->setVisible(Allows(access, choice.right));
+}
+
+std::set<BackupGroup> BackupFrame::Chosen() const {
+    std::set<BackupGroup> groups;
+    for (const auto& [choice, box] : boxes_) {
+        if (box->isChecked()) groups.insert(choice.group);
+    }
+    return groups;
+}
+
+BackupWindow::BackupWindow(toolkit::Forms& forms, Application& application, BackupChannel& channel)
+    : Form(forms, "Tallix Reports Tool - Backup/Restore"),
+      application_(application),
+      channel_(channel),
+      beginBackup_(new QPushButton("BEGIN BACKUP")),
+      browseBackup_(new QPushButton("Browse")),
+      backup_(new BackupFrame("Backup")),
+      backupName_(backup_->AddField("Backup Name:", "Enter a name for the backup")),
+      backupLocation_(
+          backup_->AddField("Backup Location:", "Enter a location for the backup", browseBackup_)),
+      beginRestore_(new QPushButton("BEGIN RESTORE")),
+      browseRestore_(new QPushButton("Browse")),
+      restore_(new BackupFrame("Restore")),
+      restoreLocation_(
+          restore_->AddField("Backup Location:", "Enter a location of the backup", browseRestore_)),
+      close_(new QPushButton("Close")) {
+    backup_->AddChoices(kBackupChoices, *beginBackup_);
+    restore_->AddChoices(kRestoreChoices, *beginRestore_);
+    auto* important = new QLabel(kImportant);
+    important->setWordWrap(true);
+    auto* rows = new QVBoxLayout(this);
+    rows->setContentsMargins(toolkit::kMargin, toolkit::kMargin, toolkit::kMargin, toolkit::kMargin);
+    rows->setSpacing(2 * toolkit::kSpacing);
+    rows->addWidget(new QLabel(kPurpose));
+    rows->addLayout(Frames(), 1);
+    rows->addWidget(important);
+    rows->addWidget(close_, 0, Qt::AlignRight);
+    ConnectButtons();
+    new toolkit::DialogKeys(*this, nullptr, close_);
+}
+
+// What stands behind a frame is seen where the frame is not granted.
+QWidget* BackupWindow::Half(BackupFrame& frame, const QString& refusal, AccessRight right) {
+    const bool granted = Allows(application_.session.CurrentAccess, right);
+    auto* half = new QWidget;
+    auto* words = new QLabel(refusal);
+    words->setAlignment(Qt::AlignCenter);
+    toolkit::MakeQuiet(*words);
+    auto* layers = new QStackedLayout(half);
+    layers->addWidget(&frame);
+    layers->addWidget(words);
+    layers->setCurrentIndex(granted ? 0 : 1);
+    return half;
+}
+
+QLayout* BackupWindow::Frames() {
+    auto* halves = new QHBoxLayout;
+    halves->setSpacing(toolkit::kMargin);
+    halves->addWidget(Half(*backup_, "You do not have access to backup", AccessRight::Backup));
+    halves->addWidget(Half(*restore_, "You do not have access to restore", AccessRight::Restore));
+    return halves;
+}
+
+void BackupWindow::ConnectButtons() {
+    beginBackup_->setToolTip("Click here to begin the backup");
+    beginRestore_->setToolTip("Click here to begin the restore");
+    close_->setToolTip("Click here to close");
+    connect(browseBackup_, &QPushButton::clicked, this, &BackupWindow::BrowseBackup);
+    connect(browseRestore_, &QPushButton::clicked, this, &BackupWindow::BrowseRestore);
+    connect(beginBackup_, &QPushButton::clicked, this, &BackupWindow::Backup);
+    connect(beginRestore_, &QPushButton::clicked, this, &BackupWindow::Restore);
+    connect(close_, &QPushButton::clicked, this, &QWidget::close);
+}
+
+void BackupWindow::OnLoad() {
+    for (BackupFrame* frame : {backup_, restore_}) frame->ApplyRights(application_.session.CurrentAccess);
+}
+
+void BackupWindow::OnUnload() {
+    toolkit::ShowMainMenu(OtherForms(), application_.session);
+}
+
+void BackupWindow::BrowseBackup() {
+    const auto chosen =
+        application_.prompts.AskSaveFile({"Select A Backup Location", kFileLabel, kFilePattern});
+    if (!chosen) return;
+    backupLocation_->setText(QString::fromStdString(chosen->string()));
+    backupName_->setText(QString::fromStdString(chosen->filename().string()));
+}
+
+void BackupWindow::BrowseRestore() {
+    const auto chosen = application_.prompts.AskOpenFile({"Select A Backup", kFileLabel, kFilePattern});
+    if (chosen) restoreLocation_->setText(QString::fromStdString(chosen->string()));
+}
+
+// The name is for the eye: the location alone says where the file goes.
+void BackupWindow::Backup() {
+    const std::filesystem::path location = PathIn(*backupLocation_);
+    if (location.empty()) {
+        application_.prompts.Show(kNoLocation);
+        return;
+    }
+    {
+        toolkit::WaitPanel panel(*this, kWaitTitle, kWaitText);
+        PanelProgress progress(panel, application_.events);
+        panel.Show();
+        WriteBackup(application_, channel_, location, backup_->Chosen(), progress);
+    }
+    application_.prompts.Show(kBackedUp);
+    Unload();
+    OpenDatabase(application_.session);
+    WriteLog(application_.session, application_.clock, "Backup Created - " + location.string());
+    CloseDatabase(application_.session);
+}
+
+void BackupWindow::Restore() {
+    if (application_.prompts.Show(kRestoreQuestion) != Answer::Yes) return;
+    const std::string location = PathIn(*restoreLocation_).string();
+    if (location.empty()) {
+        application_.prompts.Show(kNoLocation);
+        return;
+    }
+    Replay();
+    application_.prompts.Show(kRestored);
+    Unload();
+    LogOnItsOwn(application_.session, application_.clock, "Data Restored - " + location);
+}
+
+// The file of the other frame is opened for writing as well, and never written.
+void BackupWindow::Replay() {
+    toolkit::WaitPanel panel(*this, kWaitTitle, kWaitText);
+    PanelProgress progress(panel, application_.events);
+    panel.Show();
+    channel_.Hold(PathIn(*backupLocation_));
+    ReplayBackup(application_, PathIn(*restoreLocation_), restore_->Chosen(), [&] { progress.Spin(); });
+}
+
+}  // namespace tallix

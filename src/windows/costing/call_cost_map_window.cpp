@@ -1,0 +1,102 @@
+#include "windows/costing/call_cost_map_window.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include "costing/cost_map.h"
+#include "toolkit/dialog_keys.h"
+#include "toolkit/label_edit.h"
+#include "toolkit/style.h"
+
+namespace tallix {
+namespace {
+
+constexpr int kListHeight = 40 * toolkit::kGrid;
+constexpr int kAreaTwips = 3 * toolkit::kPlainColumnWidth;
+
+constexpr char kPurpose[] =
+    "This screen controls how costs are mapped to area codes. Under Charge, enter L for Local, N for "
+    "National, M for Mobile and P for Premium.";
+
+const Message kSaved = {"Tallix Reports", "Cost map saved!", MessageIcon::Information};
+const Message kRefused = {"Tallix Reports",
+                          "There is an error in the cost map you are trying to save. Ensure you have entered "
+                          "single letters in the Charge section and numbers in the Code section",
+                          MessageIcon::Critical};
+
+}  // namespace
+
+CallCostMapWindow::CallCostMapWindow(toolkit::Forms& forms, Application& application)
+    : Form(forms, "Tallix Reports Tool - Call Cost Mappings"),
+      application_(application),
+      list_(new toolkit::ListView(
+          {{"Area", kAreaTwips}, {"Charge", toolkit::kPlainColumnWidth, Qt::AlignHCenter}}, this)),
+      waiting_(new toolkit::Overlay(*this, "Please Wait...")) {
+    auto* purpose = new QLabel(kPurpose, this);
+    purpose->setWordWrap(true);
+    auto* rows = new QVBoxLayout(this);
+    rows->setContentsMargins(toolkit::kMargin, toolkit::kMargin, toolkit::kMargin, toolkit::kMargin);
+    rows->setSpacing(toolkit::kSpacing * 2);
+    rows->addWidget(purpose);
+    rows->addWidget(MapFrame(), 1);
+    rows->addLayout(ButtonRow());
+    resize(sizeHint());  // all columns, also where that is more than the desktop would give at first
+}
+
+QWidget* CallCostMapWindow::MapFrame() {
+    auto* frame = new QGroupBox("Call Cost Map", this);
+    list_->setObjectName("CostMap");
+    list_->setAccessibleName(frame->title());
+    list_->setMinimumHeight(kListHeight);
+    new toolkit::LabelEdit(*list_, *this);
+    auto* inside = new QVBoxLayout(frame);
+    inside->setContentsMargins(toolkit::kSpacing, toolkit::kSpacing, toolkit::kSpacing, toolkit::kSpacing);
+    inside->addWidget(list_);
+    return frame;
+}
+
+QLayout* CallCostMapWindow::ButtonRow() {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(toolkit::kSpacing);
+    connect(AddButton(*row, "Create New"), &QPushButton::clicked, this, [this] { list_->Rows().Set({}); });
+    connect(AddButton(*row, "Populate From DB"), &QPushButton::clicked, this,
+            &CallCostMapWindow::PopulateFromDatabase);
+    row->addStretch();
+    connect(AddButton(*row, "Save Costings"), &QPushButton::clicked, this, &CallCostMapWindow::Save);
+    QPushButton* exit = AddButton(*row, "Exit Costings Screen");
+    exit->setToolTip("Close and save changes");
+    connect(exit, &QPushButton::clicked, this, &CallCostMapWindow::Unload);
+    new toolkit::DialogKeys(*this, nullptr, exit);
+    return row;
+}
+
+QPushButton* CallCostMapWindow::AddButton(QHBoxLayout& row, const QString& caption) {
+    auto* button = new QPushButton(caption, this);
+    row.addWidget(button);
+    buttons_.push_back(button);
+    return button;
+}
+
+void CallCostMapWindow::OnLoad() {
+    list_->Rows().Set(LoadCostMap(application_.session));
+}
+
+void CallCostMapWindow::PopulateFromDatabase() {
+    std::vector<CostMapRow> rows = list_->Rows().All();
+    AppendAreaCodes(application_.session, rows);
+    list_->Rows().Set(std::move(rows));
+}
+
+void CallCostMapWindow::Save() {
+    for (QPushButton* button : buttons_) button->setEnabled(false);
+    waiting_->show();
+    waiting_->repaint();
+    const bool saved = SaveCostMap(application_.session, list_->Rows().All());
+    if (saved) application_.prompts.Show(kSaved);
+    waiting_->hide();
+    for (QPushButton* button : buttons_) button->setEnabled(true);
+    if (!saved) application_.prompts.Show(kRefused);
+}
+
+}  // namespace tallix

@@ -1,0 +1,39 @@
+// Call Cost Mappings ("Form19"): the classes of charge of area codes. No entry of the
+// program opens it; it stands ready.
+#pragma once
+
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QPushButton>
+
+#include "session/application.h"
+#include "toolkit/form.h"
+#include "toolkit/list_view.h"
+#include "toolkit/overlay.h"
+
+namespace tallix {
+
+class CallCostMapWindow : public toolkit::Form {
+    Q_OBJECT
+public:
+    /// `application` must outlive the window.
+    CallCostMapWindow(toolkit::Forms& forms, Application& application);
+
+protected:
+    void OnLoad() override;
+
+private:
+    QWidget* MapFrame();
+    QLayout* ButtonRow();
+    QPushButton* AddButton(QHBoxLayout& row, const QString& caption);
+
+    void Save();
+    void PopulateFromDatabase();
+
+    Application& application_;
+    toolkit::ListView* list_;
+    toolkit::Overlay* waiting_;
+    std::vector<QPushButton*> buttons_;
+};
+
+}  // namespace tallix

@@ -1,0 +1,178 @@
+#include "windows/costing/call_costings_window.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include "costing/costings.h"
+#include "session/access_log.h"
+#include "toolkit/dialog_keys.h"
+#include "toolkit/form_names.h"
+#include "toolkit/forms.h"
+#include "toolkit/label_edit.h"
+#include "toolkit/style.h"
+
+namespace tallix {
+namespace {
+
+constexpr int kListHeight = 40 * toolkit::kGrid;
+constexpr int kCostWidth = 12 * toolkit::kGrid;
+constexpr int kDestinationTwips = 4 * toolkit::kPlainColumnWidth;
+
+constexpr char kPurpose[] =
+    "This screen controls the costings produced in reports. These should match the amount you pay in your "
+    "contract to give an accurate figure. All costings should be entered in pence.";
+constexpr char kImported[] =
+    "Costings file has been imported!\n\nPlease be aware that the costings file was correct at the time "
+    "it was created. Prices may have changed since this time. Please check with your carrier for the correct "
+    "pricing scheme";
+
+const FileQuestion kCostingsFile = {"Select Costings File", "Tallix Costings File", "*.costing"};
+
+QLabel* LabelOf(QWidget* input, const QString& text) {
+    auto* label = new QLabel(text);
+    label->setBuddy(input);
+    return label;
+}
+
+}  // namespace
+
+CallCostingsWindow::CallCostingsWindow(toolkit::Forms& forms, Application& application)
+    : Form(forms, "Tallix Reports Tool - Call Costings"),
+      application_(application),
+      list_(new toolkit::ListView(
+          {{"Destination", kDestinationTwips}, {"Cost", toolkit::kPlainColumnWidth, Qt::AlignHCenter}},
+          this)),
+      standardCost_(new QLineEdit(this)),
+      number_(new QLineEdit(this)),
+      cost_(new QLineEdit(this)),
+      perMinute_(new QRadioButton("Per Minute Billing", this)),
+      perSecond_(new QRadioButton("Per Second Billing", this)) {
+    auto* purpose = new QLabel(kPurpose, this);
+    purpose->setWordWrap(true);
+    list_->setObjectName("Tariff");
+    list_->setAccessibleName("Tariff");
+    list_->setMinimumHeight(kListHeight);
+    new toolkit::LabelEdit(*list_, *this);
+    auto* rows = new QVBoxLayout(this);
+    rows->setContentsMargins(toolkit::kMargin, toolkit::kMargin, toolkit::kMargin, toolkit::kMargin);
+    rows->setSpacing(toolkit::kSpacing * 2);
+    rows->addWidget(purpose);
+    rows->addLayout(StandardRow());
+    rows->addLayout(EntryRow());
+    rows->addWidget(list_, 1);
+    rows->addLayout(ButtonRow());
+    standardCost_->setFocus();
+    resize(sizeHint());  // all columns, also where that is more than the desktop would give at first
+}
+
+QLayout* CallCostingsWindow::StandardRow() {
+    standardCost_->setFixedWidth(kCostWidth);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(toolkit::kSpacing);
+    row->addWidget(LabelOf(standardCost_, "Standard Cost:"));
+    row->addWidget(standardCost_);
+    row->addSpacing(toolkit::kMargin);
+    row->addWidget(perMinute_);
+    row->addWidget(perSecond_);
+    row->addStretch();
+    return row;
+}
+
+QLayout* CallCostingsWindow::EntryRow() {
+    cost_->setFixedWidth(kCostWidth);
+    for (const QLineEdit* field : {number_, cost_}) {
+        connect(field, &QLineEdit::returnPressed, this, &CallCostingsWindow::Add);
+    }
+    auto* row = new QHBoxLayout;
+    row->setSpacing(toolkit::kSpacing);
+    row->addWidget(LabelOf(number_, "Number:"));
+    row->addWidget(number_, 1);
+    row->addWidget(LabelOf(cost_, "Cost:"));
+    row->addWidget(cost_);
+    auto* add = Button("Add", &CallCostingsWindow::Add);
+    auto* remove = Button("Delete", &CallCostingsWindow::Delete);
+    row->addWidget(add);
+    row->addWidget(remove);
+    // The Tab key follows the eye: the list stands below what is entered.
+    QWidget* before = standardCost_;
+    for (QWidget* next :
+         std::initializer_list<QWidget*>{perMinute_, perSecond_, number_, cost_, add, remove, list_}) {
+        setTabOrder(before, next);
+        before = next;
+    }
+    return row;
+}
+
+QLayout* CallCostingsWindow::ButtonRow() {
+    auto* exit = new QPushButton("Exit Costings Screen", this);
+    exit->setToolTip("Close and save changes");
+    connect(exit, &QPushButton::clicked, this, &CallCostingsWindow::Unload);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(toolkit::kSpacing);
+    row->addWidget(Button("Create New", &CallCostingsWindow::CreateNew));
+    row->addWidget(Button("Populate From File", &CallCostingsWindow::PopulateFromFile));
+    row->addStretch();
+    row->addWidget(Button("Save Costings", &CallCostingsWindow::Save));
+    row->addWidget(exit);
+    new toolkit::DialogKeys(*this, nullptr, exit);
+    return row;
+}
+
+QPushButton* CallCostingsWindow::Button(const QString& caption, void (CallCostingsWindow::*action)()) {
+    auto* button = new QPushButton(caption, this);
+    connect(button, &QPushButton::clicked, this, action);
+    return button;
+}
+
+void CallCostingsWindow::OnLoad() {
+    Costings costings = LoadCostings(application_.session, application_.settings);
+    standardCost_->setText(QString::fromStdString(costings.standardCost));
+    list_->Rows().Set(std::move(costings.rows));
+    (costings.perSecond ? perSecond_ : perMinute_)->setChecked(true);
+}
+
+// An entry that lacks a half is passed over without a word.
+void CallCostingsWindow::Add() {
+    if (number_->text().isEmpty() || cost_->text().isEmpty()) return;
+    list_->Rows().Append({number_->text().toStdString(), cost_->text().toStdString()});
+    number_->clear();
+    cost_->clear();
+    number_->setFocus();
+    list_->scrollToBottom();
+}
+
+void CallCostingsWindow::Delete() {
+    if (const int row = list_->SelectedRow(); row >= 0) list_->Rows().Remove(row);
+}
+
+void CallCostingsWindow::CreateNew() {
+    list_->Rows().Set({});
+    standardCost_->setText(QString::fromUtf8(kNoStandardCost.data(), kNoStandardCost.size()));
+}
+
+void CallCostingsWindow::PopulateFromFile() {
+    const auto file = application_.prompts.AskOpenFile(kCostingsFile);
+    if (!file) return;
+    std::vector<TariffRow> rows = list_->Rows().All();
+    AppendCostingFile(*file, rows);
+    list_->Rows().Set(std::move(rows));
+    Say(kImported);
+}
+
+void CallCostingsWindow::Save() {
+    SaveCostings(application_.session, application_.settings,
+                 {standardCost_->text().toStdString(), list_->Rows().All(), perSecond_->isChecked()});
+    Say("Costings saved!");
+    LogOnItsOwn(application_.session, application_.clock, "Saved Call Costings");
+}
+
+void CallCostingsWindow::Say(const std::string& text) const {
+    application_.prompts.Show({"Tallix Reports", text, MessageIcon::Information});
+}
+
+void CallCostingsWindow::OnUnload() {
+    OtherForms().Show(kOptionsForm);
+}
+
+}  // namespace tallix

@@ -1,0 +1,76 @@
+// The Custom Reports window ("Form10"): a person picks fields and filters, keeps them under
+// a name, and runs them. Filters are filled in for a new report; one that was kept runs
+// with those it was kept with.
+#pragma once
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+
+#include "reporting/custom_reports.h"
+#include "toolkit/calendar_panel.h"
+#include "windows/reporting/report_run_window.h"
+
+namespace tallix {
+
+class CustomReportsWindow : public ReportRunWindow {
+    Q_OBJECT
+public:
+    /// `application` and `printers` must outlive the window.
+    CustomReportsWindow(toolkit::Forms& forms, Application& application, toolkit::Printers& printers);
+
+protected:
+    void OnLoad() override;
+    Message NoDataMessage() const override;
+
+private:
+    struct DateInput {
+        QCheckBox* box;
+        QLineEdit* field;
+        QPushButton* calendar;
+    };
+
+    QLayout* ReportColumn();
+    QLayout* FieldColumn();
+    QLayout* FilterColumn();
+    QLayout* ButtonRow();
+    QWidget* DataFrame();
+    DateInput MakeDateInput(const QString& caption);
+    void ConnectInputs();
+    void FillFields();
+    void ApplyRights();
+
+    void SelectReport();
+    void BeginNewReport();
+    void OpenReport(const QString& name);
+    void Show(const CustomReport& report);
+    CustomReport Described() const;
+    void OpenCalendar(const DateInput& asking);
+    void Save();
+    void RunReport();
+
+    QListWidget* reports_;
+    QLineEdit* name_;
+    QLabel* nameLabel_;
+    QListWidget* fields_;
+    QGroupBox* data_;
+    QLineEdit* account_;
+    QLineEdit* duration_;
+    QRadioButton* greater_;
+    QRadioButton* less_;
+    QRadioButton* neither_;  ///< never seen: chosen while neither of the two is
+    DateInput start_;
+    DateInput end_;
+    QLineEdit* extension_;
+    QPushButton* delete_;
+    QPushButton* save_;
+    QPushButton* run_;
+    QPushButton* cancel_;
+    toolkit::CalendarPanel* calendar_;
+    DateInput asking_{};   ///< the date that the calendar is asked for
+    CustomReport report_;  ///< of the latest run
+};
+
+}  // namespace tallix

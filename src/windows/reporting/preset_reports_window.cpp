@@ -1,0 +1,217 @@
+#include "windows/reporting/preset_reports_window.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "session/access_rights.h"
+#include "toolkit/button_row.h"
+#include "toolkit/choice_lists.h"
+#include "toolkit/dialog_keys.h"
+#include "toolkit/style.h"
+
+namespace tallix {
+namespace {
+
+constexpr int kListWidth = 34 * toolkit::kGrid;
+constexpr int kFieldWidth = 20 * toolkit::kGrid;
+
+}  // namespace
+
+PresetReportsWindow::PresetReportsWindow(toolkit::Forms& forms, Application& application, ReportFlags& flags,
+                                         toolkit::Printers& printers)
+    : ReportRunWindow(forms, "Tallix Reports Tool - Preset Reports", application, printers),
+      flags_(flags),
+      reports_(new QListView),
+      reportNames_(new QStringListModel(this)),
+      timeFrom_(toolkit::MakeTimeList()),
+      timeTo_(toolkit::MakeTimeList()),
+      extension_(new QLineEdit),
+      account_(new QLineEdit),
+      site_(new QComboBox),
+      group_(new QComboBox),
+      duration_(new QLineEdit),
+      greaterThan_(new QRadioButton("Greater Than")),
+      lessThan_(new QRadioButton("Less Than")),
+      graph_(new QCheckBox("GRAPH", this)),
+      run_(new QPushButton("Run Report")),
+      cancel_(new QPushButton("Cancel")),
+      calendar_(new toolkit::CalendarPanel(this)) {
+    graph_->hide();
+    auto* columns = new QHBoxLayout(Content());
+    columns->setContentsMargins(toolkit::kMargin, toolkit::kMargin, toolkit::kMargin, toolkit::kMargin);
+    columns->setSpacing(toolkit::kMargin);
+    columns->addWidget(ReportColumn());
+    columns->addLayout(FilterColumn(), 1);
+    greaterThan_->setChecked(true);
+    NameInputs();
+    ConnectInputs();
+    EnableInputs({});
+    new toolkit::DialogKeys(*this, run_, cancel_);
+}
+
+QWidget* PresetReportsWindow::ReportColumn() {
+    auto* column = new QWidget;
+    auto* label = new QLabel("Available Reports");
+    label->setBuddy(reports_);
+    reports_->setAccessibleName(label->text());  // a list is not told its label
+    reports_->setModel(reportNames_);
+    reports_->setUniformItemSizes(true);
+    reports_->setSpacing(toolkit::kGrid / 4);
+    reports_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    auto* rows = new QVBoxLayout(column);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(toolkit::kSpacing);
+    rows->addWidget(label);
+    rows->addWidget(reports_);
+    column->setFixedWidth(kListWidth);
+    return column;
+}
+
+QLayout* PresetReportsWindow::FilterColumn() {
+    auto* rows = new QVBoxLayout;
+    rows->setSpacing(toolkit::kMargin);
+    rows->addLayout(FilterGrid());
+    rows->addWidget(&Output());
+    rows->addStretch();
+    rows->addLayout(ButtonRow());
+    return rows;
+}
+
+QGridLayout* PresetReportsWindow::FilterGrid() {
+    auto* grid = new QGridLayout;
+    grid->setHorizontalSpacing(toolkit::kSpacing * 2);
+    grid->setVerticalSpacing(toolkit::kSpacing);
+    for (QWidget* field :
+         {static_cast<QWidget*>(extension_), static_cast<QWidget*>(account_), static_cast<QWidget*>(site_),
+          static_cast<QWidget*>(group_), static_cast<QWidget*>(duration_)}) {
+        field->setFixedWidth(kFieldWidth);
+    }
+    AddDateRows(*grid);
+    AddRow(*grid, Input::Time, "Time:", {timeFrom_, timeTo_});
+    AddRow(*grid, Input::Extension, "Extension:", {extension_});
+    AddRow(*grid, Input::Account, "Account Code:", {account_});
+    AddRow(*grid, Input::Site, "Site:", {site_});
+    AddRow(*grid, Input::Group, "Group:", {group_});
+    AddRow(*grid, Input::Duration, "Duration:", {duration_, greaterThan_, lessThan_});
+    return grid;
+}
+
+void PresetReportsWindow::AddRow(QGridLayout& grid, Input input, const QString& caption,
+                                 const std::vector<QWidget*>& inputs) {
+    auto* label = new QLabel(caption);
+    label->setBuddy(inputs.front());
+    auto* row = new QHBoxLayout;
+    row->setSpacing(toolkit::kSpacing * 2);
+    for (QWidget* widget : inputs) row->addWidget(widget);
+    row->addStretch();
+    const int line = grid.rowCount();
+    grid.addWidget(label, line, 0);
+    grid.addLayout(row, line, 1);
+    std::vector<QWidget*>& all = inputs_.at(static_cast<std::size_t>(input));
+    all.push_back(label);
+    all.insert(all.end(), inputs.begin(), inputs.end());
+}
+
+// One label for both; each date has its box for a name.
+void PresetReportsWindow::AddDateRows(QGridLayout& grid) {
+    start_ = MakeDateInput("Start Date");
+    end_ = MakeDateInput("End Date");
+    AddRow(grid, Input::Date, "Date:", {start_.box, start_.field, start_.calendar});
+    AddRow(grid, Input::Date, "", {end_.box, end_.field, end_.calendar});
+    const int boxWidth = std::max(start_.box->sizeHint().width(), end_.box->sizeHint().width());
+    for (QCheckBox* box : {start_.box, end_.box}) box->setFixedWidth(boxWidth);
+}
+
+PresetReportsWindow::DateInput PresetReportsWindow::MakeDateInput(const QString& caption) {
+    const DateInput input = {new QCheckBox(caption), new QLineEdit, new QPushButton("...")};
+    input.field->setAccessibleName(caption);
+    input.field->setFixedWidth(kFieldWidth);
+    input.calendar->setToolTip("Show calendar");
+    connect(input.field, &QLineEdit::textChanged, input.box,
+            [box = input.box](const QString& text) { box->setChecked(!text.isEmpty()); });
+    connect(input.calendar, &QPushButton::clicked, this, [this, input] { OpenCalendar(input); });
+    return input;
+}
+
+void PresetReportsWindow::NameInputs() {
+    timeTo_->setAccessibleName("Time:");
+    duration_->setToolTip("Enter a duration (eg 00:01:00)");
+    run_->setToolTip("Click here to run the report");
+    cancel_->setToolTip("Click here to close");
+}
+
+QLayout* PresetReportsWindow::ButtonRow() {
+    run_->setEnabled(false);
+    return toolkit::ButtonRow({}, {run_, cancel_});
+}
+
+void PresetReportsWindow::ConnectInputs() {
+    connect(reports_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &PresetReportsWindow::SelectReport);
+    connect(reports_, &QListView::clicked, this, &PresetReportsWindow::SelectReport);
+    connect(calendar_, &toolkit::CalendarPanel::DayClicked, this, &PresetReportsWindow::TakeDay);
+    connect(run_, &QPushButton::clicked, this, &PresetReportsWindow::RunReport);
+    connect(cancel_, &QPushButton::clicked, this, &QWidget::close);
+}
+
+void PresetReportsWindow::OnLoad() {
+    FillLists();
+    Output().setVisible(Allows(Program().session.CurrentAccess, AccessRight::PresetReportDestination));
+    reports_->setFocus();
+}
+
+void PresetReportsWindow::FillLists() {
+    const PresetChoices choices = ReadPresetChoices(Program());
+    reportNames_->setStringList(Texts(choices.reports));
+    site_->addItems(Texts(choices.sites));
+    group_->addItems(Texts(choices.groups));
+    FillOutput();
+}
+
+// A click on the report that is selected already reads its file anew.
+void PresetReportsWindow::SelectReport() {
+    run_->setEnabled(reports_->selectionModel()->hasSelection());
+    EnableInputs(EnabledInputs(Describe().reportFile));
+}
+
+void PresetReportsWindow::EnableInputs(const EnabledInputs& enabled) {
+    enabled_ = enabled;
+    for (std::size_t input = 0; input < kInputs; ++input) {
+        for (QWidget* widget : inputs_.at(input)) widget->setEnabled(enabled[static_cast<Input>(input)]);
+    }
+}
+
+void PresetReportsWindow::OpenCalendar(const DateInput& asking) {
+    asking_ = asking;
+    const DateTime now = Program().clock.Now();
+    calendar_->Open(QDate(now.year, now.month, now.day), *asking.field);
+}
+
+// The box is ticked even where the field held this very day.
+void PresetReportsWindow::TakeDay(const QDate& day) {
+    asking_.field->setText(QString::fromStdString(ShortDate({day.year(), day.month(), day.day()})));
+    asking_.box->setChecked(true);
+}
+
+RunDescription PresetReportsWindow::Describe() const {
+    const QModelIndex selected = reports_->selectionModel()->selectedIndexes().value(0);
+    const std::string name = selected.data().toString().toStdString();
+    return {.reportName = name,
+            .reportFile = PresetReportFile(Program().folder, name),
+            .inputs = {.extension = TextOf(*extension_),
+                       .account = TextOf(*account_),
+                       .site = TextOf(*site_),
+                       .group = TextOf(*group_),
+                       .startDate = TextOf(*start_.field),
+                       .endDate = TextOf(*end_.field),
+                       .timeFrom = TextOf(*timeFrom_),
+                       .timeTo = TextOf(*timeTo_)},
+            .commaText = Output().Choice().destination == Destination::InExternalApplication,
+            .demandsExtension = enabled_[Input::Extension],
+            .demandsAccount = enabled_[Input::Account],
+            .drawsGraph = graph_->isChecked(),
+            .rules = kPresetRules};
+}
+
+}  // namespace tallix

@@ -1,0 +1,87 @@
+// The Preset Reports window ("Form7"): a person picks a report, fills in what it asks for
+// and runs it. However a run ends, the window is unloaded with it, and the main menu
+// shows again.
+#pragma once
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QStringListModel>
+#include <array>
+#include <vector>
+
+#include "reporting/catalogue.h"
+#include "reporting/preset_request.h"
+#include "toolkit/calendar_panel.h"
+#include "windows/reporting/report_run_window.h"
+
+namespace tallix {
+
+class PresetReportsWindow : public ReportRunWindow {
+    Q_OBJECT
+public:
+    /// `application`, `printers` and `flags`, the process's report switches, must outlive
+    /// the window.
+    PresetReportsWindow(toolkit::Forms& forms, Application& application, ReportFlags& flags,
+                        toolkit::Printers& printers);
+
+protected:
+    void OnLoad() override;
+    Message NoDataMessage() const override { return tallix::NoDataMessage(); }
+
+private:
+    struct DateInput {
+        QCheckBox* box;
+        QLineEdit* field;
+        QPushButton* calendar;
+    };
+
+    QWidget* ReportColumn();
+    QLayout* FilterColumn();
+    QGridLayout* FilterGrid();
+    void AddRow(QGridLayout& grid, Input input, const QString& caption, const std::vector<QWidget*>& inputs);
+    void AddDateRows(QGridLayout& grid);
+    DateInput MakeDateInput(const QString& caption);
+    void NameInputs();
+    QLayout* ButtonRow();
+    void ConnectInputs();
+    void FillLists();
+
+    void SelectReport();
+    void EnableInputs(const EnabledInputs& enabled);
+    void OpenCalendar(const DateInput& asking);
+    void TakeDay(const QDate& day);
+
+    void RunReport() { Run(Describe(), flags_, Output().Choice()); }
+    RunDescription Describe() const;
+
+    ReportFlags& flags_;
+    QListView* reports_;
+    QStringListModel* reportNames_;
+    std::array<std::vector<QWidget*>, kInputs> inputs_;  ///< labels included
+    EnabledInputs enabled_;
+    DateInput start_{};
+    DateInput end_{};
+    QComboBox* timeFrom_;
+    QComboBox* timeTo_;
+    QLineEdit* extension_;
+    QLineEdit* account_;
+    QComboBox* site_;
+    QComboBox* group_;
+    QLineEdit* duration_;
+    QRadioButton* greaterThan_;
+    QRadioButton* lessThan_;
+    QCheckBox* graph_;
+
+    QPushButton* run_;
+    QPushButton* cancel_;
+    toolkit::CalendarPanel* calendar_;
+    DateInput asking_{};  ///< the date that the calendar is asked for
+};
+
+}  // namespace tallix

@@ -1,0 +1,209 @@
+#include "administration/options_save.h"
+
+#include <gmock/gmock.h>
+
+#include "administration/accounts.h"
+#include "administration/address_book.h"
+#include "administration/user_groups.h"
+#include "session/access_log.h"
+#include "support/fork.h"
+#include "support/test_application.h"
+
+namespace tallix {
+namespace {
+
+using Names = std::vector<std::string>;
+using testing::AnyOf;
+using testing::ElementsAreArray;
+using testing::HasSubstr;
+using testing::Not;
+using testing::UnorderedElementsAreArray;
+
+class OptionsSaveTest : public testing::Test {
+protected:
+    OptionsSaveTest() {
+        std::filesystem::create_directories(Collector());
+        world.Insert("tblextensions", {{"ExtensionNo", "201"}});
+        screen.extensions = {{"305", "Bob"}};
+        screen.values = LoadOptions(world.application);
+        for (auto& [key, value] : screen.values) {
+            const bool isFile = key.ends_with(".dat");
+            const SettingKind kind = isFile ? SettingKind::Text : SettingOf(key).kind;
+            value = "A\r\n" + key + " £";
+            if (kind == SettingKind::Colour) value = "00100" + std::to_string(1000 + key[3]);
+            if (kind == SettingKind::Options || kind == SettingKind::Switch) {
+                value = SettingOf(key).choices.back().stored;
+            }
+        }
+    }
+
+    std::filesystem::path Collector() const { return world.Folder() / "Collector"; }
+
+    std::string Extensions() const { return world.Rows("SELECT ExtensionNo FROM tblextensions"); }
+
+    /// Everything that the save has done so far, each by a name.
+    std::set<std::string> Done() {
+        std::set<std::string> done;
+        for (const auto& [key, value] : screen.values) {
+            if (!world.settings.Read(key).empty()) done.insert(key);
+            if (std::filesystem::exists(Collector() / key)) done.insert(key);
+        }
+        if (!world.settings.Read("LocalIP").empty()) done.insert("LocalIP");
+        if (!world.crontab.Text().empty()) done.insert("task");
+        for (const Message& message : world.prompts.messages)
+            done.insert(message.title + ": " + message.text);
+        return done;
+    }
+
+    test::TestApplication world;
+    OptionsOnScreen screen;
+};
+
+TEST_F(OptionsSaveTest, EverySettingComesBackAsItWasSaved) {
+    SaveOptions(world.application, screen);
+    for (const auto& [key, value] : screen.values) {
+        if (key.ends_with(".dat")) continue;
+        EXPECT_EQ(world.settings.Read(key), value) << key;
+    }
+    EXPECT_EQ(world.settings.Read("LocalIP"), "A\r\nCurrency £");
+    EXPECT_EQ(world.settings.Read("CommMethod"), "2");
+    EXPECT_EQ(test::ReadBytes(Collector() / "COMM.dat"), "A\r\nCOMM.dat \xA3\r\n");
+    EXPECT_EQ(LoadOptions(world.application), screen.values);
+}
+
+TEST_F(OptionsSaveTest, TakesItsStepsInTheirOrder) {
+    const std::vector<Names> expected = {{},
+                                         {},
+                                         {"AreaCode", "CommMethod", "LocalIP", "SwitchBaud", "SwitchBits",
+                                          "SwitchComm", "SwitchParity", "SwitchStop"},
+                                         {"COMM.dat", "IP.dat"},
+                                         {"CostCompute", "Currency", "Lang", "ListenFeed", "ListenPort",
+                                          "ProxyIP", "ProxyPort", "ReportAlign", "UseProxy"},
+                                         {},
+                                         {"DebugLogging", "SMTPAuth", "SMTPEmail", "SMTPPass", "SMTPPort",
+                                          "SMTPSSL", "SMTPServer", "SMTPUser", "TimeClosed", "TimeOpen"},
+                                         {"task"},
+                                         {"DocsLocation", "LostCalls", "Providers", "ReportsLocation",
+                                          "V1Reports", "rptTBC", "rptTC", "rptTDC", "rptTHC"},
+                                         {"Save Settings: Settings saved!"}};
+    std::set<std::string> before;
+    for (std::size_t i = 0; i < kSaveSteps.size(); ++i) {
+        kSaveSteps.at(i)(world.application, screen);
+        const std::set<std::string> after = Done();
+        Names added;
+        std::set_difference(after.begin(), after.end(), before.begin(), before.end(),
+                            std::back_inserter(added));
+        EXPECT_THAT(added, ElementsAreArray(expected.at(i))) << "step " << i + 1;
+        before = after;
+    }
+    EXPECT_EQ(Extensions(), "305|\n");
+    EXPECT_EQ(ReadAccessLog(world.application.session).at(0).back(), "System Settings Saved");
+}
+
+TEST_F(OptionsSaveTest, AFailureEndsItWhereItIsWithTheExtensionsLost) {
+    std::filesystem::remove(Collector());
+    EXPECT_THROW(SaveOptions(world.application, screen), std::runtime_error);
+    EXPECT_EQ(Extensions(), "");
+    EXPECT_NE(world.settings.Read("SwitchStop"), "");
+    EXPECT_EQ(world.settings.Read("CostCompute"), "");
+    EXPECT_THAT(world.prompts.messages, testing::IsEmpty());
+}
+
+// Of a setting the later save counts, and so it does of the extensions, unless both saves
+// emptied their table before either filled it.
+TEST_F(OptionsSaveTest, TwoAdministratorsAtOnceLoseNothingOfEachOther) {
+    constexpr int kRounds = 2;
+    Application& program = world.application;
+    world.settings.Write("DBIP", "of nobody");
+    OptionsOnScreen others = screen;
+    others.extensions = {{"401", "Cid"}, {"402", "Dan"}};
+    for (auto& [key, value] : others.values) value += value.ends_with("£") ? " of Bob, and longer" : "";
+    const auto administer = [&](const std::string& user, const OptionsOnScreen& shown) {
+        program.session.CurrentUser = user;
+        for (int round = 0; round < kRounds; ++round) {
+            const std::string name = user + std::to_string(round);
+            AddAccount(program, {name, "x", "@", "", ""});
+            AddUserGroup(program.session, name, std::string(42, '1'));
+            AddKnownNumber(program.session, {name, name});
+            SaveOptions(program, shown);
+        }
+        return world.prompts.messages.size() == kRounds;  // none but those that all is saved
+    };
+    const pid_t other = test::Fork([&] { return administer("Bob", others); });
+    EXPECT_TRUE(administer("Ann", screen));
+    EXPECT_EQ(test::WaitFor(other), 0);
+
+    EXPECT_EQ(LoadAccounts(program.session).size(), 2 * kRounds);
+    EXPECT_EQ(LoadUserGroups(program.session).size(), 2 * kRounds);
+    EXPECT_EQ(LoadAddressBook(program.session).size(), 2 * kRounds);
+    EXPECT_EQ(ReadAccessLog(program.session).size(), 4 * kRounds);
+    std::vector<Extension> both = screen.extensions;
+    both.insert(both.end(), others.extensions.begin(), others.extensions.end());
+    EXPECT_THAT(LoadExtensions(program.session),
+                AnyOf(UnorderedElementsAreArray(screen.extensions),
+                      UnorderedElementsAreArray(others.extensions), UnorderedElementsAreArray(both)));
+    EXPECT_EQ(world.settings.Read("DBIP"), "of nobody");
+    for (const auto& [key, value] : LoadOptions(program)) {
+        EXPECT_THAT(value, AnyOf(screen.values.at(key), others.values.at(key))) << key;
+    }
+    EXPECT_THAT(world.crontab.Text(), Not(HasSubstr("\n#"))) << "one task";
+}
+
+TEST_F(OptionsSaveTest, ASettingThatCannotBeWrittenShowsItsMessageAndStopsNothing) {
+    std::filesystem::remove_all(world.Folder() / "settings");
+    std::ofstream(world.Folder() / "settings") << "no folder";
+    screen.automaticBackup = false;
+    SaveOptions(world.application, screen);
+    const std::size_t settings = screen.values.size() - kCommandFiles.size() + 1;  // and LocalIP
+    ASSERT_EQ(world.prompts.messages.size(), settings + 1);
+    EXPECT_EQ(world.prompts.messages.front().title, "fWriteValue");
+    EXPECT_EQ(world.prompts.messages.back().text, "Settings saved!");
+    EXPECT_EQ(Extensions(), "305|\n");
+}
+
+TEST_F(OptionsSaveTest, WhatHangsOnASwitchKeepsItsValueWhileTheSwitchIsOff) {
+    for (const char* key : {"UseProxy", "ListenFeed"}) screen.values[key] = "0";
+    for (const char* key : {"ProxyIP", "ProxyPort", "ListenPort"}) world.settings.Write(key, "old");
+    screen.values["Currency"] = "Any";
+    SaveOptions(world.application, screen);
+    for (const char* key : {"ProxyIP", "ProxyPort", "ListenPort"}) EXPECT_EQ(world.settings.Read(key), "old");
+    EXPECT_EQ(world.settings.Read("LocalIP"), "");
+}
+
+TEST_F(OptionsSaveTest, ShowsWhatIsStoredByTheRuleOfEachSetting) {
+    struct Rule {
+        const char* key;
+        const char* stored;
+        std::string shown;
+    };
+    const std::string folder = world.application.folder.string();
+    for (const auto& [key, stored, shown] :
+         std::vector<Rule>{{"LostCalls", "", "0"},
+                           {"LostCalls", "yes", "1"},
+                           {"CostCompute", "", "1"},
+                           {"CostCompute", "2", "0"},
+                           {"SMTPAuth", "", "1"},
+                           {"SMTPAuth", "0", "0"},
+                           {"CommMethod", "", "1"},
+                           {"CommMethod", "3", "1"},
+                           {"CommMethod", "2", "2"},
+                           {"Providers", "", "2"},
+                           {"Lang", "1", "1033"},
+                           {"Lang", "1041", "1041"},
+                           {"Currency", "", "£"},
+                           {"Currency", "?", "?"},
+                           {"ListenPort", "", "1752"},
+                           {"TimeClosed", "", "17:30"},
+                           {"ReportAlign", "", "C"},
+                           {"rptTC", "2", "002001118"},
+                           {"rptTC", "256000000", "002001118"},
+                           {"rptTC", "000000255", "000000255"},
+                           {"ReportsLocation", "", folder},
+                           {"DocsLocation", "", folder + "\\Company Docs"}}) {
+        world.settings.Write(key, stored);
+        EXPECT_EQ(LoadOptions(world.application).at(key), shown) << key << " " << stored;
+    }
+}
+
+}  // namespace
+}  // namespace tallix

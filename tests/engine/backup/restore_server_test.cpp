@@ -1,0 +1,165 @@
+// What a backup wrote on any server comes back on any other, and nothing but that.
+#include "backup/restore.h"
+
+#include <gmock/gmock.h>
+
+#include <fstream>
+#include <sstream>
+
+#include "backup/backup.h"
+#include "failures/errors.h"
+#include "setup/demo_data.h"
+#include "support/faults.h"
+#include "support/test_application.h"
+#include "support/test_servers.h"
+
+namespace tallix {
+namespace {
+
+using test::ReadLines;
+using test::TestApplication;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+struct NoBars : BackupProgress {
+    void ShowOverall(std::size_t, std::size_t) override {}
+    void ShowModule(std::int64_t, std::int64_t) override {}
+    void ClearModule() override {}
+};
+
+constexpr std::uint64_t kCalls = 300;
+constexpr std::uint64_t kSeed = 11;
+const std::set<BackupGroup> kAllGroups = {BackupGroup::ProcessedCalls, BackupGroup::RawCalls,
+                                          BackupGroup::SystemOptions};
+
+std::vector<std::string> Dump(TestApplication& from, const std::set<BackupGroup>& groups = kAllGroups,
+                              const BackupChannel& channel = {}) {
+    NoBars progress;
+    const auto file = from.Folder() / "calls.sbk";
+    WriteBackup(from.application, channel, file, groups, progress);
+    std::vector<std::string> lines = ReadLines(file);
+    std::sort(lines.begin(), lines.end());  // a server promises no order
+    return lines;
+}
+
+/// The lines that only one of two dumps has.
+std::vector<std::string> Difference(const std::vector<std::string>& one,
+                                    const std::vector<std::string>& other) {
+    std::vector<std::string> lines;
+    std::set_symmetric_difference(one.begin(), one.end(), other.begin(), other.end(),
+                                  std::back_inserter(lines));
+    return lines;
+}
+
+/// A value with an apostrophe, which nothing escapes.
+bool IsDamaged(const std::string& line) {
+    return std::count(line.begin(), line.end(), '\'') % 2 == 1;
+}
+
+class Restores : public testing::TestWithParam<const char*> {
+protected:
+    static TestApplication Open(const test::TestEngine& engine) {
+        return TestApplication({engine.dbType, engine.address, engine.user, engine.password});
+    }
+    const test::TestEngine& engine_ = test::EngineNamed(GetParam());
+};
+
+TEST_P(Restores, BringBackWhatAnyServerDumped) {
+    for (const char* from : test::kSessionEngines) {
+        TestApplication files;
+        const auto file = files.Folder() / "calls.sbk";
+        std::vector<std::string> expected;
+        {
+            const test::TestEngine& origin = test::EngineNamed(from);
+            const auto connection = test::FreshDatabase(origin);
+            std::ostringstream said;
+            AddDemonstration(*connection, kCalls, kSeed, said);
+            connection->Execute("INSERT INTO tblrawdata(Data, SiteID) VALUES ('ABCDEFGH', '001')");
+            connection->Execute("INSERT INTO tblphonesystem(SystemID, Model) VALUES ('1', 'Café')");
+            TestApplication source = Open(origin);
+            expected = Dump(source);
+            std::filesystem::copy_file(source.Folder() / "calls.sbk", file);
+        }
+        EXPECT_EQ(std::erase_if(expected, IsDamaged), 2U) << "an extension and a site";
+        test::FreshDatabase(engine_);
+        TestApplication target = Open(engine_);
+        ReplayBackup(target.application, file, kAllGroups, [] {});
+        const auto raw = std::find_if(expected.begin(), expected.end(), [](const std::string& line) {
+            return GroupOfLine(line) == BackupGroup::RawCalls;
+        });
+        ASSERT_EQ(*raw, "INSERT INTO tblrawdata(Data,SiteID) VALUES ('ABCDE','001')");
+        raw->replace(raw->find("ABCDE"), 5, "AB");
+        EXPECT_THAT(Difference(Dump(target), expected), IsEmpty()) << "from " << from;
+
+        test::FreshDatabase(engine_);
+        ReplayBackup(target.application, file, {BackupGroup::SystemOptions}, [] {});
+        std::erase_if(expected, [](const std::string& line) {
+            return GroupOfLine(line) != BackupGroup::SystemOptions;
+        });
+        EXPECT_THAT(Difference(Dump(target), expected), IsEmpty()) << "without the telephone system";
+    }
+}
+
+TEST_P(Restores, ExecuteNothingButWholeLinesOfTheDump) {
+    test::FreshDatabase(engine_);
+    TestApplication target = Open(engine_);
+    const auto file = target.Folder() / "bad.sbk";
+    std::ofstream(file, std::ios::binary)
+        << "DELETE FROM tblextensions\r\n"
+        << "insert into tblextensions(ExtensionNo,Name) VALUES ('1','lower')\r\n"
+        << "INSERT INTO tblextensions(ExtensionNo,Name) VALUES ('2','a'); DELETE FROM tblextensions\r\n"
+        << "INSERT INTO tblextensions(ExtensionNo,Name) VALUES ('3','" << std::string(1 << 20, 'x') << "\r\n"
+        << " \r\n"
+        << "INSERT INTO tblextensions(ExtensionNo,Name) VALUES ('4','Caf\xE9')\r\n"
+        << "INSERT INTO tblextensions(ExtensionNo,Name) VALUES ('5','O'Neill')\r\n"
+        << "INSERT INTO tblextensions(ExtensionNo,Name) VALUES ('6','two\r\nlines')\r\n"
+        << "INSERT INTO tblextensions(ExtensionNo,Name) VALUES ('7" << '\0' << "\xFF\n"
+        << "INSERT INTO tblextensions(ExtensionNo,Name) VALUES ('8','cut";
+    target.Execute("INSERT INTO tblextensions(ExtensionNo, Name) VALUES (\"0\", \"kept\")");
+    int lines = 0;
+    ReplayBackup(target.application, file, {BackupGroup::SystemOptions}, [&] { ++lines; });
+    EXPECT_EQ(lines, 11);
+    const std::string prefix = "INSERT INTO tblextensions(ExtensionNo,Name) VALUES (";
+    EXPECT_THAT(Dump(target), ElementsAre(prefix + "'0','kept')", prefix + "'4','Café')"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Engines, Restores, testing::ValuesIn(test::kSessionEngines));
+
+TEST(BrokenRestore, EndsByItselfWhenItsServerStops) {
+    test::OwnServer server;
+    TestApplication target(server.address);
+    const auto file = target.Folder() / "calls.sbk";
+    std::ofstream text(file);
+    for (int i = 0; i < 100; ++i)
+        text << "INSERT INTO tblextensions(ExtensionNo,Name) VALUES ('" << i << "','a')\n";
+    text.close();
+    int lines = 0;
+    ReplayBackup(target.application, file, kAllGroups, [&] {
+        if (++lines == 50) server.Stop();
+    });
+    EXPECT_EQ(lines, 100);
+}
+
+TEST(BrokenBackup, LeavesWholeLinesOnAFullDiskAndAHeldFileStopsIt) {
+    TestApplication test;
+    for (int call = 0; call < 1000; ++call) test.InsertCall();
+    const std::vector<std::string> whole = Dump(test);
+    {
+        const test::FullDisk full(100'000);
+        EXPECT_THROW(Dump(test), std::runtime_error);
+    }
+    const auto file = test.Folder() / "calls.sbk";
+    EXPECT_LE(std::filesystem::file_size(file), 100'000U);
+    EXPECT_EQ(ReadLines(file).at(0), whole.at(0));
+    EXPECT_TRUE(Dump(test, {}).empty());
+
+    BackupChannel channel;
+    channel.Hold("");
+    EXPECT_FALSE(Dump(test, kAllGroups, channel).empty());
+    channel.Hold(file);
+    EXPECT_EQ(std::filesystem::file_size(file), 0U);
+    EXPECT_THROW(Dump(test, kAllGroups, channel), std::runtime_error);
+}
+
+}  // namespace
+}  // namespace tallix

@@ -1,0 +1,317 @@
+#include "reporting/report_run.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "session/access_log.h"
+#include "support/test_application.h"
+#include "text/code_page.h"
+
+namespace tallix {
+namespace {
+
+using test::ReadLines;
+using test::TestApplication;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+TestApplication::Row Columns(const std::vector<std::string>& names) {
+    TestApplication::Row row;
+    for (const std::string& name : names) row[name] = "True";
+    return row;
+}
+
+// Runs reports of one application as comma text and gives back their data lines.
+class ReportRunTest : public ::testing::Test {
+protected:
+    RunOutcome Run(const std::string& name, const RunInputs& inputs = {},
+                   const RunRules& rules = kPresetRules, bool commaText = true) {
+        ReportRun run(test.application, flags, progress);
+        return run.Make({.reportName = name,
+                         .reportFile = PresetReportFile(test.application.folder, name),
+                         .inputs = inputs,
+                         .commaText = commaText,
+                         .rules = rules});
+    }
+
+    std::vector<std::string> Lines() const {
+        std::vector<std::string> lines = ReadLines(PageFile(test.application));
+        for (std::string& line : lines) line = FromAnsi(line);
+        return lines;
+    }
+
+    // What stands between the four lines and the heads above, and the total below.
+    std::vector<std::string> Rows() const {
+        std::vector<std::string> lines = Lines();
+        if (lines.size() < 7) return {};
+        return {lines.begin() + 5, lines.end() - 2};
+    }
+
+    std::ptrdiff_t LoggedEvents() {
+        const std::vector<AccessLogRow> rows = ReadAccessLog(test.application.session);
+        return std::count_if(rows.begin(), rows.end(), [](const AccessLogRow& row) {
+            return row[2] == "Ann" && row[3].starts_with("Report Run - ");
+        });
+    }
+
+    TestApplication test;
+    ReportFlags flags;
+    NoProgress progress;
+};
+
+TEST_F(ReportRunTest, ResolvesEveryColumnInItsOrder) {
+    test.Insert("tblsite", {{"ID", "001"}, {"Name", "Head Office"}, {"Area", "01632"}, {"VM", "59999"}});
+    test.Insert("tblextensions", {{"ExtensionNo", "201"}, {"Name", "Ann Lee"}});
+    test.Insert("tblareaproviders", {{"Code", "01632"}, {"Area", "Newtown"}});
+    test.settings.Write("Providers", "1");
+    test.settings.Write("AreaCode", "1");
+    test.WriteReport("All",
+                     Columns({"Date", "Time", "Extension", "Name", "Duration", "NumRings", "Forward",
+                              "Account", "DestNum", "OrigNum", "Area", "Trunk", "Site"}),
+                     {{"Cost", "True"}});
+    test.InsertCall();
+    test.InsertCall({{"DestNum", "960123"}, {"Extension", "202"}, {"Forward", "1"}, {"Account", ""}});
+    test.InsertCall({{"DestNum", "202"}, {"Internal", "1"}, {"Forward", "x"}});
+    test.Execute("INSERT INTO tblcostcount(DataID, Cost) VALUES (1, '0.15')");
+
+    ASSERT_EQ(Run("All"), RunOutcome::Complete);
+
+    EXPECT_EQ(
+        Lines()[4],
+        "Date:,Time:,Extension:,Name:,Duration:,Rings:,Forward:,Account:,From Number:,Destination:,Area:,"
+        "Trunk:,Site:,Cost:,");
+    EXPECT_THAT(
+        Rows(),
+        ElementsAre("05/03/2021,10:15:00,201,Ann Lee,00:02:30,3,No,7,01632960123,201,Newtown,T001,001,£0.15,",
+                    "05/03/2021,10:15:00,202,&nbsp;,00:02:30,3,Yes,&nbsp;,01632960123,201,Newtown,T001,001,"
+                    "£0.00,",
+                    "05/03/2021,10:15:00,201,Ann Lee,00:02:30,3,No,7,202,201,&nbsp;,T001,001,"));
+    EXPECT_EQ(Lines().back(), "Total Number Of Records: 3  |  Total Cost £0.15");
+}
+
+TEST_F(ReportRunTest, NamesNumbersAndCountries) {
+    test.Insert("tblsite", {{"ID", "001"}, {"Area", "0163"}, {"VM", "59999"}});
+    test.Insert("tbladdressbook", {{"Name", "Dr Patel"}, {"Number", "07700900123"}});
+    for (const auto& [code, provider] :
+         {std::pair("0163", "Home"), {"077", "Alpha"}, {"078", "Beta"}, {"09", "Tied"}, {"09", "Tied too"}}) {
+        test.Insert("tblcommproviders", {{"Code", code}, {"Provider", provider}});
+    }
+    test.Insert("tblintcodes", {{"Code", "33"}, {"Country", "FRA"}});
+    test.Insert("tblintcodes", {{"Code", "353"}, {"Country", "IRL"}});
+    test.settings.Write("Providers", "2");
+    test.WriteReport("Numbers", {{"DestNum", "True"}, {"Area", "True"}}, {});
+    for (const char* number : {"07700900123", "07700900999", "07800900999", "960123", "59999", "0912345",
+                               "33123456789", "353123456", "3", "88812345", "O'Hara12"}) {
+        test.InsertCall({{"DestNum", number}});
+    }
+
+    Run("Numbers");
+
+    EXPECT_THAT(Rows(), ElementsAre("07700900123,Dr Patel,",    // the address book ends the row
+                                    "07700900999,Alpha,GBR,",   //
+                                    "07800900999,Beta,GBR,",    //
+                                    "960123,Home,GBR,",         // the site's own
+                                    "59999,Voicemail,GBR,",     //
+                                    "0912345,&nbsp;,GBR,",      // no prefix tells the two rows apart
+                                    "33123456789,&nbsp;,FRA,",  //
+                                    "353123456,&nbsp;,IRL,",    //
+                                    "3,&nbsp;,GBR,",            // too short for either search
+                                    "88812345,&nbsp;,&nbsp;,",  //
+                                    "O'Hara12,&nbsp;,&nbsp;,"));
+}
+
+TEST_F(ReportRunTest, PricesEachCallWhereStoredCostsAreOff) {
+    test.Insert("tblcosts", {{"Number", "Default"}, {"Cost", "2.00"}, {"CostID", "21"}});
+    test.Insert("tblcosts", {{"Number", "0770"}, {"Cost", "10.00"}, {"CostID", "99"}});
+    test.settings.Write("CostCompute", "0");
+    test.WriteReport("Costs", {{"DestNum", "True"}}, {{"Cost", "True"}});
+    test.InsertCall();
+    test.InsertCall({{"DestNum", "07700900123"}, {"Duration", "00:12:00"}});
+    test.InsertCall({{"Duration", "00:00:00"}});
+
+    Run("Costs");
+
+    EXPECT_THAT(Rows(), ElementsAre("01632960123,£0.06,", "07700900123,£1.20,", "01632960123,£0.00,"));
+    EXPECT_EQ(Lines().back(), "Total Number Of Records: 3  |  Total Cost £1.26");
+}
+
+TEST_F(ReportRunTest, KeepsRecordsByTheirFilters) {
+    test.WriteReport("Filtered", {{"Date", "True"}, {"Time", "True"}}, {});
+    for (const auto& [date, time] : {std::pair("01/02/2021", "08:29:59"),
+                                     {"01/02/2021", "09:00:00"},
+                                     {"02/02/2021", "09:00:01"},
+                                     {"03/02/2021", "17:00:00"},
+                                     {"no date", "no time"}}) {
+        test.InsertCall({{"Date", date}, {"Time", time}});
+    }
+    test.InsertCall({{"Date", "02/02/2021"}, {"DestNum", "  "}});
+    struct Case {
+        const char* name;
+        RunInputs inputs;
+        std::vector<std::string> kept;
+        const RunRules& rules = kPresetRules;
+    };
+    const std::string first = "01/02/2021,08:29:59,", second = "01/02/2021,09:00:00,",
+                      third = "02/02/2021,09:00:01,", fourth = "03/02/2021,17:00:00,",
+                      odd = "no date,no time,", blank = "02/02/2021,10:15:00,";
+    const Case cases[] = {
+        {"no filter drops blank numbers alone", {}, {first, second, third, fourth, odd}},
+        {"both days count", {.startDate = "01/02/2021", .endDate = "2/2/2021"}, {first, second, third}},
+        {"a start alone; a call without a date goes with the one before",
+         {.startDate = "02/02/2021"},
+         {third, fourth, odd}},
+        {"a start behind the end", {.startDate = "03/02/2021", .endDate = "01/02/2021"}, {}},
+        {"both times are exclusive", {.timeFrom = "09:00", .timeTo = "17:00"}, {third, odd}},
+        {"one time alone is no filter", {.timeFrom = "09:00"}, {first, second, third, fourth, odd}},
+        {"a schedule keeps blank numbers", {}, {first, second, third, fourth, odd, blank}, kUnattendedRules},
+        {"a schedule with both times",
+         {.timeFrom = "09:00", .timeTo = "17:00"},
+         {third, odd, blank},
+         kUnattendedRules},
+        {"a schedule with an end alone", {.timeTo = "09:00"}, {first, odd}, kUnattendedRules},
+        {"a schedule with a start alone keeps what is no time",
+         {.timeFrom = "09:00"},
+         {odd},
+         kUnattendedRules},
+    };
+    for (const Case& c : cases) {
+        ASSERT_EQ(Run("Filtered", c.inputs, c.rules), RunOutcome::Complete) << c.name;
+        EXPECT_EQ(Rows(), c.kept) << c.name;
+    }
+}
+
+TEST_F(ReportRunTest, KeepsCallsBeforeOpeningAlone) {
+    test.WriteReport("Early", {{"Time", "True"}}, {{"Hours", "True"}});
+    for (const char* time : {"07:59:59", "08:30:00", "12:00:00", "19:00:00"})
+        test.InsertCall({{"Time", time}});
+    Run("Early");
+    EXPECT_THAT(Rows(), IsEmpty()) << "no opening time";
+    test.settings.Write("TimeOpen", "08:30");
+    test.settings.Write("TimeClosed", "17:30");
+    Run("Early");
+    EXPECT_THAT(Rows(), ElementsAre("07:59:59,"));
+}
+
+TEST_F(ReportRunTest, BoundsTheRecordsLookedAt) {
+    const TestApplication::Row count = {{"DestNum", "True"}, {"Sum", "True"}, {"Duration", "True"}};
+    TestApplication::Row options = {{"Sum", "DestNumC"},
+                                    {"Top", "2"},
+                                    {"Where", "GROUP BY DestNum ORDER BY COUNT(DestNum) DESC, DestNum"}};
+    test.WriteReport("Top", count, options);
+    for (const char* number :
+         {"2001", "2001", "2001", "01632960001", "01632960001", "01632960002", "01632960003"}) {
+        test.InsertCall({{"DestNum", number}});
+    }
+    Run("Top");
+    EXPECT_THAT(Rows(), ElementsAre("&nbsp;,01632960001,", "&nbsp;,01632960002,"))
+        << "internal numbers take no place";
+    Run("Top", {}, kUnattendedRules);
+    EXPECT_EQ(Rows().size(), 3u) << "schedules take all";
+
+    options["Top"] = "99999";
+    test.WriteReport("Top", count, options);
+    Run("Top");
+    EXPECT_EQ(Rows().size(), 3u) << "a bound that is no 16-bit number is none";
+}
+
+TEST_F(ReportRunTest, EndsWithoutDataWhereTheServerHasNoneOrRefuses) {
+    test.WriteReport("Broken", {{"Date", "True"}}, {{"Where", "WHERE WHERE"}, {"Cost", "True"}});
+    test.WriteReport("Empty", {{"Date", "True"}}, {});
+    for (const char* name : {"Empty", "Broken", "Missing"}) {
+        EXPECT_EQ(Run(name), RunOutcome::NoData) << name;
+        EXPECT_EQ(Lines()[0], std::string("Tallix Reports - ") + name);
+        EXPECT_EQ(Run(name, {}, kUnattendedRules), RunOutcome::Complete) << name;
+    }
+    Run("Broken", {}, kUnattendedRules);
+    EXPECT_THAT(Lines(), ElementsAre("Tallix Reports - Broken", "Generated On: 09/03/2021 At 14:05:30",
+                                     "Created By Tallix Reports V1.4.6", "", "Date:,Cost:,", "",
+                                     "Total Number Of Records: 0  |  Total Cost £0.00"));
+
+    test.application.session.DBIP = "sqlite:/nowhere/at/all.db";
+    EXPECT_EQ(Run("Broken"), RunOutcome::NoData);
+}
+
+TEST_F(ReportRunTest, SurvivesNullsQuotesAndStrangeText) {
+    test.WriteReport("Odd",
+                     Columns({"Date", "Time", "Extension", "Name", "Duration", "Forward", "DestNum", "Area"}),
+                     {{"Cost", "True"}});
+    test.settings.Write("CostCompute", "0");
+    test.Insert("tblphonedata", {{"DestNum", "0163 \"29\" '6'"},
+                                 {"Internal", "0"},
+                                 {"Extension", "2\"0'1"},
+                                 {"Duration", "a:b:c"},
+                                 {"Forward", "ja"}});
+    test.Insert("tblphonedata", {{"DestNum", "Žluťoučký 猫"}, {"Internal", "0"}, {"Date", "<TD>x</TD>"}});
+    ASSERT_EQ(Run("Odd"), RunOutcome::Complete);
+    EXPECT_THAT(Rows(), ElementsAre("&nbsp;,&nbsp;,2\"0'1,&nbsp;,a:b:c,No,0163 \"29\" '6',&nbsp;,£0.00,",
+                                    "x,,&nbsp;,&nbsp;,&nbsp;,&nbsp;,No,Žlu?ou?ký ?,&nbsp;,£0.00,"));
+}
+
+TEST_F(ReportRunTest, WritesCoversAndAChartAndLogsTheRunOfAPersonAlone) {
+    test.InsertCall();
+    test.WriteReport("All", {{"Date", "True"}}, {});
+    test.settings.Write("CCover", "1");
+    const auto cover = test.application.tempFolder / "rptcov.tmp";
+    const auto back = test.application.tempFolder / "rptbac.tmp";
+    const RunDescription charted = {.reportName = "All",
+                                    .reportFile = PresetReportFile(test.application.folder, "All"),
+                                    .drawsGraph = true,
+                                    .rules = kPresetRules};
+    EXPECT_EQ(ReportRun(test.application, flags, progress).Make(charted), RunOutcome::Complete);
+    EXPECT_TRUE(std::filesystem::exists(cover));
+    EXPECT_FALSE(std::filesystem::exists(back));
+    EXPECT_EQ(ReadLines(PageFile(test.application)).at(Lines().size() - 4), "</td></tr></table>");
+    EXPECT_EQ(LoggedEvents(), 1);
+
+    test.settings.Write("CCover", "");
+    test.settings.Write("BBacking", "1");
+    Run("All", {}, kUnattendedRules);
+    EXPECT_TRUE(std::filesystem::exists(cover)) << "a schedule leaves the covers of a person alone";
+    EXPECT_FALSE(std::filesystem::exists(back));
+    Run("All");
+    EXPECT_TRUE(!std::filesystem::exists(cover) && std::filesystem::exists(back));
+    EXPECT_EQ(LoggedEvents(), 2);
+}
+
+TEST_F(ReportRunTest, ARefusedRunLeavesItsSwitchesToTheNextAndNoFiles) {
+    test.InsertCall();
+    test.WriteReport("First", {{"Site", "True"}, {"Time", "True"}}, {});
+    test.WriteReport("Second", {{"Site", "-"}, {"Time", "nonsense"}, {"Date", "-1"}}, {});
+    Run("Second");
+    EXPECT_THAT(Rows(), ElementsAre("05/03/2021,"));
+    const RunDescription first = {.reportName = "First",
+                                  .reportFile = PresetReportFile(test.application.folder, "First"),
+                                  .demandsExtension = true,
+                                  .rules = kPresetRules};
+    EXPECT_EQ(ReportRun(test.application, flags, progress).Make(first), RunOutcome::Refused);
+    EXPECT_TRUE(std::filesystem::is_empty(test.application.tempFolder));
+    EXPECT_EQ(test.application.session.DBConn, nullptr);
+    Run("Second");
+    EXPECT_THAT(Rows(), ElementsAre("05/03/2021,10:15:00,001,"));
+    EXPECT_EQ(LoggedEvents(), 2);
+}
+
+TEST_F(ReportRunTest, WritesTheTitleLineOfWhatWasAsked) {
+    test.InsertCall();
+    struct Case {
+        TestApplication::Row options;
+        RunInputs inputs;
+        std::string title;
+    };
+    const Case cases[] = {
+        {{{"Title", "Account"}, {"Account", "True"}}, {.account = "7", .site = "ALL"}, "Account 7"},
+        {{{"Title", "Account"}, {"Account", "True"}}, {.extension = "201", .site = "ALL"}, "Account ALL"},
+        {{{"Title", "Calls of"}, {"Account", "True"}, {"Extension", "True"}},
+         {.extension = "201", .account = "7"},
+         "Calls of 201"},
+        {{{"Title", "Site"}}, {.site = "002"}, "Site 002"},
+    };
+    for (const Case& c : cases) {
+        test.WriteReport("Titled", {{"Date", "True"}}, c.options);
+        Run("Titled", c.inputs);
+        EXPECT_EQ(Lines()[4], c.title);
+    }
+}
+
+}  // namespace
+}  // namespace tallix

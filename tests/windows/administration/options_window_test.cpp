@@ -1,0 +1,200 @@
+#include "windows/administration/options_window.h"
+
+#include <gmock/gmock.h>
+
+#include <QCheckBox>
+#include <QRadioButton>
+#include <QTest>
+
+#include "database/recordset.h"
+#include "session/access_rights.h"
+#include "session/database.h"
+#include "support/form_test.h"
+#include "toolkit/report_preview.h"
+
+namespace tallix {
+namespace {
+
+using testing::ElementsAre;
+
+class OptionsWindowTest : public test::FormTest {
+protected:
+    OptionsWindowTest() {
+        std::filesystem::create_directories(world.Folder() / "Collector");
+        StandIn({kMainForm, kSitesForm, kAccessLoggingForm});
+        UnderTest<OptionsWindow>(kOptionsForm, world.application);
+    }
+
+    /// The entries at the side that can be chosen.
+    std::vector<std::string> Pages() {
+        const auto& list = *Window().findChild<QListWidget*>();
+        std::vector<std::string> pages;
+        for (int row = 0; row < list.count(); ++row) {
+            const QListWidgetItem& entry = *list.item(row);
+            if (!entry.isHidden() && entry.flags() != Qt::NoItemFlags)
+                pages.push_back(entry.text().toStdString());
+        }
+        return pages;
+    }
+};
+
+TEST_F(OptionsWindowTest, OffersWhatTheRightsGrant) {
+    EXPECT_FALSE(Button("Access Logging").isEnabled()) << "for the Administrator alone";
+    forms.Unload(kOptionsForm);
+
+    world.application.session.CurrentUser = "Administrator";
+    world.application.session.CurrentAccess = std::string(kRights, '0');
+    EXPECT_THAT(Pages(), ElementsAre("Report Design", "Tools"));
+    for (const char* button :
+         {"Save and Exit", "Edit Custom Mappings", "Scheduled Reports", "Edit Call Costings", "Compute Costs",
+          "Titlebar Colour", "Restore Defaults"}) {
+        EXPECT_FALSE(Button(button).isEnabled()) << button;
+    }
+    for (const char* button : {"Exit Without Saving", "Cover/Backing", "Access Logging", "Enable"}) {
+        EXPECT_TRUE(Button(button).isEnabled()) << button;
+    }
+    forms.Unload(kOptionsForm);
+
+    world.application.session.CurrentAccess[static_cast<std::size_t>(AccessRight::Folders)] = '1';
+    EXPECT_THAT(Pages(), ElementsAre("Report Design", "Folders", "Tools"));
+}
+
+TEST_F(OptionsWindowTest, GivesWayToTheWindowsItOpensAndStaysWhereThereIsNone) {
+    world.Insert("tblsite", {{"ID", "001"}});
+    EXPECT_EQ(Window().findChild<QLabel*>("SiteCount")->text(), "1");
+    Click("Edit Call Costings");
+    EXPECT_TRUE(IsVisible(kOptionsForm));
+    Click("Configure Sites");
+    EXPECT_FALSE(IsVisible(kOptionsForm));
+    EXPECT_TRUE(IsVisible(kSitesForm));
+    world.Insert("tblsite", {{"ID", "002"}});
+    forms.Show(kOptionsForm);
+    EXPECT_EQ(Window().findChild<QLabel*>("SiteCount")->text(), "2");
+    QTest::keyClick(&Window(), Qt::Key_Escape);
+    EXPECT_FALSE(IsLoaded());
+    EXPECT_TRUE(IsVisible(kMainForm));
+    EXPECT_THAT(world.prompts.messages, testing::IsEmpty()) << "nothing was changed, nothing is asked";
+}
+
+TEST_F(OptionsWindowTest, SavesWhatIsOnTheScreenAndLeaves) {
+    world.settings.Write("ProxyIP", "old");
+    world.settings.Write("SwitchBaud", "9600");
+    EXPECT_FALSE(Labelled("Proxy Server:").isEnabled());
+    EXPECT_FALSE(Labelled("Listen Port:").isEnabled());
+    Type("Proxy Server:", "new");
+    Captioned<QCheckBox>("Set Collector to Listen").click();
+    EXPECT_TRUE(Labelled("Listen Port:").isEnabled());
+    Type("SMTP Pass:", " p\\w\"£ ");
+    Captioned<QRadioButton>("Italian").click();
+    Captioned<QRadioButton>("Right").click();
+    world.prompts.paths = {"/srv/reports"};
+    Click("Browse");
+    Click("Disable");
+    Click("Save and Exit");
+    EXPECT_EQ(LastMessage().text, "Settings saved!");
+    EXPECT_FALSE(IsLoaded());
+    const std::vector<std::pair<const char*, const char*>> stored = {
+        {"ProxyIP", "old"},     {"SwitchBaud", "9600"},
+        {"ListenPort", "1752"}, {"SMTPPass", " p\\w\"£ "},
+        {"Lang", "1040"},       {"ReportAlign", "R"},
+        {"Currency", "£"},      {"ReportsLocation", "/srv/reports"}};
+    for (const auto& [key, value] : stored) EXPECT_EQ(world.settings.Read(key), value) << key;
+    EXPECT_EQ(world.crontab.Text(), "");
+}
+
+TEST_F(OptionsWindowTest, SavesOnceThoughItIsClickedAndClosedMeanwhile) {
+    world.events.onServe = [this] {
+        world.events.onServe = {};
+        Click("Save and Exit");
+        Window().close();
+        EXPECT_TRUE(IsLoaded());
+    };
+    Click("Save and Exit");
+    EXPECT_EQ(world.prompts.messages.size(), 1U);
+    EXPECT_FALSE(IsLoaded());
+}
+
+TEST_F(OptionsWindowTest, AsksBeforeExtensionsOutOfTheCallsAreDiscardedAndSavesThem) {
+    world.InsertCall({{"Extension", "305"}});
+    world.prompts.answers = {Answer::Yes, Answer::No, Answer::Yes};
+    Click("Get From Data");
+    Window().close();
+    EXPECT_EQ(LastMessage().text,
+              "Any changes that you have made will be discarded. Are you sure you want to exit?");
+    EXPECT_TRUE(IsVisible(kOptionsForm));
+    Click("Exit Without Saving");
+    EXPECT_FALSE(IsLoaded());
+    world.prompts.answers = {Answer::Yes};
+    Click("Get From Data");
+    Click("Save and Exit");
+    EXPECT_FALSE(IsLoaded());
+    EXPECT_THAT(LoadExtensions(world.application.session), ElementsAre(Extension{"305", ""}));
+}
+
+TEST_F(OptionsWindowTest, TellsOfLostCallsAndDebugLoggingByMouseAndByKey) {
+    world.settings.Write("LostCalls", "1");
+    auto& lost = Captioned<QCheckBox>("Include 'lost' calls in call records");
+    EXPECT_THAT(world.prompts.messages, testing::IsEmpty());
+    lost.click();
+    EXPECT_THAT(LastMessage().text, testing::StartsWith("If you have already"));
+    QTest::keyClick(&lost, Qt::Key_Space);
+    EXPECT_THAT(LastMessage().text, testing::StartsWith("IMPORTANT! - This"));
+    auto& debug = *Window().findChild<QCheckBox*>("DebugLogging");
+    debug.click();
+    EXPECT_EQ(LastMessage().title, "Debug Logging");
+    debug.click();
+    EXPECT_EQ(world.prompts.messages.size(), 3U) << "clearing it is not told of";
+    EXPECT_FALSE(debug.isChecked());
+}
+
+TEST_F(OptionsWindowTest, TestsTheMailOnlyWithAServerAndAPort) {
+    auto& test = Button("Test Attach");
+    Type("SMTP Port:", "25");
+    EXPECT_FALSE(test.isEnabled());
+    Type("SMTP Server:", "127.0.0.1");
+    test.click();
+    EXPECT_EQ(LastMessage().text, "No default site has been configured, test email failed!");
+    EXPECT_TRUE(test.isEnabled());
+}
+
+TEST_F(OptionsWindowTest, ComputesCostsOnYes) {
+    world.InsertCall();
+    const auto count = [&] {
+        OpenDatabase(world.application.session);
+        ado::Recordset costs;
+        costs.Open("SELECT * FROM tblcostcount", OpenConnection(world.application.session));
+        return costs.RecordCount();
+    };
+    Click("Compute Costs");
+    EXPECT_EQ(count(), 0) << "No was the answer";
+    world.prompts.answers = {Answer::Yes};
+    Click("Compute Costs");
+    EXPECT_EQ(count(), 1);
+    EXPECT_EQ(world.prompts.messages.size(), 2U);
+    EXPECT_TRUE(Button("Compute Costs").isEnabled());
+}
+
+TEST_F(OptionsWindowTest, RestoredColoursReachTheReportsByASaveOnly) {
+    world.settings.Write("rptTHC", "001002003");
+    const auto header = [this] {
+        return Window()
+            .findChild<toolkit::ReportPreview*>()
+            ->Colour(toolkit::ReportPreview::Part::TableHeader)
+            .name();
+    };
+    EXPECT_EQ(header(), "#010203");
+    Click("Restore Defaults");
+    EXPECT_EQ(header(), "#b40300");
+    Click("Exit Without Saving");
+    EXPECT_EQ(header(), "#010203");
+    world.prompts.colours = {{0, 0, 0}};
+    Click("Table Header Colour");
+    EXPECT_EQ(header(), "#010203");
+    world.prompts.colours = {{9, 8, 7}};
+    Click("Table Header Colour");
+    Click("Save and Exit");
+    EXPECT_EQ(world.settings.Read("rptTHC"), "009008007");
+}
+
+}  // namespace
+}  // namespace tallix

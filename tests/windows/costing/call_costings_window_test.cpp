@@ -1,0 +1,72 @@
+#include "windows/costing/call_costings_window.h"
+
+#include <gmock/gmock.h>
+
+#include <QTest>
+
+#include "costing/costings.h"
+#include "support/form_test.h"
+#include "toolkit/label_edit.h"
+#include "windows/costing/call_cost_map_window.h"
+
+namespace tallix {
+namespace {
+
+using testing::ElementsAre;
+
+class CallCostingsWindowTest : public test::FormTest {
+protected:
+    template <typename Window>
+    void Open(const char* name) {
+        UnderTest<Window>(name, world.application);
+        FormTest::Window().activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&FormTest::Window()));
+    }
+};
+
+TEST_F(CallCostingsWindowTest, EditsTheListAndStoresItOnlyWhenAsked) {
+    SaveCostings(world.application.session, world.settings,
+                 {"1.20", {{"0845", "5.00"}, {"09", "9.00"}}, true});
+    Open<CallCostingsWindow>(kCallCostingsForm);
+    EXPECT_TRUE(Captioned<QRadioButton>("Per Second Billing").isChecked());
+    Click("Delete");
+    Type("Number:", "0800");
+    Click("Add");
+    Type("Cost:", "0.00");
+    Click("Add");
+    SelectRow(1);
+    Click("Delete");
+    EXPECT_THAT(Rows(), ElementsAre(toolkit::ListRow{"0845", "5.00"}, toolkit::ListRow{"0800", "0.00"}));
+    const QPoint cost = List().visualRect(List().model()->index(1, 1)).center();
+    QTest::mouseClick(List().viewport(), Qt::LeftButton, {}, cost);
+    QTest::mouseDClick(List().viewport(), Qt::LeftButton, {}, cost);
+    QTest::keyClicks(Window().findChild<toolkit::LabelEdit*>(), "7.50");
+    QTest::keyClick(Window().findChild<toolkit::LabelEdit*>(), Qt::Key_Return);
+    QTest::keyClick(&List(), Qt::Key_F2);
+    QTest::keyClicks(Window().findChild<toolkit::LabelEdit*>(), "0801");
+    QTest::keyClick(Window().findChild<toolkit::LabelEdit*>(), Qt::Key_Return);
+    EXPECT_TRUE(world.prompts.messages.empty());
+    Click("Save Costings");
+    EXPECT_EQ(world.prompts.messages.at(0).text, "Costings saved!");
+    Click("Create New");
+    Click("Exit Costings Screen");
+    const Costings stored = LoadCostings(world.application.session, world.settings);
+    EXPECT_THAT(stored.rows, ElementsAre(TariffRow{"0845", "5.00"}, TariffRow{"0801", "7.50"}));
+    EXPECT_EQ(stored.standardCost, "1.20");
+}
+
+TEST_F(CallCostingsWindowTest, ACostMapWithALongChargeIsRefused) {
+    world.Execute("INSERT INTO tblareaproviders(Code, Area) VALUES ('020', 'London')");
+    Open<CallCostMapWindow>(kCallCostMapForm);
+    Click("Populate From DB");
+    List().Rows().SetText(0, 1, "LL");
+    Click("Save Costings");
+    EXPECT_EQ(world.prompts.messages.at(0).icon, MessageIcon::Critical);
+    List().Rows().SetText(0, 1, "M");
+    Click("Save Costings");
+    EXPECT_EQ(world.prompts.messages.at(1).text, "Cost map saved!");
+    EXPECT_TRUE(Button("Create New").isEnabled());
+}
+
+}  // namespace
+}  // namespace tallix
