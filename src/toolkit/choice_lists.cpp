@@ -2,6 +2,7 @@
 
 #include "host/clock.h"
 #include "toolkit/style.h"
+#include "toolkit/text.h"
 
 namespace tallix::toolkit {
 namespace {
@@ -11,18 +12,12 @@ constexpr int kShownTimes = 12;
 
 }  // namespace
 
-QStringList Texts(const std::vector<std::string>& list) {
-    QStringList texts;
-    for (const std::string& text : list) texts << QString::fromStdString(text);
-    return texts;
-}
-
 QComboBox* MakeTimeList() {
     auto* list = new QComboBox;
     list->setEditable(true);
     list->setInsertPolicy(QComboBox::NoInsert);
     list->setMaxVisibleItems(kShownTimes);
-    list->addItems(Texts(MinutesOfTheDay()));
+    list->addItems(ToQStringList(MinutesOfTheDay()));
     list->setCurrentIndex(-1);
     list->setFixedWidth(kTimeWidth);
     return list;

@@ -5,10 +5,11 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QScrollBar>
-#include <QStyledItemDelegate>
+#include <QShortcut>
 #include <algorithm>
 #include <utility>
 
+#include "toolkit/cell_delegate.h"
 #include "toolkit/style.h"
 
 namespace tallix::toolkit {
@@ -17,20 +18,7 @@ namespace {
 constexpr int kTwipsPerDigit = 90;
 constexpr int kRowsInView = 12;
 
-/// Gives the rows some air.
-class RowDelegate : public QStyledItemDelegate {
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, kGrid);
-    }
-};
-
 }  // namespace
-
-ListRows::ListRows(std::vector<ListColumn> columns, QObject* parent)
-    : QAbstractTableModel(parent), columns_(std::move(columns)) {}
 
 void ListRows::Set(std::vector<ListRow> rows) {
     beginResetModel();
@@ -56,37 +44,22 @@ QString ListRows::Text(int row, int column) const {
 }
 
 void ListRows::SetText(int row, int column, const QString& text) {
+    setData(index(row, column), text, Qt::EditRole);
+}
+
+void ListRows::WriteText(int row, int column, const QString& text) {
     ListRow& cells = rows_.at(row);
     cells.resize(std::max(cells.size(), static_cast<std::size_t>(column) + 1));
     cells[column] = text.toStdString();
-    const QModelIndex cell = index(row, column);
-    emit dataChanged(cell, cell);
-}
-
-int ListRows::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : Count();
-}
-
-int ListRows::columnCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(columns_.size());
-}
-
-QVariant ListRows::data(const QModelIndex& index, int role) const {
-    if (role == Qt::DisplayRole) return Text(index.row(), index.column());
-    if (role != Qt::TextAlignmentRole) return {};
-    return static_cast<int>(columns_.at(index.column()).alignment | Qt::AlignVCenter);
-}
-
-QVariant ListRows::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation != Qt::Horizontal) return {};
-    if (role == Qt::DisplayRole) return columns_.at(section).title;
-    if (role != Qt::TextAlignmentRole) return {};
-    return static_cast<int>(columns_.at(section).alignment | Qt::AlignVCenter);
 }
 
 ListView::ListView(const std::vector<ListColumn>& columns, QWidget* parent)
-    : QTreeView(parent), rows_(new ListRows(columns, this)) {
-    setModel(rows_);
+    : ListView(*new ListRows(columns, nullptr), parent) {
+    model_.setParent(this);
+}
+
+ListView::ListView(ListModel& model, QWidget* parent) : QTreeView(parent), model_(model) {
+    setModel(&model_);
     setUniformRowHeights(true);
     setRootIsDecorated(false);
     setItemsExpandable(false);
@@ -94,22 +67,22 @@ ListView::ListView(const std::vector<ListColumn>& columns, QWidget* parent)
     setAllColumnsShowFocus(true);
     setEditTriggers(NoEditTriggers);
     setSelectionMode(SingleSelection);
-    setItemDelegate(new RowDelegate(this));
+    setItemDelegate(new CellDelegate(this));
     SetUpColumns();
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, &ListView::SelectionMoved);
-    connect(rows_, &QAbstractItemModel::modelReset, this, &ListView::SelectionMoved);
+    connect(&model_, &QAbstractItemModel::modelReset, this, &ListView::SelectionMoved);
 }
 
 void ListView::SetUpColumns() {
     header()->setStretchLastSection(false);
     header()->setSectionsMovable(false);
-    const std::vector<ListColumn>& columns = rows_->Columns();
+    const std::vector<ColumnHead>& columns = model_.Heads();
     for (int column = 0; std::cmp_less(column, columns.size()); ++column) {
         setColumnWidth(column, WidthOf(columns[column]));
     }
 }
 
-int ListView::WidthOf(const ListColumn& column) const {
+int ListView::WidthOf(const ColumnHead& column) const {
     return column.twips * fontMetrics().horizontalAdvance('0') / kTwipsPerDigit;
 }
 
@@ -118,10 +91,31 @@ int ListView::SelectedRow() const {
     return rows.isEmpty() ? -1 : rows.front().row();
 }
 
+void ListView::EnableEditing() {
+    setEditTriggers(DoubleClicked);
+    auto* key = new QShortcut(Qt::Key_F2, this, nullptr, nullptr, Qt::WidgetShortcut);
+    connect(key, &QShortcut::activated, this, &ListView::EditNextCell);
+}
+
+void ListView::EditNextCell() {
+    const int row = SelectedRow();
+    if (row < 0) return;
+    const bool isSameRow = edited_.isValid() && edited_.row() == row;
+    const int column = isSameRow ? (edited_.column() + 1) % model_.columnCount() : 0;
+    setCurrentIndex(model_.index(row, column));
+    edit(currentIndex());
+}
+
+bool ListView::edit(const QModelIndex& cell, EditTrigger trigger, QEvent* event) {
+    const bool isOpen = QTreeView::edit(cell, trigger, event);
+    if (isOpen) edited_ = cell;
+    return isOpen;
+}
+
 /// As wide as all columns, with a scroll bar beside them.
 QSize ListView::sizeHint() const {
     int width = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this) + kGrid;
-    for (const ListColumn& column : rows_->Columns()) width += WidthOf(column);
+    for (const ColumnHead& column : model_.Heads()) width += WidthOf(column);
     const int rowHeight = fontMetrics().height() + kGrid;
     return {width + 2 * frameWidth(),
             header()->sizeHint().height() + kRowsInView * rowHeight + 2 * frameWidth()};
@@ -135,17 +129,17 @@ void ListView::keyPressEvent(QKeyEvent* event) {
 /// The last column takes what room is left, and never less than its own width.
 void ListView::resizeEvent(QResizeEvent* event) {
     QTreeView::resizeEvent(event);
-    const int last = rows_->columnCount() - 1;
+    const int last = model_.columnCount() - 1;
     if (last < 0) return;
     const int left = viewport()->width() - (header()->length() - columnWidth(last));
-    setColumnWidth(last, std::max(left, WidthOf(rows_->Columns()[last])));
+    setColumnWidth(last, std::max(left, WidthOf(model_.Heads()[last])));
 }
 
 void ListView::CopySelectedRow() const {
     const int row = SelectedRow();
     if (row < 0) return;
     QStringList cells;
-    for (int column = 0; column < rows_->columnCount(); ++column) cells << rows_->Text(row, column);
+    for (int column = 0; column < model_.columnCount(); ++column) cells << model_.Text(row, column);
     QGuiApplication::clipboard()->setText(cells.join('\t'));
 }
 

@@ -1,40 +1,29 @@
-// The list of all windows: rows of plain text in columns of a fixed width, one row
-// selected at a time, copied with the clipboard's own keys. It never sorts: rows stand
-// in the order in which they were added. 100,000 rows show at once.
-//
-//     auto* list = new toolkit::ListView({{"Date", 1000}, {"Time", 900, Qt::AlignHCenter}}, this);
-//     list->Rows().Set(std::move(rows));
+// The list of all windows: rows of text in columns of a fixed width, one row selected at a
+// time, copied with the clipboard's own keys. It never sorts. 100,000 rows show at once.
 #pragma once
 
-#include <QAbstractTableModel>
 #include <QTreeView>
 #include <string>
 #include <vector>
 
+#include "toolkit/list_model.h"
+
 namespace tallix::toolkit {
-
-/// The width of a column for which none is told. Widths are in twips of a font whose
-/// digits are 90 wide, and grow with the font of the list.
-inline constexpr int kPlainColumnWidth = 1440;
-
-struct ListColumn {
-    QString title;
-    int twips = kPlainColumnWidth;
-    Qt::Alignment alignment = Qt::AlignLeft;
-};
 
 /// The cells of a row in UTF-8. A row may have fewer cells than the list has columns,
 /// and more, which are then not seen.
 using ListRow = std::vector<std::string>;
+using ListColumn = ColumnHead;
 
-class ListRows : public QAbstractTableModel {
+/// Rows of plain cells. RecordModel takes their place.
+class ListRows : public ListModel {
     Q_OBJECT
 public:
-    ListRows(std::vector<ListColumn> columns, QObject* parent);
+    using ListModel::ListModel;
 
-    const std::vector<ListColumn>& Columns() const { return columns_; }
+    const std::vector<ColumnHead>& Columns() const { return Heads(); }
     const std::vector<ListRow>& All() const { return rows_; }
-    int Count() const { return static_cast<int>(rows_.size()); }
+    int Count() const override { return static_cast<int>(rows_.size()); }
 
     /// Replaces all rows. What was selected is selected no more.
     void Set(std::vector<ListRow> rows);
@@ -42,29 +31,38 @@ public:
     void Remove(int row);
 
     /// A cell's text; empty where the row has no such cell. Setting makes what lacks.
-    QString Text(int row, int column) const;
+    QString Text(int row, int column) const override;
     void SetText(int row, int column, const QString& text);
 
-    int rowCount(const QModelIndex& parent = {}) const override;
-    int columnCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
-    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+protected:
+    bool IsWritable(int) const override { return true; }
+    void WriteText(int row, int column, const QString& text) override;
 
 private:
-    std::vector<ListColumn> columns_;
     std::vector<ListRow> rows_;
 };
 
 class ListView : public QTreeView {
     Q_OBJECT
 public:
+    /// `model` must outlive the list.
+    explicit ListView(ListModel& model, QWidget* parent = nullptr);
+
+    /// With a model of plain rows, Rows().
     explicit ListView(const std::vector<ListColumn>& columns, QWidget* parent = nullptr);
 
-    ListRows& Rows() const { return *rows_; }
+    ListModel& Model() const { return model_; }
+    ListRows& Rows() const { return dynamic_cast<ListRows&>(model_); }
 
     /// The selected row; -1 where there is none.
     int SelectedRow() const;
 
+    /// Lets a person edit cells in place: a double click opens a cell, with all of its text
+    /// selected, and F2 the cells of the selected row in turn. Enter, or going elsewhere,
+    /// writes the text to the model. There is no other way out: Escape does not cancel.
+    void EnableEditing();
+
+    using QTreeView::edit;
     QSize sizeHint() const override;
 
 signals:
@@ -72,15 +70,18 @@ signals:
     void SelectionMoved();
 
 protected:
+    bool edit(const QModelIndex& cell, EditTrigger trigger, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    int WidthOf(const ListColumn& column) const;
+    int WidthOf(const ColumnHead& column) const;
     void SetUpColumns();
     void CopySelectedRow() const;
+    void EditNextCell();
 
-    ListRows* rows_;
+    ListModel& model_;
+    QPersistentModelIndex edited_;  ///< the cell that was edited last
 };
 
 }  // namespace tallix::toolkit

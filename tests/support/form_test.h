@@ -99,7 +99,21 @@ protected:
     void SelectRow(int row, const QString& list = {}) {
         List(list).setCurrentIndex(List(list).model()->index(row, 0));
     }
-    const std::vector<toolkit::ListRow>& Rows(const QString& list = {}) { return List(list).Rows().All(); }
+
+    /// The texts of a list, row by row.
+    std::vector<std::vector<std::string>> Rows(const QString& list = {}) {
+        const toolkit::ListModel& model = List(list).Model();
+        std::vector<std::vector<std::string>> rows(model.Count());
+        for (int row = 0; row < model.Count(); ++row) {
+            for (int column = 0; column < model.columnCount(); ++column) {
+                rows[row].push_back(model.Text(row, column).toStdString());
+            }
+        }
+        return rows;
+    }
+    void SetCell(int row, int column, const QString& text) {
+        List().model()->setData(List().model()->index(row, column), text);
+    }
 
     const Message& LastMessage() const { return world.prompts.messages.back(); }
 

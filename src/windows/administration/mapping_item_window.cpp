@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "toolkit/style.h"
+#include "toolkit/text.h"
 
 namespace tallix {
 namespace {
@@ -23,10 +24,6 @@ const LampLook& LookOf(LampState state) {
     static constexpr LampLook looks[] = {
         {qRgb(255, 0, 0), "not mapped"}, {qRgb(255, 255, 0), "being mapped"}, {qRgb(0, 255, 0), "mapped"}};
     return looks[static_cast<std::size_t>(state)];
-}
-
-QString Text(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
 QLineEdit* PositionBox(const QString& name, QWidget& window) {
@@ -65,10 +62,10 @@ void Lamp::paintEvent(QPaintEvent*) {
 MappingItemRow::MappingItemRow(const MappingItem& item, QWidget& window, QGridLayout& grid, int row,
                                int column)
     : QObject(&window),
-      lamp_(new Lamp(Text(item.label), &window)),
-      name_(new QPushButton(Text(item.label), &window)),
-      start_(PositionBox(Text(item.label) + " first character", window)),
-      finish_(PositionBox(Text(item.label) + " last character", window)) {
+      lamp_(new Lamp(toolkit::ToQString(item.label), &window)),
+      name_(new QPushButton(toolkit::ToQString(item.label), &window)),
+      start_(PositionBox(toolkit::ToQString(item.label) + " first character", window)),
+      finish_(PositionBox(toolkit::ToQString(item.label) + " last character", window)) {
     MakeName();
     grid.addWidget(lamp_, row, column);
     grid.addWidget(name_, row, column + 1, Qt::AlignLeft | Qt::AlignVCenter);
@@ -94,8 +91,8 @@ Positions MappingItemRow::Shown() const {
 }
 
 void MappingItemRow::Show(const Positions& positions) {
-    start_->setText(Text(positions.start));
-    finish_->setText(Text(positions.finish));
+    start_->setText(toolkit::ToQString(positions.start));
+    finish_->setText(toolkit::ToQString(positions.finish));
     lamp_->SetState(positions.start.empty() ? LampState::NotMapped : LampState::Mapped);
 }
 

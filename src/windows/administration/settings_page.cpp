@@ -9,6 +9,7 @@
 #include <QRadioButton>
 
 #include "toolkit/style.h"
+#include "toolkit/text.h"
 
 namespace tallix {
 namespace {
@@ -17,10 +18,6 @@ constexpr char kPerformanceText[] = "Indicates this could impact on system perfo
 constexpr int kLabelWidth = 20 * toolkit::kGrid;
 constexpr int kListWidth = 16 * toolkit::kGrid;
 constexpr char kStored[] = "stored";  ///< the stored text of a radio button
-
-QString Text(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 QWidget* SideBySide(QWidget* first, QWidget* second) {
     auto* both = new QWidget;
@@ -77,7 +74,7 @@ QWidget* SettingsPage::MakeField(const OptionSetting& setting) {
 QWidget* SettingsPage::MakeList(const OptionSetting& setting) {
     auto* list = new QComboBox;
     list->setMinimumWidth(kListWidth);
-    for (const SettingChoice& choice : setting.choices) list->addItem(Text(choice.stored));
+    for (const SettingChoice& choice : setting.choices) list->addItem(toolkit::ToQString(choice.stored));
     const auto show = [list](const QString& stored) {
         if (!stored.isEmpty() && list->findText(stored) < 0) list->addItem(stored);
         list->setCurrentIndex(list->findText(stored));
@@ -94,8 +91,8 @@ QList<QRadioButton*> SettingsPage::AddOptions(QFormLayout& panel, std::string_vi
     auto* group = new QButtonGroup(this);
     QList<QRadioButton*> options;
     for (const SettingChoice& choice : setting.choices) {
-        auto* option = new QRadioButton(Text(choice.label));
-        option->setProperty(kStored, Text(choice.stored));
+        auto* option = new QRadioButton(toolkit::ToQString(choice.label));
+        option->setProperty(kStored, toolkit::ToQString(choice.stored));
         group->addButton(option);
         row->addWidget(option);
         options.append(option);
@@ -111,9 +108,9 @@ QList<QRadioButton*> SettingsPage::AddOptions(QFormLayout& panel, std::string_vi
 }
 
 QWidget* SettingsPage::MakeSwitch(const OptionSetting& setting) {
-    auto* box = new QCheckBox(Text(setting.label));
-    const QString off = Text(setting.choices.front().stored);
-    const QString on = Text(setting.choices.back().stored);
+    auto* box = new QCheckBox(toolkit::ToQString(setting.label));
+    const QString off = toolkit::ToQString(setting.choices.front().stored);
+    const QString on = toolkit::ToQString(setting.choices.back().stored);
     Bind(setting.key, {[box, on](const QString& stored) { box->setChecked(stored == on); },
                        [box, on, off] { return box->isChecked() ? on : off; }});
     return box;
@@ -134,14 +131,14 @@ QWidget& SettingsPage::AddSetting(QFormLayout& panel, std::string_view key, QWid
     const OptionSetting& setting = SettingOf(key);
     QWidget* control = MakeControl(setting);
     controls_[setting.key] = control;
-    control->setObjectName(Text(setting.key));
-    control->setAccessibleName(Text(setting.label));  // also where a button shares its row
+    control->setObjectName(toolkit::ToQString(setting.key));
+    control->setAccessibleName(toolkit::ToQString(setting.label));  // also where a button shares its row
     QWidget* row = behind == nullptr ? control : SideBySide(control, behind);
     if (setting.kind == SettingKind::Switch) {
         panel.addRow(row);
         return *control;
     }
-    auto* label = new QLabel(Text(setting.label));
+    auto* label = new QLabel(toolkit::ToQString(setting.label));
     control->ensurePolished();
     label->setMinimumSize(kLabelWidth, control->sizeHint().height());  // in the middle of its row
     label->setBuddy(control);
@@ -165,10 +162,10 @@ void SettingsPage::GoWithSwitch(const OptionSetting& setting, QWidget* control, 
 
 void SettingsPage::AddCommandPanel(const CommandFile& file) {
     auto* box = new QPlainTextEdit;
-    box->setAccessibleName(Text(file.label));
+    box->setAccessibleName(toolkit::ToQString(file.label));
     box->setTabChangesFocus(true);
     box->setLineWrapMode(QPlainTextEdit::NoWrap);
-    AddPanel(Text(file.label), 1).addRow(box);
+    AddPanel(toolkit::ToQString(file.label), 1).addRow(box);
     const auto take = [box] { return box->toPlainText().replace('\n', "\r\n"); };
     Bind(file.name, {[box](const QString& text) { box->setPlainText(text); }, take});
 }

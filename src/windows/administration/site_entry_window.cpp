@@ -5,15 +5,12 @@
 #include <QLabel>
 
 #include "toolkit/style.h"
+#include "toolkit/text.h"
 
 namespace tallix {
 namespace {
 
 constexpr int kInputWidth = 28 * toolkit::kGrid;
-
-QString Text(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 }  // namespace
 
@@ -23,7 +20,8 @@ SiteEntryPanel::SiteEntryPanel(QWidget& window)
       mapping_(new QComboBox),
       thirdPartySystem_(new QComboBox) {
     mapping_->setEditable(true);
-    for (const NamedCode& system : kThirdPartySystems) thirdPartySystem_->addItem(Text(system.name));
+    for (const NamedCode& system : kThirdPartySystems)
+        thirdPartySystem_->addItem(toolkit::ToQString(system.name));
     auto* columns = new QHBoxLayout;
     columns->setSpacing(toolkit::kMargin);
     columns->addLayout(PlaceColumn());
@@ -96,13 +94,13 @@ void SiteEntryPanel::OpenFor(const SiteRecord& site, const std::vector<std::stri
     id_ = site.id;
     leftOutIp_.clear();
     leftOutPort_.clear();
-    for (const auto& [field, value] : texts_) field->setText(Text(site.*value));
+    for (const auto& [field, value] : texts_) field->setText(toolkit::ToQString(site.*value));
     ShowWhetherIncluded();
     mapping_->clear();
-    for (const NamedCode& mapping : kBuiltInMappings) mapping_->addItem(Text(mapping.name));
-    for (const std::string& name : customMappings) mapping_->addItem(Text(name));
-    mapping_->setCurrentText(Text(site.switchMapping));
-    thirdPartySystem_->setCurrentText(Text(ThirdPartySystem(site.thirdPartyDatabase)));
+    for (const NamedCode& mapping : kBuiltInMappings) mapping_->addItem(toolkit::ToQString(mapping.name));
+    for (const std::string& name : customMappings) mapping_->addItem(toolkit::ToQString(name));
+    mapping_->setCurrentText(toolkit::ToQString(site.switchMapping));
+    thirdPartySystem_->setCurrentText(toolkit::ToQString(ThirdPartySystem(site.thirdPartyDatabase)));
     Open("Site Data");
 }
 

@@ -6,7 +6,6 @@
 
 #include "costing/cost_map.h"
 #include "toolkit/dialog_keys.h"
-#include "toolkit/label_edit.h"
 #include "toolkit/style.h"
 
 namespace tallix {
@@ -49,7 +48,7 @@ QWidget* CallCostMapWindow::MapFrame() {
     list_->setObjectName("CostMap");
     list_->setAccessibleName(frame->title());
     list_->setMinimumHeight(kListHeight);
-    new toolkit::LabelEdit(*list_, *this);
+    list_->EnableEditing();
     auto* inside = new QVBoxLayout(frame);
     inside->setContentsMargins(toolkit::kSpacing, toolkit::kSpacing, toolkit::kSpacing, toolkit::kSpacing);
     inside->addWidget(list_);

@@ -9,7 +9,7 @@
 #include "toolkit/dialog_keys.h"
 #include "toolkit/form_names.h"
 #include "toolkit/forms.h"
-#include "toolkit/label_edit.h"
+#include "toolkit/label.h"
 #include "toolkit/style.h"
 
 namespace tallix {
@@ -29,12 +29,6 @@ constexpr char kImported[] =
 
 const FileQuestion kCostingsFile = {"Select Costings File", "Tallix Costings File", "*.costing"};
 
-QLabel* LabelOf(QWidget* input, const QString& text) {
-    auto* label = new QLabel(text);
-    label->setBuddy(input);
-    return label;
-}
-
 }  // namespace
 
 CallCostingsWindow::CallCostingsWindow(toolkit::Forms& forms, Application& application)
@@ -53,7 +47,7 @@ CallCostingsWindow::CallCostingsWindow(toolkit::Forms& forms, Application& appli
     list_->setObjectName("Tariff");
     list_->setAccessibleName("Tariff");
     list_->setMinimumHeight(kListHeight);
-    new toolkit::LabelEdit(*list_, *this);
+    list_->EnableEditing();
     auto* rows = new QVBoxLayout(this);
     rows->setContentsMargins(toolkit::kMargin, toolkit::kMargin, toolkit::kMargin, toolkit::kMargin);
     rows->setSpacing(toolkit::kSpacing * 2);
@@ -70,7 +64,7 @@ QLayout* CallCostingsWindow::StandardRow() {
     standardCost_->setFixedWidth(kCostWidth);
     auto* row = new QHBoxLayout;
     row->setSpacing(toolkit::kSpacing);
-    row->addWidget(LabelOf(standardCost_, "Standard Cost:"));
+    row->addWidget(toolkit::LabelOf("Standard Cost:", standardCost_));
     row->addWidget(standardCost_);
     row->addSpacing(toolkit::kMargin);
     row->addWidget(perMinute_);
@@ -86,9 +80,9 @@ QLayout* CallCostingsWindow::EntryRow() {
     }
     auto* row = new QHBoxLayout;
     row->setSpacing(toolkit::kSpacing);
-    row->addWidget(LabelOf(number_, "Number:"));
+    row->addWidget(toolkit::LabelOf("Number:", number_));
     row->addWidget(number_, 1);
-    row->addWidget(LabelOf(cost_, "Cost:"));
+    row->addWidget(toolkit::LabelOf("Cost:", cost_));
     row->addWidget(cost_);
     auto* add = Button("Add", &CallCostingsWindow::Add);
     auto* remove = Button("Delete", &CallCostingsWindow::Delete);

@@ -3,7 +3,6 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QMouseEvent>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -12,7 +11,9 @@
 #include "session/access_rights.h"
 #include "toolkit/button_row.h"
 #include "toolkit/dialog_keys.h"
+#include "toolkit/label.h"
 #include "toolkit/style.h"
+#include "toolkit/text.h"
 
 namespace tallix {
 namespace {
@@ -28,27 +29,6 @@ constexpr char kFirstName[] = "New Report 1";
 // what does not, is known by now.
 constexpr char kEditorFile[] = "\\Reports\\rpt.csv";
 
-/// A date field whose double click brings its calendar button to life.
-class DateField : public QLineEdit {
-public:
-    explicit DateField(QPushButton& calendar) : calendar_(calendar) {}
-
-protected:
-    void mouseDoubleClickEvent(QMouseEvent* event) override {
-        calendar_.setEnabled(true);
-        QLineEdit::mouseDoubleClickEvent(event);
-    }
-
-private:
-    QPushButton& calendar_;
-};
-
-QLabel* LabelOf(QWidget* input, const QString& text) {
-    auto* label = new QLabel(text);
-    label->setBuddy(input);
-    return label;
-}
-
 QVBoxLayout* Column() {
     auto* column = new QVBoxLayout;
     column->setSpacing(toolkit::kSpacing);
@@ -62,7 +42,7 @@ CustomReportsWindow::CustomReportsWindow(toolkit::Forms& forms, Application& app
     : ReportRunWindow(forms, "Tallix Reports Tool - Custom Reports", application, printers),
       reports_(new QListWidget),
       name_(new QLineEdit),
-      nameLabel_(LabelOf(name_, "Report Name:")),
+      nameLabel_(toolkit::LabelOf("Report Name:", name_)),
       fields_(new QListWidget),
       data_(new QGroupBox("Data")),
       account_(new QLineEdit),
@@ -70,14 +50,13 @@ CustomReportsWindow::CustomReportsWindow(toolkit::Forms& forms, Application& app
       greater_(new QRadioButton("Greater Than")),
       less_(new QRadioButton("Less Than")),
       neither_(new QRadioButton(data_)),
-      start_(MakeDateInput("Start Date")),
-      end_(MakeDateInput("End Date")),
+      start_(new toolkit::DateInput("Start Date", application.clock, toolkit::DateBox::EnablesCalendar)),
+      end_(new toolkit::DateInput("End Date", application.clock, toolkit::DateBox::EnablesCalendar)),
       extension_(new QLineEdit),
       delete_(new QPushButton("Delete Report")),
       save_(new QPushButton("Save Report")),
       run_(new QPushButton("Run Report")),
-      cancel_(new QPushButton("Cancel")),
-      calendar_(new toolkit::CalendarPanel(this)) {
+      cancel_(new QPushButton("Cancel")) {
     auto* columns = new QHBoxLayout;
     columns->setSpacing(toolkit::kMargin);
     columns->addLayout(ReportColumn());
@@ -95,7 +74,7 @@ CustomReportsWindow::CustomReportsWindow(toolkit::Forms& forms, Application& app
 
 QLayout* CustomReportsWindow::ReportColumn() {
     auto* column = Column();
-    column->addWidget(LabelOf(reports_, "Available Reports"));
+    column->addWidget(toolkit::LabelOf("Available Reports", reports_));
     column->addWidget(reports_, 1);
     reports_->setAccessibleName("Available Reports");
     reports_->setFixedWidth(kListWidth);
@@ -107,7 +86,7 @@ QLayout* CustomReportsWindow::FieldColumn() {
     column->addWidget(nameLabel_);
     column->addWidget(name_);
     column->addSpacing(toolkit::kSpacing);
-    column->addWidget(LabelOf(fields_, "Select data you wish to show"));
+    column->addWidget(toolkit::LabelOf("Select data you wish to show", fields_));
     column->addWidget(fields_, 1);
     fields_->setAccessibleName("Select data you wish to show");
     for (QListWidget* list : {reports_, fields_}) list->setSpacing(toolkit::kGrid / 4);
@@ -147,29 +126,19 @@ QWidget* CustomReportsWindow::DataFrame() {
         int column = 0;
         for (QWidget* widget : widgets) grid->addWidget(widget, row, column++);
     };
-    add(0, {LabelOf(account_, "Account Code:"), account_});
-    add(1, {LabelOf(duration_, "Duration:"), duration_, greater_, less_});
-    add(2, {start_.box, start_.field, start_.calendar});
-    add(3, {end_.box, end_.field, end_.calendar});
-    add(4, {LabelOf(extension_, "Extension:"), extension_});
-    for (QLineEdit* field : {account_, duration_, start_.field, end_.field, extension_}) {
+    add(0, {toolkit::LabelOf("Account Code:", account_), account_});
+    add(1, {toolkit::LabelOf("Duration:", duration_), duration_, greater_, less_});
+    for (int row = 2; toolkit::DateInput * date : {start_, end_}) {
+        grid->addWidget(&date->Box(), row, 0);
+        grid->addWidget(date, row++, 1, 1, 3);
+    }
+    add(4, {toolkit::LabelOf("Extension:", extension_), extension_});
+    for (QLineEdit* field : {account_, duration_, extension_}) {
         field->setFixedWidth(kFieldWidth);
     }
     grid->setColumnStretch(4, 1);
     duration_->setToolTip("Enter a duration (eg 00:01:00)");
     return data_;
-}
-
-CustomReportsWindow::DateInput CustomReportsWindow::MakeDateInput(const QString& caption) {
-    auto* calendar = new QPushButton("...");
-    const DateInput input = {new QCheckBox(caption), new DateField(*calendar), calendar};
-    input.field->setAccessibleName(caption);
-    calendar->setToolTip("Show calendar");
-    calendar->setMaximumWidth(calendar->sizeHint().width());
-    calendar->setEnabled(false);
-    connect(input.box, &QCheckBox::toggled, calendar, &QWidget::setEnabled);
-    connect(calendar, &QPushButton::clicked, this, [this, input] { OpenCalendar(input); });
-    return input;
 }
 
 QLayout* CustomReportsWindow::ButtonRow() {
@@ -186,10 +155,6 @@ void CustomReportsWindow::ConnectInputs() {
     connect(save_, &QPushButton::clicked, this, &CustomReportsWindow::Save);
     connect(run_, &QPushButton::clicked, this, &CustomReportsWindow::RunReport);
     connect(cancel_, &QPushButton::clicked, this, &QWidget::close);
-    connect(calendar_, &toolkit::CalendarPanel::DayClicked, this, [this](const QDate& day) {
-        asking_.field->setText(QString::fromStdString(ShortDate({day.year(), day.month(), day.day()})));
-        asking_.box->setChecked(true);
-    });
 }
 
 void CustomReportsWindow::OnLoad() {
@@ -201,7 +166,7 @@ void CustomReportsWindow::OnLoad() {
     }
     // The right of call cost mappings opens new reports; the one named for it asks nobody.
     if (Allows(session.CurrentAccess, AccessRight::CallCostMappings)) reports_->addItem(kNewReport);
-    reports_->addItems(Texts(ListReports(CustomReportsFolder(session.ReportsLocation))));
+    reports_->addItems(toolkit::ToQStringList(ListReports(CustomReportsFolder(session.ReportsLocation))));
     FillFields();
     FillOutput();
     ApplyRights();
@@ -257,9 +222,9 @@ void CustomReportsWindow::Show(const CustomReport& report) {
     account_->setText(QString::fromStdString(report.account));
     duration_->setText(QString::fromStdString(report.duration));
     (report.greater ? greater_ : report.less ? less_ : neither_)->setChecked(true);
-    start_.field->setText(QString::fromStdString(report.startDate));
-    end_.field->setText(QString::fromStdString(report.endDate));
-    for (const DateInput& date : {start_, end_}) date.box->setChecked(!date.field->text().isEmpty());
+    start_->SetText(report.startDate);
+    end_->SetText(report.endDate);
+    for (const toolkit::DateInput* date : {start_, end_}) date->Box().setChecked(!date->Text().empty());
     extension_->setText(QString::fromStdString(report.extension));
     Output().Choose(report.destination, report.application);
 }
@@ -270,8 +235,8 @@ CustomReport CustomReportsWindow::Described() const {
                            .duration = TextOf(*duration_),
                            .greater = greater_->isChecked(),
                            .less = less_->isChecked(),
-                           .startDate = TextOf(*start_.field),
-                           .endDate = TextOf(*end_.field),
+                           .startDate = start_->Text(),
+                           .endDate = end_->Text(),
                            .extension = TextOf(*extension_),
                            .destination = choice.destination,
                            .application = choice.application};
@@ -279,12 +244,6 @@ CustomReport CustomReportsWindow::Described() const {
         report.shown.at(i) = fields_->item(static_cast<int>(i))->checkState() == Qt::Checked;
     }
     return report;
-}
-
-void CustomReportsWindow::OpenCalendar(const DateInput& asking) {
-    asking_ = asking;
-    const DateTime now = Program().clock.Now();
-    calendar_->Open(QDate(now.year, now.month, now.day), *asking.field);
 }
 
 void CustomReportsWindow::Save() {

@@ -3,14 +3,13 @@
 // with those it was kept with.
 #pragma once
 
-#include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 
 #include "reporting/custom_reports.h"
-#include "toolkit/calendar_panel.h"
+#include "toolkit/date_input.h"
 #include "windows/reporting/report_run_window.h"
 
 namespace tallix {
@@ -26,18 +25,11 @@ protected:
     Message NoDataMessage() const override;
 
 private:
-    struct DateInput {
-        QCheckBox* box;
-        QLineEdit* field;
-        QPushButton* calendar;
-    };
-
     QLayout* ReportColumn();
     QLayout* FieldColumn();
     QLayout* FilterColumn();
     QLayout* ButtonRow();
     QWidget* DataFrame();
-    DateInput MakeDateInput(const QString& caption);
     void ConnectInputs();
     void FillFields();
     void ApplyRights();
@@ -47,7 +39,6 @@ private:
     void OpenReport(const QString& name);
     void Show(const CustomReport& report);
     CustomReport Described() const;
-    void OpenCalendar(const DateInput& asking);
     void Save();
     void RunReport();
 
@@ -61,15 +52,13 @@ private:
     QRadioButton* greater_;
     QRadioButton* less_;
     QRadioButton* neither_;  ///< never seen: chosen while neither of the two is
-    DateInput start_;
-    DateInput end_;
+    toolkit::DateInput* start_;
+    toolkit::DateInput* end_;
     QLineEdit* extension_;
     QPushButton* delete_;
     QPushButton* save_;
     QPushButton* run_;
     QPushButton* cancel_;
-    toolkit::CalendarPanel* calendar_;
-    DateInput asking_{};   ///< the date that the calendar is asked for
     CustomReport report_;  ///< of the latest run
 };
 

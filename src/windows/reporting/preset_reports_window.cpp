@@ -9,6 +9,7 @@
 #include "toolkit/choice_lists.h"
 #include "toolkit/dialog_keys.h"
 #include "toolkit/style.h"
+#include "toolkit/text.h"
 
 namespace tallix {
 namespace {
@@ -24,6 +25,8 @@ PresetReportsWindow::PresetReportsWindow(toolkit::Forms& forms, Application& app
       flags_(flags),
       reports_(new QListView),
       reportNames_(new QStringListModel(this)),
+      start_(new toolkit::DateInput("Start Date", application.clock, toolkit::DateBox::FollowsText)),
+      end_(new toolkit::DateInput("End Date", application.clock, toolkit::DateBox::FollowsText)),
       timeFrom_(toolkit::MakeTimeList()),
       timeTo_(toolkit::MakeTimeList()),
       extension_(new QLineEdit),
@@ -35,8 +38,7 @@ PresetReportsWindow::PresetReportsWindow(toolkit::Forms& forms, Application& app
       lessThan_(new QRadioButton("Less Than")),
       graph_(new QCheckBox("GRAPH", this)),
       run_(new QPushButton("Run Report")),
-      cancel_(new QPushButton("Cancel")),
-      calendar_(new toolkit::CalendarPanel(this)) {
+      cancel_(new QPushButton("Cancel")) {
     graph_->hide();
     auto* columns = new QHBoxLayout(Content());
     columns->setContentsMargins(toolkit::kMargin, toolkit::kMargin, toolkit::kMargin, toolkit::kMargin);
@@ -115,23 +117,12 @@ void PresetReportsWindow::AddRow(QGridLayout& grid, Input input, const QString& 
 
 // One label for both; each date has its box for a name.
 void PresetReportsWindow::AddDateRows(QGridLayout& grid) {
-    start_ = MakeDateInput("Start Date");
-    end_ = MakeDateInput("End Date");
-    AddRow(grid, Input::Date, "Date:", {start_.box, start_.field, start_.calendar});
-    AddRow(grid, Input::Date, "", {end_.box, end_.field, end_.calendar});
-    const int boxWidth = std::max(start_.box->sizeHint().width(), end_.box->sizeHint().width());
-    for (QCheckBox* box : {start_.box, end_.box}) box->setFixedWidth(boxWidth);
-}
-
-PresetReportsWindow::DateInput PresetReportsWindow::MakeDateInput(const QString& caption) {
-    const DateInput input = {new QCheckBox(caption), new QLineEdit, new QPushButton("...")};
-    input.field->setAccessibleName(caption);
-    input.field->setFixedWidth(kFieldWidth);
-    input.calendar->setToolTip("Show calendar");
-    connect(input.field, &QLineEdit::textChanged, input.box,
-            [box = input.box](const QString& text) { box->setChecked(!text.isEmpty()); });
-    connect(input.calendar, &QPushButton::clicked, this, [this, input] { OpenCalendar(input); });
-    return input;
+    QCheckBox& start = start_->Box();
+    QCheckBox& end = end_->Box();
+    AddRow(grid, Input::Date, "Date:", {&start, start_});
+    AddRow(grid, Input::Date, "", {&end, end_});
+    const int boxWidth = std::max(start.sizeHint().width(), end.sizeHint().width());
+    for (QCheckBox* box : {&start, &end}) box->setFixedWidth(boxWidth);
 }
 
 void PresetReportsWindow::NameInputs() {
@@ -150,7 +141,6 @@ void PresetReportsWindow::ConnectInputs() {
     connect(reports_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &PresetReportsWindow::SelectReport);
     connect(reports_, &QListView::clicked, this, &PresetReportsWindow::SelectReport);
-    connect(calendar_, &toolkit::CalendarPanel::DayClicked, this, &PresetReportsWindow::TakeDay);
     connect(run_, &QPushButton::clicked, this, &PresetReportsWindow::RunReport);
     connect(cancel_, &QPushButton::clicked, this, &QWidget::close);
 }
@@ -163,9 +153,9 @@ void PresetReportsWindow::OnLoad() {
 
 void PresetReportsWindow::FillLists() {
     const PresetChoices choices = ReadPresetChoices(Program());
-    reportNames_->setStringList(Texts(choices.reports));
-    site_->addItems(Texts(choices.sites));
-    group_->addItems(Texts(choices.groups));
+    reportNames_->setStringList(toolkit::ToQStringList(choices.reports));
+    site_->addItems(toolkit::ToQStringList(choices.sites));
+    group_->addItems(toolkit::ToQStringList(choices.groups));
     FillOutput();
 }
 
@@ -182,18 +172,6 @@ void PresetReportsWindow::EnableInputs(const EnabledInputs& enabled) {
     }
 }
 
-void PresetReportsWindow::OpenCalendar(const DateInput& asking) {
-    asking_ = asking;
-    const DateTime now = Program().clock.Now();
-    calendar_->Open(QDate(now.year, now.month, now.day), *asking.field);
-}
-
-// The box is ticked even where the field held this very day.
-void PresetReportsWindow::TakeDay(const QDate& day) {
-    asking_.field->setText(QString::fromStdString(ShortDate({day.year(), day.month(), day.day()})));
-    asking_.box->setChecked(true);
-}
-
 RunDescription PresetReportsWindow::Describe() const {
     const QModelIndex selected = reports_->selectionModel()->selectedIndexes().value(0);
     const std::string name = selected.data().toString().toStdString();
@@ -203,8 +181,8 @@ RunDescription PresetReportsWindow::Describe() const {
                        .account = TextOf(*account_),
                        .site = TextOf(*site_),
                        .group = TextOf(*group_),
-                       .startDate = TextOf(*start_.field),
-                       .endDate = TextOf(*end_.field),
+                       .startDate = start_->Text(),
+                       .endDate = end_->Text(),
                        .timeFrom = TextOf(*timeFrom_),
                        .timeTo = TextOf(*timeTo_)},
             .commaText = Output().Choice().destination == Destination::InExternalApplication,

@@ -17,7 +17,7 @@
 
 #include "reporting/catalogue.h"
 #include "reporting/preset_request.h"
-#include "toolkit/calendar_panel.h"
+#include "toolkit/date_input.h"
 #include "windows/reporting/report_run_window.h"
 
 namespace tallix {
@@ -35,18 +35,11 @@ protected:
     Message NoDataMessage() const override { return tallix::NoDataMessage(); }
 
 private:
-    struct DateInput {
-        QCheckBox* box;
-        QLineEdit* field;
-        QPushButton* calendar;
-    };
-
     QWidget* ReportColumn();
     QLayout* FilterColumn();
     QGridLayout* FilterGrid();
     void AddRow(QGridLayout& grid, Input input, const QString& caption, const std::vector<QWidget*>& inputs);
     void AddDateRows(QGridLayout& grid);
-    DateInput MakeDateInput(const QString& caption);
     void NameInputs();
     QLayout* ButtonRow();
     void ConnectInputs();
@@ -54,8 +47,6 @@ private:
 
     void SelectReport();
     void EnableInputs(const EnabledInputs& enabled);
-    void OpenCalendar(const DateInput& asking);
-    void TakeDay(const QDate& day);
 
     void RunReport() { Run(Describe(), flags_, Output().Choice()); }
     RunDescription Describe() const;
@@ -65,8 +56,8 @@ private:
     QStringListModel* reportNames_;
     std::array<std::vector<QWidget*>, kInputs> inputs_;  ///< labels included
     EnabledInputs enabled_;
-    DateInput start_{};
-    DateInput end_{};
+    toolkit::DateInput* start_;
+    toolkit::DateInput* end_;
     QComboBox* timeFrom_;
     QComboBox* timeTo_;
     QLineEdit* extension_;
@@ -80,8 +71,6 @@ private:
 
     QPushButton* run_;
     QPushButton* cancel_;
-    toolkit::CalendarPanel* calendar_;
-    DateInput asking_{};  ///< the date that the calendar is asked for
 };
 
 }  // namespace tallix

@@ -10,6 +10,7 @@
 #include "toolkit/forms.h"
 #include "toolkit/main_menu_form.h"
 #include "toolkit/style.h"
+#include "toolkit/text.h"
 #include "windows/reporting/destinations_window.h"
 
 namespace tallix {
@@ -50,8 +51,8 @@ OutputFrame::OutputFrame()
 
 // No printer and no application is chosen before the person does it.
 void OutputFrame::Fill(const toolkit::Printers& printers, const SettingsStore& settings) {
-    printers_->addItems(Texts(printers.Names()));
-    applications_->addItems(Texts(ExternalApplications(settings)));
+    printers_->addItems(toolkit::ToQStringList(printers.Names()));
+    applications_->addItems(toolkit::ToQStringList(ExternalApplications(settings)));
     for (QComboBox* list : {printers_, applications_}) list->setCurrentIndex(-1);
 }
 

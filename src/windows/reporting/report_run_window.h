@@ -82,7 +82,6 @@ private:
     bool running_ = false;
 };
 
-using toolkit::Texts;
 std::string TextOf(const QComboBox& list);
 std::string TextOf(const QLineEdit& field);
 

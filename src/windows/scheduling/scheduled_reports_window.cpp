@@ -10,7 +10,9 @@
 #include "toolkit/form_names.h"
 #include "toolkit/forms.h"
 #include "toolkit/held_open.h"
+#include "toolkit/label.h"
 #include "toolkit/style.h"
+#include "toolkit/text.h"
 
 namespace tallix {
 namespace {
@@ -29,22 +31,11 @@ struct FrequencyRow {
 constexpr std::array<FrequencyRow, kFrequencies.size()> kIntervals = {
     {{"Hour Interval:", 23}, {"Day Interval:", 365}, {"Weekly Interval:", 52}, {"Monthly Interval:", 12}}};
 
-QString Text(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 QComboBox* IntervalList(int last) {
     auto* list = new QComboBox;
     for (int interval = 1; interval <= last; ++interval) list->addItem(QString::number(interval));
     list->setFixedWidth(kIntervalWidth);
     return list;
-}
-
-QLabel* LabelOf(const QString& caption, QWidget* input) {
-    auto* label = new QLabel(caption);
-    label->setBuddy(input);
-    input->setAccessibleName(caption);  // a list would go by what is chosen
-    return label;
 }
 
 QGridLayout* Grid() {
@@ -97,9 +88,9 @@ ScheduledReportsWindow::ScheduledReportsWindow(toolkit::Forms& forms, Applicatio
 
 QLayout* ScheduledReportsWindow::NameRows() {
     auto* grid = Grid();
-    grid->addWidget(LabelOf("Task Name:", name_), 0, 0);
+    grid->addWidget(toolkit::LabelOf("Task Name:", name_), 0, 0);
     grid->addWidget(name_, 0, 1);
-    grid->addWidget(LabelOf("Select Preset Report:", report_), 1, 0);
+    grid->addWidget(toolkit::LabelOf("Select Preset Report:", report_), 1, 0);
     grid->addWidget(report_, 1, 1);
     grid->setColumnStretch(1, 1);
     return grid;
@@ -108,11 +99,11 @@ QLayout* ScheduledReportsWindow::NameRows() {
 QLayout* ScheduledReportsWindow::FrequencyRows() {
     auto* grid = Grid();
     for (int row = 0; row < static_cast<int>(kIntervals.size()); ++row) {
-        auto* option = new QRadioButton(Text(kFrequencies.at(row)));
+        auto* option = new QRadioButton(toolkit::ToQString(kFrequencies.at(row)));
         auto* interval = IntervalList(kIntervals.at(row).last);
         frequencies_->addButton(option, row);
         grid->addWidget(option, row, 0);
-        grid->addWidget(LabelOf(kIntervals.at(row).interval, interval), row, 1);
+        grid->addWidget(toolkit::LabelOf(kIntervals.at(row).interval, interval), row, 1);
         grid->addWidget(interval, row, 2);
     }
     grid->setColumnMinimumWidth(0, kFieldWidth);
@@ -132,7 +123,7 @@ QWidget* ScheduledReportsWindow::OutputFrame() {
     options->addStretch();
     auto* place = new QHBoxLayout;
     place->setSpacing(toolkit::kSpacing * 2);
-    place->addWidget(LabelOf("Location:", location_));
+    place->addWidget(toolkit::LabelOf("Location:", location_));
     place->addWidget(location_, 1);
     place->addWidget(folder);
     auto* rows = new QVBoxLayout(frame);
@@ -161,7 +152,7 @@ void ScheduledReportsWindow::AddParameter(QGridLayout& grid, int row, int column
                                           const QString& caption) {
     auto* field = new QLineEdit;
     field->setFixedWidth(kFieldWidth);
-    auto* label = LabelOf(caption, field);
+    auto* label = toolkit::LabelOf(caption, field);
     grid.addWidget(label, row, column);
     grid.addWidget(field, row, column + 1);
     parameters_.at(static_cast<std::size_t>(parameter)) = {label, field, field};
@@ -172,7 +163,7 @@ void ScheduledReportsWindow::AddTimes(QGridLayout& grid, int row, int column) {
     for (const Parameter parameter : {Parameter::TimeStart, Parameter::TimeFinish}) {
         auto* list = toolkit::MakeTimeList();
         list->setAccessibleName("Time:");
-        if (label == nullptr) grid.addWidget(label = LabelOf("Time:", list), row, column);
+        if (label == nullptr) grid.addWidget(label = toolkit::LabelOf("Time:", list), row, column);
         grid.addWidget(list, row++, column + 1);
         parameters_.at(static_cast<std::size_t>(parameter)) = {label, list->lineEdit(), list};
     }
@@ -184,7 +175,7 @@ QLayout* ScheduledReportsWindow::TaskColumn() {
     tasks_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     tasks_->setFixedWidth(kTasksWidth);
     tasks_->setMinimumHeight(kTasksHeight);
-    auto* label = LabelOf("Current Tasks", tasks_);
+    auto* label = toolkit::LabelOf("Current Tasks", tasks_);
     auto* rows = new QVBoxLayout;
     rows->setSpacing(toolkit::kSpacing);
     rows->addWidget(label);
@@ -213,7 +204,7 @@ void ScheduledReportsWindow::ConnectInputs() {
 }
 
 void ScheduledReportsWindow::OnLoad() {
-    report_->addItems(toolkit::Texts(ListPresetReports(application_)));
+    report_->addItems(toolkit::ToQStringList(ListPresetReports(application_)));
     ListTasks();
     EndDefinition();
 }
@@ -223,7 +214,7 @@ void ScheduledReportsWindow::OnUnload() {
 }
 
 void ScheduledReportsWindow::ListTasks() {
-    taskNames_->setStringList(toolkit::Texts(ListSchedules(application_)));
+    taskNames_->setStringList(toolkit::ToQStringList(ListSchedules(application_)));
     EnableTaskButtons();
 }
 
@@ -250,7 +241,7 @@ void ScheduledReportsWindow::EnableParameters() {
 
 void ScheduledReportsWindow::ChooseFolder() {
     const auto folder = application_.prompts.AskFolder("Select Output Folder");
-    if (folder) location_->setText(Text(folder->string()) + "\\");
+    if (folder) location_->setText(toolkit::ToQString(folder->string()) + "\\");
 }
 
 void ScheduledReportsWindow::BeginDefinition(bool editing) {
@@ -288,7 +279,7 @@ void ScheduledReportsWindow::EditSelected() {
     const ScheduledReport stored = ReadSchedule(application_, name.toStdString());
     if (stored.DeliversToFile()) toFile_->setChecked(true);
     if (stored.output == "Email") byMail_->setChecked(true);
-    location_->setText(Text(stored.outputLocation));
+    location_->setText(toolkit::ToQString(stored.outputLocation));
     name_->setText(name);
     BeginDefinition(true);
 }
@@ -333,7 +324,7 @@ void ScheduledReportsWindow::SaveSchedule() {
         const toolkit::HeldWindow held(*this);
         tallix::SaveSchedule(application_, schedule, editing_);
     }
-    taskNames_->setStringList(taskNames_->stringList() << Text(schedule.name));
+    taskNames_->setStringList(taskNames_->stringList() << toolkit::ToQString(schedule.name));
     EndDefinition();
 }
 

@@ -10,6 +10,7 @@
 #include "toolkit/artwork.h"
 #include "toolkit/forms.h"
 #include "toolkit/style.h"
+#include "toolkit/text.h"
 #include "toolkit/unload_orders.h"
 
 namespace tallix {
@@ -20,10 +21,6 @@ constexpr int kColumns = 3;
 constexpr int kEntryWidth = 22 * toolkit::kGrid;
 constexpr int kMenuWidth = kColumns * kEntryWidth + (kColumns - 1) * 2 * toolkit::kSpacing;
 constexpr int kMenuHeight = 2 * 17 * toolkit::kGrid + 2 * toolkit::kSpacing;
-
-QString ToText(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 }  // namespace
 
@@ -50,10 +47,12 @@ void MainWindow::MakeEntries() {
     for (std::size_t i = 0; i < kMenuEntries.size(); ++i) {
         const MenuEntry& entry = kMenuEntries.at(i);
         const bool hasHoverEffect = entry.right != AccessRight::Export || kind_.exportHasHoverEffect;
-        auto* button = new toolkit::EntryButton(ToText(entry.label), ToText(entry.picture),
-                                                QColor(toolkit::kEntryColours.at(i)), hasHoverEffect, this);
-        button->setToolTip(ToText(entry.tooltip));
-        connect(button, &QPushButton::clicked, this, [this, form = ToText(entry.form)] { Open(form); });
+        auto* button =
+            new toolkit::EntryButton(toolkit::ToQString(entry.label), toolkit::ToQString(entry.picture),
+                                     QColor(toolkit::kEntryColours.at(i)), hasHoverEffect, this);
+        button->setToolTip(toolkit::ToQString(entry.tooltip));
+        connect(button, &QPushButton::clicked, this,
+                [this, form = toolkit::ToQString(entry.form)] { Open(form); });
         entries_.push_back(button);
     }
 }
@@ -160,7 +159,7 @@ void MainWindow::CheckForUpdates() {
 void MainWindow::ShowNotice(const UpdateNotice& notice) {
     notice_ = notice;
     const QColor colour(notice.colour.red, notice.colour.green, notice.colour.blue);
-    noticeLabel_->setText(ToText(notice.text));
+    noticeLabel_->setText(toolkit::ToQString(notice.text));
     noticeLabel_->setStyleSheet(
         QString("color: %1; text-decoration: %2;").arg(colour.name(), notice.newer ? "underline" : "none"));
     noticeLabel_->setFocusPolicy(notice.newer ? Qt::StrongFocus : Qt::NoFocus);

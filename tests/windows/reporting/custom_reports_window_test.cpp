@@ -29,14 +29,14 @@ protected:
     // The button comes to life with its box, and the day brings the box back.
     void PickAsEndDate(const QDate& day) {
         auto& box = Captioned<QCheckBox>("End Date");
-        auto& field = dynamic_cast<QLineEdit&>(*box.nextInFocusChain());
-        auto& button = dynamic_cast<QPushButton&>(*field.nextInFocusChain());
+        auto& date = *Window().findChild<toolkit::DateInput*>("End Date");
+        QPushButton& button = date.CalendarButton();
         EXPECT_TRUE(button.isEnabled());
         button.click();
         box.setChecked(false);
-        auto& panel = *Window().findChild<toolkit::CalendarPanel*>();
+        auto& panel = *date.findChild<toolkit::CalendarPanel*>();
         emit panel.findChild<QCalendarWidget*>()->clicked(day);
-        EXPECT_EQ(field.text().toStdString(), ShortDate({day.year(), day.month(), day.day()}));
+        EXPECT_EQ(date.Text(), ShortDate({day.year(), day.month(), day.day()}));
         EXPECT_TRUE(box.isChecked());
     }
 

@@ -109,7 +109,7 @@ TEST_F(PresetReportsWindowTest, ADateIsTypedOrPicked) {
     QWidget& window = Open();
     Select("All Calls");
     auto& box = Captioned<QCheckBox>("Start Date");
-    auto& field = dynamic_cast<QLineEdit&>(*box.nextInFocusChain());
+    QLineEdit& field = window.findChild<toolkit::DateInput*>("Start Date")->Field();
     QTest::keyClicks(&field, "1");
     EXPECT_TRUE(box.isChecked());
     field.clear();
