@@ -33,17 +33,13 @@ World::World(const EngineAddress& engine, std::uint64_t calls, const std::filesy
         std::ofstream(engine.address.substr(kEmbedded.size()), std::ios::app);
     }
     Session& session = application.session;
-    session.DBType = engine.dbType;
-    session.DBIP = engine.address;
-    session.SQLUser = engine.user;
-    session.SQLPass = engine.password;
-    session.StrQuote = StringQuote(engine.dbType);
+    session.database = {DatabaseKindOf(engine.dbType), engine.address, engine.user, engine.password};
     session.Currency = "£";
     Fill(calls);
 }
 
 ado::ConnectionParts World::Parts() const {
-    return ado::ReadConnectionText(ConnectionText(application.session));
+    return ado::ReadConnectionText(ConnectionText(application.session.database));
 }
 
 void World::Fill(std::uint64_t calls) {

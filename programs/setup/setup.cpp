@@ -32,13 +32,13 @@ public:
     Answer Show(const Message&) override { return Answer::Ok; }
 };
 
+DatabaseAddress AddressOf(const DatabaseChoice& choice) {
+    return {DatabaseKindOf(choice.type), choice.address, choice.user, choice.password};
+}
+
 Session SessionFor(const DatabaseChoice& choice) {
     Session session;
-    session.DBType = choice.type;
-    session.DBIP = choice.address;
-    session.SQLUser = choice.user;
-    session.SQLPass = choice.password;
-    session.StrQuote = StringQuote(choice.type);
+    session.database = AddressOf(choice);
     return session;
 }
 
@@ -47,7 +47,7 @@ Session SessionFor(const DatabaseChoice& choice) {
 class DatabaseFile {
 public:
     explicit DatabaseFile(const DatabaseChoice& choice) {
-        const ado::ConnectionParts parts = ado::ReadConnectionText(ConnectionText(SessionFor(choice)));
+        const ado::ConnectionParts parts = ado::ReadConnectionText(ConnectionText(AddressOf(choice)));
         if (parts.server != ado::Server::Sqlite || parts.file.empty()) return;
         if (std::filesystem::exists(parts.file)) return;
         if (!std::ofstream(parts.file)) {
@@ -73,7 +73,7 @@ private:
 void Reach(Session& session, std::ostream& out) {
     OpenDatabase(session);
     OpenConnection(session).Fetch("SELECT 1 AS Answer");
-    out << fmt::format("Database: {} reached\n", session.DBIP);
+    out << fmt::format("Database: {} reached\n", session.database.server);
 }
 
 void LayDownTables(ado::Connection& connection, const std::filesystem::path& folder, std::ostream& out) {

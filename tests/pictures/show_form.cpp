@@ -15,8 +15,8 @@ namespace {
 
 Session SessionOfAdministrator(const SettingsStore& settings) {
     Session session;
-    session.DBType = settings.Read("DBType");
-    session.DBIP = settings.Read("DBIP");
+    session.database.kind = DatabaseKindOf(settings.Read("DBType"));
+    session.database.server = settings.Read("DBIP");
     session.CurrentUser = "Administrator";
     session.CurrentAccess = std::string(kRights, '1');
     session.UseStatsMain = true;

@@ -13,7 +13,7 @@ class EngineTest : public testing::TestWithParam<const char*> {
 protected:
     const TestEngine& engine_ = EngineNamed(GetParam());
     const std::unique_ptr<ado::Connection> connection_ = FreshDatabase(engine_);
-    TestApplication test_{{engine_.dbType, engine_.address, engine_.user, engine_.password}};
+    TestApplication test_{engine_.Database()};
     Session& session_ = test_.application.session;
 };
 

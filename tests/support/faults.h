@@ -22,7 +22,7 @@ public:
         std::filesystem::permissions(folder_.Path(), std::filesystem::perms(0755));
         RunProgram("/bin/bash", {script_, "start", data_});
         const std::string line = ReadLines(data_ + "/env").at(0);
-        address.DBIP = line.substr(line.find('=') + 1);
+        address.server = line.substr(line.find('=') + 1);
     }
     ~OwnServer() { RunProgram("/bin/bash", {script_, "stop", data_}); }
 
@@ -32,7 +32,7 @@ public:
         while (kill(process, 0) == 0) std::this_thread::sleep_for(std::chrono::milliseconds(20));
     }
 
-    DatabaseAddress address = {"1", "", "Tallix", "norvadat"};
+    DatabaseAddress address = {DatabaseKind::MySql, "", "Tallix", "norvadat"};
 
 private:
     const std::string script_ = SourceFolder() / "scripts/servers.sh";

@@ -17,7 +17,7 @@ namespace {
 
 DatabaseAddress EmbeddedIn(const TempFolder& folder) {
     const std::filesystem::path file = folder.Write("tallix.db", "");
-    return {"1", "sqlite:" + file.string(), "", ""};
+    return {DatabaseKind::MySql, "sqlite:" + file.string(), "", ""};
 }
 
 const TestApplication::Row kCall = {
@@ -94,32 +94,26 @@ TestApplication::TestApplication(const DatabaseAddress& address)
          {"settings", "temp", "ReportsTool/Reports/Standard", "ReportsTool/Company Docs"}) {
         std::filesystem::create_directories(folder_.Path() / name);
     }
-    const DatabaseAddress used = address.DBIP.empty() ? EmbeddedIn(folder_) : address;
     Session& session = application.session;
-    session.DBType = used.DBType;
-    session.DBIP = used.DBIP;
-    session.SQLUser = used.SQLUser;
-    session.SQLPass = used.SQLPass;
-    session.StrQuote = StringQuote(used.DBType);
+    session.database = address.server.empty() ? EmbeddedIn(folder_) : address;
     session.Currency = "£";
     session.CurrentUser = "Ann";
     session.ReportsLocation = application.folder.string();
     session.DocsLocation = application.folder.string() + "\\Company Docs";
-    OpenDatabase(session);
-    LayDownSchema(OpenConnection(session), SourceFolder() / "data" / "schema");
-    CloseDatabase(session);
+    const DatabaseScope database(session.database);
+    LayDownSchema(database.Connection(), SourceFolder() / "data" / "schema");
 }
 
 void TestApplication::Execute(std::string_view statement) {
-    ConnectTo(ConnectionText(application.session))->Execute(statement);
+    ConnectTo(ConnectionText(application.session.database))->Execute(statement);
 }
 
 std::string TestApplication::Rows(std::string_view statement) const {
-    return AllRows(*ConnectTo(ConnectionText(application.session)), statement);
+    return AllRows(*ConnectTo(ConnectionText(application.session.database)), statement);
 }
 
 void TestApplication::Insert(const std::string& table, const Row& row) {
-    const auto connection = ConnectTo(ConnectionText(application.session));
+    const auto connection = ConnectTo(ConnectionText(application.session.database));
     ado::Recordset rows;
     rows.Open("select * from " + table, *connection);
     rows.AddNew();

@@ -21,14 +21,6 @@
 
 namespace tallix::test {
 
-/// How a session reaches its database.
-struct DatabaseAddress {
-    std::string DBType = "1";
-    std::string DBIP;
-    std::string SQLUser;
-    std::string SQLPass;
-};
-
 std::unique_ptr<ado::Connection> ConnectTo(const std::string& connectionText);
 
 /// All rows of a statement, a line each, "|" behind every value, NULL by its name.

@@ -111,14 +111,7 @@ const TestEngine& EngineNamed(std::string_view name) {
     const auto known = engines.find(name);
     if (known != engines.end()) return known->second;
     TestEngine engine = MakeEngine(name);
-    if (!engine.dbType.empty()) {
-        Session session;
-        session.DBType = engine.dbType;
-        session.DBIP = engine.address;
-        session.SQLUser = engine.user;
-        session.SQLPass = engine.password;
-        engine.connectionText = ConnectionText(session);
-    }
+    if (!engine.dbType.empty()) engine.connectionText = ConnectionText(engine.Database());
     return engines.emplace(name, std::move(engine)).first->second;
 }
 

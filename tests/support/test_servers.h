@@ -4,7 +4,7 @@
 //     TEST_P(Reports, AreTheSame) {
 //         const TestEngine& engine = EngineNamed(GetParam());
 //         const auto connection = FreshDatabase(engine);   // open, all tables, no rows
-//         TestApplication test({engine.dbType, engine.address, engine.user, engine.password});
+//         TestApplication test(engine.Database());
 //     }
 //     INSTANTIATE_TEST_SUITE_P(Engines, Reports, testing::ValuesIn(kSessionEngines));
 //
@@ -19,7 +19,7 @@
 #include <string_view>
 
 #include "database/connection.h"
-#include "session/session.h"
+#include "database/database_address.h"
 
 namespace tallix::test {
 
@@ -35,6 +35,8 @@ struct TestEngine {
     std::string user;
     std::string password;
     std::string connectionText;
+
+    DatabaseAddress Database() const { return {DatabaseKindOf(dbType), address, user, password}; }
 };
 
 /// Throws std::runtime_error when the servers do not start.

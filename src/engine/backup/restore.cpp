@@ -44,7 +44,7 @@ void ReplayBackup(Application& application, const std::filesystem::path& file,
         const std::optional<BackupGroup> group = GroupOfLine(*line);
         if (!group || !groups.contains(*group)) continue;
         statement = *line;
-        std::replace(statement.begin(), statement.end(), '\'', session.StrQuote.front());
+        std::replace(statement.begin(), statement.end(), '\'', StringQuote(session.database.kind).front());
         Attempt([&] { OpenConnection(session).Execute(statement); });
     }
     CloseDatabase(session);

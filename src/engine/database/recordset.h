@@ -22,21 +22,9 @@
 
 #include "database/connection.h"
 #include "database/row_arena.h"
+#include "database/rows.h"
 
 namespace tallix::ado {
-
-/// The place of a column in a result. An absent one gives DatabaseError when read.
-class Column {
-public:
-    Column() = default;
-    explicit operator bool() const { return index_ != kAbsent; }
-
-private:
-    friend class Recordset;
-    static constexpr std::size_t kAbsent = static_cast<std::size_t>(-1);
-    explicit Column(std::size_t index) : index_(index) {}
-    std::size_t index_ = kAbsent;
-};
 
 class Recordset {
 public:

@@ -189,7 +189,7 @@ std::string BuildQuery(Session& session, const QueryInputs& query) {
     const bool counts = !custom && CountsDialledNumbers(query.flags, query.options);
     std::string statement(counts ? kCountOfNumbers : kAllCalls);
     statement += Expand(RuleText(query), session, query);
-    if (session.DBType == "2" && !custom) return Replace(statement, "\"", "'");
+    if (session.database.kind == DatabaseKind::SqlServer && !custom) return Replace(statement, "\"", "'");
     return statement;
 }
 

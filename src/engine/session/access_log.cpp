@@ -4,9 +4,7 @@
 #include <fstream>
 #include <stdexcept>
 
-#include "database/recordset.h"
 #include "failures/attempt.h"
-#include "session/database.h"
 #include "text/code_page.h"
 
 namespace tallix {
@@ -14,7 +12,6 @@ namespace tallix {
 namespace {
 
 // Only SQL Server wants its reserved words in brackets here.
-constexpr std::string_view kSqlServerType = "2";
 constexpr std::string_view kSqlServerHead = "INSERT INTO tbllogging([Date], [Time], [User], [Data]) VALUES(";
 constexpr std::string_view kHead = "INSERT INTO tbllogging(Date, Time, User, Data) VALUES(";
 
@@ -41,47 +38,47 @@ void AppendLine(const std::filesystem::path& file, const std::string& line) {
 
 }  // namespace
 
-void WriteLog(Session& session, const Clock& clock, std::string_view event) {
+void WriteLog(const DatabaseScope& database, const Session& session, const Clock& clock,
+              std::string_view event) {
     const DateTime now = clock.Now();
-    std::string statement(session.DBType == kSqlServerType ? kSqlServerHead : kHead);
-    statement += Quoted(session, ShortDate(now)) + ", " + Quoted(session, HoursAndMinutes(now)) + ", " +
-                 Quoted(session, session.CurrentUser) + ", " + Quoted(session, event) + ");";
-    OpenConnection(session).Execute(statement);
+    std::string statement(database.Kind() == DatabaseKind::SqlServer ? kSqlServerHead : kHead);
+    statement += database.Quoted(ShortDate(now)) + ", " + database.Quoted(HoursAndMinutes(now)) + ", " +
+                 database.Quoted(session.CurrentUser) + ", " + database.Quoted(event) + ");";
+    database.Execute(statement);
 }
 
-void LogOnItsOwn(Session& session, const Clock& clock, std::string_view event) {
-    Attempt([&] { OpenDatabase(session); });
-    Attempt([&] { WriteLog(session, clock, event); });
-    CloseDatabase(session);
+void WriteLog(Session& session, const Clock& clock, std::string_view event) {
+    WriteLog(session.DBConn, session, clock, event);
 }
 
-std::vector<AccessLogRow> ReadAccessLog(Session& session) {
-    OpenDatabase(session);
-    ado::Recordset log;
-    log.Open(kAllRows, OpenConnection(session));
+void LogOnItsOwn(const Session& session, const Clock& clock, std::string_view event) {
+    Attempt([&] { WriteLog(DatabaseScope(session.database), session, clock, event); });
+}
+
+std::vector<AccessLogRow> ReadAccessLog(const Session& session) {
+    const DatabaseScope database(session.database);
+    const ado::Rows log = database.Query(kAllRows);
     std::array<ado::Column, kColumns.size()> columns;
     for (std::size_t i = 0; i < columns.size(); ++i) columns.at(i) = log.Find(kColumns.at(i));
-    std::vector<AccessLogRow> rows(log.RecordCount());
-    for (AccessLogRow& row : rows) {
-        row.reserve(columns.size());
-        for (const ado::Column column : columns) row.emplace_back(log.Text(column));
-        log.MoveNext();
+    std::vector<AccessLogRow> rows;
+    rows.reserve(static_cast<std::size_t>(log.Count()));
+    for (const ado::Row entry : log) {
+        AccessLogRow& row = rows.emplace_back();
+        for (const ado::Column column : columns) row.emplace_back(entry.Text(column));
     }
-    CloseDatabase(session);
     return rows;
 }
 
-void ExportAccessLog(Session& session, const std::filesystem::path& applicationFolder) {
+void ExportAccessLog(const Session& session, const std::filesystem::path& applicationFolder) {
     for (const AccessLogRow& row : ReadAccessLog(session)) {
         AppendLine(applicationFolder / kExportFile, ToAnsi(JoinWithCommas(row)));
     }
 }
 
-void ClearAccessLog(Session& session, const Clock& clock) {
-    OpenDatabase(session);
-    OpenConnection(session).Execute("Delete * from tbllogging");
-    WriteLog(session, clock, "Access Log Cleared!");
-    CloseDatabase(session);
+void ClearAccessLog(const Session& session, const Clock& clock) {
+    const DatabaseScope database(session.database);
+    database.Execute("Delete * from tbllogging");
+    WriteLog(database, session, clock, "Access Log Cleared!");
 }
 
 }  // namespace tallix

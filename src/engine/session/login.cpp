@@ -5,7 +5,6 @@
 
 #include "failures/attempt.h"
 #include "session/access_log.h"
-#include "session/database.h"
 #include "text/encryption_tools.h"
 #include "text/text_conversion.h"
 
@@ -39,7 +38,7 @@ Login::Login(Application& application) : application_(application) {}
 LoginOutcome Login::Try(std::string_view userName, std::string_view password) {
     if (HoldsGuardedWord(userName) || HoldsGuardedWord(password)) return LoginOutcome::HeldBack;
     ServeEvents();
-    OpenDatabase(application_.session);
+    database_ = DatabaseScope(application_.session.database);
     ServeEvents();
     const std::string normalName = NormalUserName(userName);
     if (!FindAccount(normalName) || !PasswordFits(password)) {
@@ -51,29 +50,25 @@ LoginOutcome Login::Try(std::string_view userName, std::string_view password) {
 }
 
 bool Login::FindAccount(std::string_view normalName) {
-    Session& session = application_.session;
-    account_.Open("select * from tblusers where " + session.IdQuote + "Username" + session.IdQuote + " = " +
-                      Quoted(session, EncipherForStorage(normalName)),
-                  OpenConnection(session));
+    account_ = database_.Query("select * from tblusers where " + database_.QuotedName("Username") + " = " +
+                               database_.Quoted(EncipherForStorage(normalName)));
     ServeEvents();
-    return account_.RecordCount() > 0;
+    return !account_.IsEmpty();
 }
 
 bool Login::PasswordFits(std::string_view password) const {
     application_.events.Serve();
-    return account_.Text("Password") == EncipherForStorage(password);
+    return account_.First().Text("Password") == EncipherForStorage(password);
 }
 
-// The rights of a group that is there stand in place of the person's own.
+// The rights of a group that exists replace the person's own.
 std::string Login::StoredAccess() {
-    const std::string groupId(account_.Text("GroupID"));
+    const std::string groupId(account_.First().Text("GroupID"));
     if (NamesGroup(groupId)) {
-        ado::Recordset group;
-        group.Open("select * from tblusergroups where GroupID =" + groupId,
-                   OpenConnection(application_.session));
-        if (group.RecordCount() > 0) return std::string(group.Text("Group_Access"));
+        const ado::Rows group = database_.Query("select * from tblusergroups where GroupID =" + groupId);
+        if (!group.IsEmpty()) return std::string(group.First().Text("Group_Access"));
     }
-    return std::string(account_.Text("AccessType"));
+    return std::string(account_.First().Text("AccessType"));
 }
 
 void Login::BeginSession(const std::string& normalName) {
@@ -81,12 +76,12 @@ void Login::BeginSession(const std::string& normalName) {
     session.CurrentUser = normalName;
     session.CurrentAccess = DecipherFromStorage(StoredAccess());
     session.UseStatsMain = false;
-    WriteLog(session, application_.clock, "Logged In");
+    WriteLog(database_, session, application_.clock, "Logged In");
 }
 
 void Login::Close() noexcept {
-    account_.Close();
-    CloseDatabase(application_.session);
+    account_ = ado::Rows();
+    database_ = DatabaseScope();
 }
 
 }  // namespace tallix

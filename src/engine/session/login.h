@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "database/recordset.h"
+#include "database/database_scope.h"
 #include "session/application.h"
 
 namespace tallix {
@@ -53,7 +53,8 @@ private:
     void ServeEvents() { application_.events.Serve(); }
 
     Application& application_;
-    ado::Recordset account_;
+    DatabaseScope database_;
+    ado::Rows account_;  ///< the row of the name tried, if any
     int refusals_ = 0;
 };
 

@@ -13,7 +13,7 @@ constexpr std::array<const char*, 2> kLeftovers = {"Temp.dat", "Temp2.dat"};
 }  // namespace
 
 std::string ConnectedLine(const Session& session) {
-    return "Connected To: " + session.DBIP + " As User: " + session.CurrentUser;
+    return "Connected To: " + session.database.server + " As User: " + session.CurrentUser;
 }
 
 void NoteLoggedOut(Application& application) {

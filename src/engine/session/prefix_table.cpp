@@ -4,9 +4,7 @@
 #include <bit>
 #include <numeric>
 
-#include "database/recordset.h"
 #include "failures/attempt.h"
-#include "session/database.h"
 #include "text/text_conversion.h"
 
 namespace tallix {
@@ -44,18 +42,18 @@ std::size_t FirstNotBelow(const std::vector<std::uint64_t>& heads, std::uint64_t
     return from;
 }
 
-std::vector<std::pair<std::string, std::string>> ReadRows(Session& session, const std::string& table,
+std::vector<std::pair<std::string, std::string>> ReadRows(const DatabaseScope& database,
+                                                          const std::string& table,
                                                           const std::string& codeColumn,
                                                           const std::string& valueColumn) {
     std::vector<std::pair<std::string, std::string>> rows;
     Attempt([&] {
-        ado::Recordset set;
-        set.Open("SELECT * FROM " + table, OpenConnection(session));
+        const ado::Rows set = database.Query("SELECT * FROM " + table);
         const ado::Column code = set.Find(codeColumn);
         const ado::Column value = set.Find(valueColumn);
-        for (std::int64_t i = 1; i <= set.RecordCount(); ++i, set.MoveNext()) {
-            const ado::Value text = set.At(code);
-            if (text) rows.emplace_back(*text, value ? set.Text(value) : "");  // LIKE finds no NULL
+        for (const ado::Row row : set) {
+            const ado::Value text = row.At(code);
+            if (text) rows.emplace_back(*text, value ? row.Text(value) : "");  // LIKE finds no NULL
         }
     });
     return rows;
@@ -137,13 +135,13 @@ std::optional<std::size_t> PrefixTable::Narrow(std::string_view number, PrefixLe
     return order_[bestPlace];
 }
 
-PrefixLookup::PrefixLookup(Session& session, std::string table, std::string codeColumn,
+PrefixLookup::PrefixLookup(const DatabaseScope& database, std::string table, std::string codeColumn,
                            std::string valueColumn)
-    : session_(session),
+    : database_(database),
       table_(std::move(table)),
       codeColumn_(std::move(codeColumn)),
       valueColumn_(std::move(valueColumn)),
-      rows_(ReadRows(session, table_, codeColumn_, valueColumn_)) {}
+      rows_(ReadRows(database, table_, codeColumn_, valueColumn_)) {}
 
 std::optional<std::string_view> PrefixLookup::Narrow(std::string_view number, PrefixLengths lengths) {
     if (!rows_.IsPlain() || !IsPlainNumber(number)) return NarrowStepwise(number, lengths);
@@ -178,12 +176,10 @@ const PrefixLookup::Answer& PrefixLookup::Ask(std::string_view prefix) {
 PrefixLookup::Answer PrefixLookup::AskServer(std::string_view prefix) {
     Answer answer;
     Attempt([&] {
-        ado::Recordset set;
-        set.Open("SELECT * FROM " + table_ + " WHERE " + codeColumn_ + " LIKE " +
-                     Quoted(session_, std::string(prefix) + "%"),
-                 OpenConnection(session_));
-        answer.rows = set.RecordCount();
-        if (answer.rows > 0) answer.value = set.Text(valueColumn_);
+        const ado::Rows found = database_.Query("SELECT * FROM " + table_ + " WHERE " + codeColumn_ +
+                                                " LIKE " + database_.Quoted(std::string(prefix) + "%"));
+        answer.rows = found.Count();
+        if (answer.rows > 0) answer.value = found.First().Text(valueColumn_);
     });
     return answer;
 }

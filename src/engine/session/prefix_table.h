@@ -68,9 +68,12 @@ private:
 
 class PrefixLookup {
 public:
-    /// Reads `table` over the session's open connection. A table that cannot be read has
-    /// no rows. `session` must outlive the lookup and be connected while it is used.
-    PrefixLookup(Session& session, std::string table, std::string codeColumn, std::string valueColumn);
+    /// Reads `table`; one that cannot be read has no rows. `database` must outlive the
+    /// lookup.
+    PrefixLookup(const DatabaseScope& database, std::string table, std::string codeColumn,
+                 std::string valueColumn);
+    PrefixLookup(Session& session, std::string table, std::string codeColumn, std::string valueColumn)
+        : PrefixLookup(session.DBConn, std::move(table), std::move(codeColumn), std::move(valueColumn)) {}
 
     /// The value of the row that narrowing ends on, as in PrefixTable; lengths count
     /// characters. NULL reads as the empty text. The view lives as long as the lookup.
@@ -89,7 +92,7 @@ private:
     const Answer& Ask(std::string_view prefix);
     Answer AskServer(std::string_view prefix);
 
-    Session& session_;
+    const DatabaseScope& database_;
     std::string table_;
     std::string codeColumn_;
     std::string valueColumn_;

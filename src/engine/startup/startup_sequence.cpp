@@ -33,10 +33,9 @@ void StartupSequence::Load() {
     view_.ShowVersion("Version: " + version);
 
     Session& session = application_.session;
-    session.DBType = application_.settings.Read("DBType");
-    session.StrQuote = StringQuote(session.DBType);
-    session.SQLUser = ReadOr(application_.settings, "SQLUser", kDefaultUser);
-    session.SQLPass = ReadOr(application_.settings, "SQLPass", kFactoryPassword);
+    session.database.kind = DatabaseKindOf(application_.settings.Read("DBType"));
+    session.database.user = ReadOr(application_.settings, "SQLUser", kDefaultUser);
+    session.database.password = ReadOr(application_.settings, "SQLPass", kFactoryPassword);
     if (commandLine_.empty()) view_.ShowSplash();
 }
 
@@ -75,8 +74,9 @@ void StartupSequence::LoadPreferences() {
 // No connection is opened here: a server that does not answer shows at the login, or
 // in the unattended work.
 void StartupSequence::ReadDatabaseAddress() {
-    application_.session.DBIP = application_.settings.Read("DBIP");
-    if (!application_.session.DBIP.empty()) return;
+    std::string& server = application_.session.database.server;
+    server = application_.settings.Read("DBIP");
+    if (!server.empty()) return;
     view_.ShowSettingsRequired();
     End();
 }

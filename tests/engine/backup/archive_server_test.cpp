@@ -115,7 +115,7 @@ TEST(BrokenArchive, LosesNoCallWithItsServer) {
 TEST(BrokenArchive, LosesNoCallWithAFullDiskButAllWithoutItsZipFile) {
     const test::TestEngine& engine = test::EngineNamed("mariadb");
     test::FreshDatabase(engine);
-    test::TestApplication test({engine.dbType, engine.address, engine.user, engine.password});
+    test::TestApplication test(engine.Database());
     for (int call = 0; call < 6; ++call) test.InsertCall();
     NotedView view;
     view.request = WholeYear("2021", ArchiveDestination::ToFile);

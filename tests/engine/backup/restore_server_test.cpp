@@ -58,9 +58,7 @@ bool IsDamaged(const std::string& line) {
 
 class Restores : public testing::TestWithParam<const char*> {
 protected:
-    static TestApplication Open(const test::TestEngine& engine) {
-        return TestApplication({engine.dbType, engine.address, engine.user, engine.password});
-    }
+    static TestApplication Open(const test::TestEngine& engine) { return TestApplication(engine.Database()); }
     const test::TestEngine& engine_ = test::EngineNamed(GetParam());
 };
 

@@ -89,7 +89,7 @@ void RunCustomReport(TestApplication& test, Files& files) {
 Files FilesOf(const std::string& engineName) {
     const test::TestEngine& engine = test::EngineNamed(engineName);
     FillWorld(engine);
-    TestApplication test({engine.dbType, engine.address, engine.user, engine.password});
+    TestApplication test(engine.Database());
     Files files;
     for (const auto& [name, value] :
          {std::pair("V1Reports", "1"), {"AreaCode", "1"}, {"TimeOpen", "08:30"}, {"TimeClosed", "17:30"}}) {

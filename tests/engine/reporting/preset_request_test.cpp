@@ -23,9 +23,9 @@ TEST(PresetChoicesTest, ListsReportsSitesAndGroups) {
     EXPECT_THAT(choices.reports, ElementsAre("All Calls", "By Day"));
     EXPECT_THAT(choices.sites, ElementsAre("ALL", "001", "012", "003"));
     EXPECT_THAT(choices.groups, ElementsAre("ALL", "Sales & \"Care\""));
-    EXPECT_EQ(test.application.session.DBConn, nullptr);
+    EXPECT_FALSE(test.application.session.DBConn.IsOpen());
 
-    test.application.session.DBIP = "sqlite:/nowhere/at/all.db";
+    test.application.session.database.server = "sqlite:/nowhere/at/all.db";
     EXPECT_THROW(ReadPresetChoices(test.application), DatabaseError);
 }
 

@@ -73,8 +73,7 @@ TEST_F(QueryBuilderTest, ComposesTheStatementOfAPreset) {
     for (const auto& [keys, behind] : cases) EXPECT_EQ(Build(keys), kAllCalls + behind) << keys;
     EXPECT_EQ(Build("Sum=destnumc|Where=GROUP BY DestNum"),
               "SELECT DestNum, COUNT(DestNum) FROM tblphonedata GROUP BY DestNum");
-    test_.application.session.DBType = "2";
-    test_.application.session.StrQuote = "'";
+    test_.application.session.database.kind = DatabaseKind::SqlServer;
     EXPECT_EQ(Build(R"(Where=WHERE Trunk = "T1")"), kAllCalls + " WHERE Trunk = 'T1'");
 }
 

@@ -227,7 +227,7 @@ TEST_F(ReportRunTest, EndsWithoutDataWhereTheServerHasNoneOrRefuses) {
                                      "Created By Tallix Reports V1.4.6", "", "Date:,Cost:,", "",
                                      "Total Number Of Records: 0  |  Total Cost £0.00"));
 
-    test.application.session.DBIP = "sqlite:/nowhere/at/all.db";
+    test.application.session.database.server = "sqlite:/nowhere/at/all.db";
     EXPECT_EQ(Run("Broken"), RunOutcome::NoData);
 }
 
@@ -285,7 +285,7 @@ TEST_F(ReportRunTest, ARefusedRunLeavesItsSwitchesToTheNextAndNoFiles) {
                                   .rules = kPresetRules};
     EXPECT_EQ(ReportRun(test.application, flags, progress).Make(first), RunOutcome::Refused);
     EXPECT_TRUE(std::filesystem::is_empty(test.application.tempFolder));
-    EXPECT_EQ(test.application.session.DBConn, nullptr);
+    EXPECT_FALSE(test.application.session.DBConn.IsOpen());
     Run("Second");
     EXPECT_THAT(Rows(), ElementsAre("05/03/2021,10:15:00,001,"));
     EXPECT_EQ(LoggedEvents(), 2);

@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 
 #include "failures/errors.h"
-#include "session/database.h"
 #include "support/test_application.h"
 
 namespace tallix {
@@ -23,16 +22,13 @@ protected:
 
 TEST_F(AccessLogTest, WritesARowInEveryDialect) {
     Session& session = test.application.session;
-    for (const char* dbType : {"1", "2", "3"}) {
-        session.DBType = dbType;
-        session.StrQuote = StringQuote(dbType);
-        OpenDatabase(session);
-        WriteLog(session, test.clock, "Report Run - Daily");
-        EXPECT_THROW(WriteLog(session, test.clock, "Report Run - 5" + session.StrQuote + " x"),
-                     DatabaseError);
+    for (const DatabaseKind kind : {DatabaseKind::MySql, DatabaseKind::SqlServer, DatabaseKind::Postgres}) {
+        session.database.kind = kind;
+        const DatabaseScope database(session.database);
+        WriteLog(database, session, test.clock, "Report Run - Daily");
+        const std::string broken = "Report Run - 5" + std::string(StringQuote(kind)) + " x";
+        EXPECT_THROW(WriteLog(database, session, test.clock, broken), DatabaseError);
     }
-    CloseDatabase(session);
-    EXPECT_THROW(WriteLog(session, test.clock, "x"), DatabaseError);
     const AccessLogRow row = {"09/03/2021", "14:05", "Ann", "Report Run - Daily"};
     EXPECT_THAT(Rows(), testing::ElementsAre(row, row, row));
 }
@@ -40,10 +36,9 @@ TEST_F(AccessLogTest, WritesARowInEveryDialect) {
 TEST_F(AccessLogTest, ARowOnItsOwnIsPassedOverWhereItFails) {
     Session& session = test.application.session;
     LogOnItsOwn(session, test.clock, "Report Printed");
-    LogOnItsOwn(session, test.clock, "Report Run - 5" + session.StrQuote + " x");
-    EXPECT_EQ(session.DBConn, nullptr);
+    LogOnItsOwn(session, test.clock, "Report Run - 5\" x");
     EXPECT_THAT(Rows(), testing::ElementsAre(AccessLogRow{"09/03/2021", "14:05", "Ann", "Report Printed"}));
-    session.DBIP = "sqlite:/nowhere/at/all.db";
+    session.database.server = "sqlite:/nowhere/at/all.db";
     EXPECT_NO_THROW(LogOnItsOwn(session, test.clock, "Logged Out"));
 }
 
@@ -63,7 +58,6 @@ TEST_F(AccessLogTest, ExportAddsToTheFileAndAnEmptyLogLeavesItAlone) {
     EXPECT_EQ(Export(), lines + lines);
     test.Execute("DELETE FROM tbllogging");
     EXPECT_EQ(Export(), lines + lines);
-    EXPECT_EQ(test.application.session.DBConn, nullptr);
 
     test.Insert("tbllogging", {{"Data", "x"}});
     std::filesystem::remove(test.application.folder / "AccessLog.txt");

@@ -63,13 +63,6 @@ TEST_F(LoginTest, OpensTheSessionOfAnAccountHoweverItsNameIsWritten) {
     EXPECT_THAT(Log(), ElementsAre("Admin Logged In", "Admin Logged In", "Admin Logged In"));
 }
 
-TEST_F(LoginTest, TheMainWindowLoadsWhileTheConnectionIsOpen) {
-    ASSERT_EQ(login_.Try("admin", "Sesame"), LoginOutcome::LoggedIn);
-    EXPECT_TRUE(session_.DBConn);
-    login_.Close();
-    EXPECT_FALSE(session_.DBConn);
-}
-
 TEST_F(LoginTest, ThreeRefusalsOfAnyKindExhaustIt) {
     const std::vector<std::pair<std::string, std::string>> wrong = {
         {"admin", "sesame"}, {"nobody", "Sesame"}, {"\" or \"1\"=\"1", ""}};
@@ -83,7 +76,7 @@ TEST_F(LoginTest, ThreeRefusalsOfAnyKindExhaustIt) {
 }
 
 TEST_F(LoginTest, GuardedWordsReachNoDatabaseAndCountAsNoAttempt) {
-    session_.DBIP = "sqlite:/nowhere/at/all.db";
+    session_.database.server = "sqlite:/nowhere/at/all.db";
     for (const auto& [name, password] : std::vector<std::pair<std::string, std::string>>{
              {"Dropbox", "x"}, {"x", "myUpDaTe1"}, {"SELECT", ""}, {"re-insert", ""}, {"", "deleted"}}) {
         EXPECT_EQ(Try(name, password), LoginOutcome::HeldBack) << name << password;
@@ -115,8 +108,7 @@ TEST_F(LoginTest, LeavingIsNotedAndWorksWithTheDatabaseGone) {
     session_.CurrentUser = "Admin";
     NoteLoggedOut(test_.application);
     EXPECT_THAT(Log(), ElementsAre("Admin Logged Out"));
-    EXPECT_FALSE(session_.DBConn);
-    session_.DBIP = "sqlite:/nowhere/at/all.db";
+    session_.database.server = "sqlite:/nowhere/at/all.db";
     EXPECT_NO_THROW(NoteLoggedOut(test_.application));
 }
 

@@ -104,20 +104,22 @@ TEST_F(StartupSequenceTest, UnattendedRunsStayHiddenAndEndByThemselves) {
 }
 
 TEST_F(StartupSequenceTest, StoredSettingsWinAndEmptyOnesGiveWayToTheDefaults) {
-    const char* const names[] = {"DBType",       "SQLUser", "SQLPass", "ReportsLocation",
-                                 "DocsLocation", "Lang",    "Currency"};
+    const char* const names[] = {"SQLUser", "SQLPass", "ReportsLocation", "DocsLocation", "Lang", "Currency"};
     const std::string home = home_.string();
     const std::string elsewhere = (test_.Folder() / "elsewhere").string();
     std::filesystem::create_directories(test_.Folder() / "elsewhere/Reports");
     using Values = std::vector<std::string>;
-    const Values defaults = {"", "Tallix", "norvadat", home, home + "\\Company Docs", "1033", "\u00A3"};
-    const Values own = {"2", "sa", "x", elsewhere, "/docs", "1036", "\u20AC"};
-    for (const auto& [stored, expected, quote] : {std::tuple(Values(7), defaults, "\""), {own, own, "'"}}) {
+    const Values defaults = {"Tallix", "norvadat", home, home + "\\Company Docs", "1033", "\u00A3"};
+    const Values own = {"sa", "x", elsewhere, "/docs", "1036", "\u20AC"};
+    for (const auto& [type, kind, stored, expected] :
+         {std::tuple("", DatabaseKind::Unknown, Values(6), defaults),
+          {"2", DatabaseKind::SqlServer, own, own}}) {
+        test_.settings.Write("DBType", type);
         for (std::size_t i = 0; i < own.size(); ++i) test_.settings.Write(names[i], stored[i]);
         Start("");
         const Session& session = application_.session;
-        EXPECT_EQ(session.StrQuote, quote);
-        EXPECT_EQ((Values{session.DBType, session.SQLUser, session.SQLPass, session.ReportsLocation,
+        EXPECT_EQ(session.database.kind, kind);
+        EXPECT_EQ((Values{session.database.user, session.database.password, session.ReportsLocation,
                           session.DocsLocation, session.Lang, session.Currency}),
                   expected);
     }

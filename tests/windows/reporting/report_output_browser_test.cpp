@@ -157,7 +157,7 @@ TEST_F(ReportOutputTest, ADatabaseThatIsGoneIsPassedOverAndOnlyTheRightOffersToP
     forms.Show(kStatisticsForm);
     Deliver({});
     EXPECT_FALSE(IsVisible(kStatisticsForm));
-    world.application.session.DBIP = "sqlite:/nowhere/at/all.db";
+    world.application.session.database.server = "sqlite:/nowhere/at/all.db";
     Click("Print Report");
     Click("Close");
     EXPECT_TRUE(IsVisible(kStatisticsForm));

@@ -36,7 +36,7 @@ protected:
 TEST_F(MainWindowTest, ShowsWhoIsConnectedAndTheEntriesThatTheRightsAllow) {
     world.application.session.CurrentAccess = "101001" + std::string(36, '1');
     EXPECT_EQ(Window().findChild<QLabel*>("Connected")->text().toStdString(),
-              "Connected To: " + world.application.session.DBIP + " As User: Ann");
+              "Connected To: " + world.application.session.database.server + " As User: Ann");
     EXPECT_THAT(ShownEntries(), ElementsAre("Preset Reports", "Archive", "Options"));
     forms.Unload(kMainForm);
 
@@ -102,7 +102,7 @@ TEST_F(MainWindowTest, LogoutNotesItAndLeavesAFreshLoginAlone) {
 TEST_F(MainWindowTest, ExitWorksWithTheDatabaseGoneAndTidiesUp) {
     const std::filesystem::path leftover = world.application.folder / "Temp2.dat";
     std::ofstream(leftover) << "x";
-    world.application.session.DBIP = "sqlite:/nowhere/at/all.db";
+    world.application.session.database.server = "sqlite:/nowhere/at/all.db";
     Click("Exit Reports");
     EXPECT_FALSE(std::filesystem::exists(leftover));
     EXPECT_THAT(forms.Loaded(), IsEmpty());
@@ -123,7 +123,7 @@ TEST_F(MainWindowTest, TheStatisticsMenuCountsTheCallsAndLeavesWithoutAWord) {
     Click("Refresh Stats");
     EXPECT_EQ(Window().findChild<QLabel*>("TotalCalls")->text(), "3");
     EXPECT_TRUE(Window().findChild<QWidget*>("PleaseWait")->isVisible());
-    EXPECT_TRUE(world.application.session.DBConn);
+    EXPECT_TRUE(world.application.session.DBConn.IsOpen());
 
     std::vector<std::string> stops;
     const QWidget* stop = &Button("Options");

@@ -12,7 +12,7 @@ namespace {
 class SettingsRequiredWindowTest : public test::FormTest {
 protected:
     SettingsRequiredWindowTest() {
-        world.application.session.DBIP.clear();
+        world.application.session.database.server.clear();
         UnderTest<SettingsRequiredWindow>(kSettingsRequiredForm, world.application);
         StandIn({kLoginForm});
     }
@@ -48,7 +48,7 @@ TEST_F(SettingsRequiredWindowTest, SavingIsForTheNextStartAndLeadsToTheLogin) {
     Enter("10.0.0.5");
     Click("Save Changes");
     EXPECT_EQ(world.settings.Read("DBIP"), "10.0.0.5");
-    EXPECT_EQ(world.application.session.DBIP, "");
+    EXPECT_EQ(world.application.session.database.server, "");
     EXPECT_THAT(world.prompts.messages, testing::IsEmpty());
     EXPECT_THAT(forms.Loaded(), testing::ElementsAre(kLoginForm));
     EXPECT_TRUE(IsVisible(kLoginForm));
