@@ -7,76 +7,49 @@
 namespace tallix {
 namespace {
 
-using std::string_view;
-
-constexpr string_view kSwitchKeys[] = {"SwitchComm", "SwitchBaud", "SwitchParity", "SwitchBits",
-                                       "SwitchStop", "CommMethod", "AreaCode"};
-constexpr string_view kGeneralKeys[] = {"CostCompute", "ReportAlign", "ListenFeed", "ListenPort", "Lang",
-                                        "UseProxy",    "ProxyIP",     "ProxyPort",  "Currency"};
-constexpr string_view kServiceKeys[] = {"DebugLogging", "SMTPServer", "SMTPPort", "SMTPUser", "SMTPPass",
-                                        "SMTPEmail",    "SMTPAuth",   "SMTPSSL",  "TimeOpen", "TimeClosed"};
-constexpr string_view kReportKeys[] = {"ReportsLocation", "DocsLocation", "LostCalls",
-                                       "V1Reports",       "Providers",    "rptTC",
-                                       "rptTHC",          "rptTDC",       "rptTBC"};
-
 constexpr char kAnyAddress[] = "Any";
 
-void NoteSave(Application& application, const OptionsOnScreen&) {
+void LogSave(Application& application) {
     OpenDatabase(application.session);
     WriteLog(application.session, application.clock, "System Settings Saved");
     CloseDatabase(application.session);
 }
 
-void EmptyExtensions(Application& application, const OptionsOnScreen&) {
+/// The Collector's own address comes from the currency list, which replaced a list of
+/// addresses.
+void WriteCollectorAddress(const SettingsStore& settings, const OptionsValues& values) {
+    const std::string& address = values.at("Currency");
+    settings.Write("LocalIP", address == kAnyAddress ? "" : address);
+}
+
+void WriteCommandFiles(const Application& application, const OptionsValues& values) {
+    for (const CommandFile& file : kCommandFiles) {
+        WriteCommandFile(application, file, values.at(std::string(file.name)));
+    }
+}
+
+/// The table stays empty while the settings are written that come before its rows.
+void ReplaceExtensions(Application& application, const OptionsOnScreen& screen) {
+    const SettingsStore& settings = application.settings;
     OpenDatabase(application.session);
     OpenConnection(application.session).Execute("DELETE FROM tblextensions");
-}
-
-/// The Collector's own address comes out of the currency list, which took the place of a
-/// list of addresses.
-void WriteSwitchSettings(Application& application, const OptionsOnScreen& screen) {
-    WriteSettings(application.settings, screen.values, kSwitchKeys);
-    const std::string& address = screen.values.at("Currency");
-    application.settings.Write("LocalIP", address == kAnyAddress ? "" : address);
-}
-
-void WriteCommandFiles(Application& application, const OptionsOnScreen& screen) {
-    for (const CommandFile& file : kCommandFiles) WriteCommandFile(application, screen.values, file.name);
-}
-
-void WriteGeneralSettings(Application& application, const OptionsOnScreen& screen) {
-    WriteSettings(application.settings, screen.values, kGeneralKeys);
-}
-
-void FillExtensions(Application& application, const OptionsOnScreen& screen) {
+    WriteSettings(settings, screen.values, SaveStep::Collection);
+    WriteCollectorAddress(settings, screen.values);
+    WriteCommandFiles(application, screen.values);
+    WriteSettings(settings, screen.values, SaveStep::General);
     StoreExtensions(application.session, screen.extensions);
     CloseDatabase(application.session);
 }
 
-void WriteServiceSettings(Application& application, const OptionsOnScreen& screen) {
-    WriteSettings(application.settings, screen.values, kServiceKeys);
-}
-
-void SetBackupTask(Application& application, const OptionsOnScreen& screen) {
-    (screen.automaticBackup ? CreateBackupTask : DeleteBackupTask)(application);
-}
-
-void WriteReportSettings(Application& application, const OptionsOnScreen& screen) {
-    WriteSettings(application.settings, screen.values, kReportKeys);
-}
-
-void TellSaved(Application& application, const OptionsOnScreen&) {
-    application.prompts.Show({"Save Settings", "Settings saved!", MessageIcon::Information});
-}
-
 }  // namespace
 
-const std::array<SaveStep, 10> kSaveSteps = {
-    NoteSave,       EmptyExtensions,      WriteSwitchSettings, WriteCommandFiles,   WriteGeneralSettings,
-    FillExtensions, WriteServiceSettings, SetBackupTask,       WriteReportSettings, TellSaved};
-
 void SaveOptions(Application& application, const OptionsOnScreen& screen) {
-    for (const SaveStep step : kSaveSteps) step(application, screen);
+    LogSave(application);
+    ReplaceExtensions(application, screen);
+    WriteSettings(application.settings, screen.values, SaveStep::Services);
+    (screen.automaticBackup == AutomaticBackup::On ? CreateBackupTask : DeleteBackupTask)(application);
+    WriteSettings(application.settings, screen.values, SaveStep::Reports);
+    application.prompts.Show({"Save Settings", "Settings saved!", MessageIcon::Information});
 }
 
 }  // namespace tallix

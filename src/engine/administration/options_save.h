@@ -1,9 +1,7 @@
-// "Save and Exit" of the Options window, step by step. A step that fails ends the save
-// where it is, with nothing of what follows done; the extensions are then missing from the
-// database until the next save.
+// "Save and Exit" of the Options window. A step that fails ends the save, and nothing of what
+// follows is done. The extensions are then missing from the database until the next save.
 #pragma once
 
-#include <array>
 #include <vector>
 
 #include "administration/extensions.h"
@@ -11,20 +9,17 @@
 
 namespace tallix {
 
+enum class AutomaticBackup { On, Off };
+
 /// What is on the screen when the window is saved.
 struct OptionsOnScreen {
     OptionsValues values;
     std::vector<Extension> extensions{};
-    bool automaticBackup = true;  ///< whether the backup task is made or removed
+    AutomaticBackup automaticBackup = AutomaticBackup::On;  ///< makes or removes the backup task
 };
 
-using SaveStep = void (*)(Application& application, const OptionsOnScreen& screen);
-
-/// The steps in their order, up to the message that all is saved. Failures of the settings
-/// store show their message and stop nothing; everything else is thrown.
-extern const std::array<SaveStep, 10> kSaveSteps;
-
-/// Takes them all.
+/// Failures of the settings store show their message and stop nothing; everything else is
+/// thrown.
 void SaveOptions(Application& application, const OptionsOnScreen& screen);
 
 }  // namespace tallix

@@ -1,19 +1,18 @@
 #include "administration/options_settings.h"
 
 #include <algorithm>
-#include <fstream>
+#include <array>
 #include <stdexcept>
+#include <vector>
 
 #include "administration/report_design.h"
-#include "platform/whole_file.h"
-#include "text/code_page.h"
 
 namespace tallix {
 namespace {
 
-constexpr char kCollectorFolder[] = "Collector";
-constexpr std::string_view kLineEnd = "\r\n";
-constexpr mode_t kModeOfNewFile = 0644;
+using enum OptionPanel;
+using enum SaveStep;
+using enum SettingKind;
 
 constexpr std::array<SettingChoice, 2> kOffOn = {{{"0", ""}, {"1", ""}}};
 constexpr std::array<SettingChoice, 2> kNetworkOrSerial = {{{"1", ""}, {"2", ""}}};
@@ -41,140 +40,148 @@ constexpr std::array<SettingChoice, 2> kNumberNames = {
     {{"1", "Use Area Codes"}, {"2", "Use Provider Names"}}};
 constexpr std::array<SettingChoice, 3> kAlignments = {{{"L", "Left"}, {"C", "Centre"}, {"R", "Right"}}};
 
-constexpr OptionSetting List(std::string_view key, std::string_view label,
-                             std::span<const SettingChoice> choices, std::string_view unset = "") {
-    return {.key = key, .label = label, .kind = SettingKind::List, .unset = unset, .choices = choices};
+constexpr SettingControl TextOr(std::string_view unset) {
+    return {.unset = unset};
 }
 
-/// A switch that an absent value leaves off and that any text but "0" turns on.
-constexpr OptionSetting Switch(std::string_view key, std::string_view label) {
-    return {.key = key,
-            .label = label,
-            .kind = SettingKind::Switch,
-            .unset = "0",
-            .otherwise = "1",
-            .choices = kOffOn};
+constexpr SettingControl ListOf(std::span<const SettingChoice> choices, std::string_view unset = "") {
+    return {List, unset, "", choices};
 }
 
-constexpr OptionSetting Options(std::string_view key, std::span<const SettingChoice> choices,
-                                std::string_view usual) {
-    return {.key = key, .kind = SettingKind::Options, .unset = usual, .otherwise = usual, .choices = choices};
+constexpr SettingControl OneOf(std::span<const SettingChoice> choices, std::string_view usual) {
+    return {Options, usual, usual, choices};
 }
 
-constexpr OptionSetting ColourOf(const DesignColour& colour) {
-    return {.key = colour.key, .kind = SettingKind::Colour, .unset = colour.usual};
+constexpr SettingControl FolderOr(std::string_view unset) {
+    return {Folder, unset};
 }
 
-constexpr std::array kSettings = {
-    OptionSetting{"CommMethod", "Enable Comm port collection", SettingKind::Switch, "1", "1",
-                  kNetworkOrSerial},
-    List("SwitchComm", "Computer Comm Port:", kCommPorts),
-    List("SwitchBaud", "PBX Baud Rate:", kBaudRates),
-    List("SwitchParity", "PBX Parity:", kParities),
-    List("SwitchBits", "PBX Bits:", kBits),
-    List("SwitchStop", "PBX Stop Bit:", kStopBits),
-    Switch("ListenFeed", "Set Collector to Listen"),
-    OptionSetting{.key = "ListenPort", .label = "Listen Port:", .unset = "1752", .onlyWhen = "ListenFeed"},
-    Switch("UseProxy", "Use proxy server to connect to the Internet"),
-    OptionSetting{.key = "ProxyIP", .label = "Proxy Server:", .onlyWhen = "UseProxy"},
-    OptionSetting{.key = "ProxyPort", .label = "Proxy Port:", .onlyWhen = "UseProxy"},
-    OptionSetting{.key = "SMTPServer", .label = "SMTP Server:"},
-    OptionSetting{.key = "SMTPPort", .label = "SMTP Port:"},
-    OptionSetting{.key = "SMTPUser", .label = "SMTP User:"},
-    OptionSetting{.key = "SMTPPass", .label = "SMTP Pass:", .kind = SettingKind::Password},
-    OptionSetting{.key = "SMTPEmail", .label = "Server Email:"},
-    OptionSetting{"SMTPAuth", "SMTP Server Requires Authentication", SettingKind::Switch, "1", "1", kOffOn},
-    Switch("SMTPSSL", "SMTP Requires SSL"),
-    Switch("DebugLogging", "Enabled?"),
-    OptionSetting{.key = "TimeOpen", .label = "Open Time:", .unset = "08:30"},
-    OptionSetting{.key = "TimeClosed", .label = "Closed Time:", .unset = "17:30"},
-    Switch("LostCalls", "Include 'lost' calls in call records"),
-    Switch("V1Reports", "Use New Style Reports"),
-    OptionSetting{"CostCompute", "Compute call costs per report", SettingKind::Switch, "1", "0", kOffOn},
-    Switch("AreaCode", "Show Area code in report"),
-    Options("Providers", kNumberNames, "2"),
-    Options("Lang", kLanguages, "1033"),
-    List("Currency", "Currency:", kCurrencies, "£"),
-    OptionSetting{.key = "ReportsLocation", .label = "Location:"},
-    OptionSetting{.key = "DocsLocation", .label = "Location:"},
-    Options("ReportAlign", kAlignments, "C"),
-    ColourOf(kDesignColours[0]),
-    ColourOf(kDesignColours[1]),
-    ColourOf(kDesignColours[2]),
-    ColourOf(kDesignColours[3]),
+constexpr SettingControl ColourOr(std::size_t colour) {
+    return {Colour, kDesignColours.at(colour).usual};
+}
+
+/// Off when absent; any text but "0" turns it on.
+constexpr SettingControl kOffUnlessSet{Switch, "0", "1", kOffOn};
+
+constexpr SettingExtras kMaySlow{.performance = Performance::MaySuffer};
+constexpr SettingExtras kListening{.onlyWhen = "ListenFeed"};
+constexpr SettingExtras kByProxy{.onlyWhen = "UseProxy"};
+constexpr SettingExtras kLostCalls{.tip = "Select if to include 'lost' calls",
+                                   .performance = Performance::MaySuffer};
+constexpr SettingExtras kReportsFolder{.tip = "Enter location of custom reports",
+                                       .question = "Select Reports Folder"};
+constexpr SettingExtras kDocsFolder{.question = "Select Company Docs Folder"};
+
+constexpr OptionSetting kSettings[] = {
+    {"CommMethod",
+     "Enable Comm port collection",
+     Serial,
+     {Collection, 6},
+     {Switch, "1", "1", kNetworkOrSerial}},
+    {"SwitchComm", "Computer Comm Port:", Serial, {Collection, 1}, ListOf(kCommPorts)},
+    {"SwitchBaud", "PBX Baud Rate:", Serial, {Collection, 2}, ListOf(kBaudRates)},
+    {"SwitchParity", "PBX Parity:", Serial, {Collection, 3}, ListOf(kParities)},
+    {"SwitchBits", "PBX Bits:", Serial, {Collection, 4}, ListOf(kBits)},
+    {"SwitchStop", "PBX Stop Bit:", Serial, {Collection, 5}, ListOf(kStopBits)},
+    {"ListenFeed", "Set Collector to Listen", Listen, {General, 3}, kOffUnlessSet},
+    {"ListenPort", "Listen Port:", Listen, {General, 4}, TextOr("1752"), kListening},
+    {"UseProxy", "Use proxy server to connect to the Internet", Proxy, {General, 6}, kOffUnlessSet},
+    {"ProxyIP", "Proxy Server:", Proxy, {General, 7}, {}, kByProxy},
+    {"ProxyPort", "Proxy Port:", Proxy, {General, 8}, {}, kByProxy},
+    {"SMTPServer", "SMTP Server:", Email, {Services, 2}},
+    {"SMTPPort", "SMTP Port:", Email, {Services, 3}},
+    {"SMTPUser", "SMTP User:", Email, {Services, 4}},
+    {"SMTPPass", "SMTP Pass:", Email, {Services, 5}, {Password}},
+    {"SMTPEmail", "Server Email:", Email, {Services, 6}},
+    {"SMTPAuth", "SMTP Server Requires Authentication", Email, {Services, 7}, {Switch, "1", "1", kOffOn}},
+    {"SMTPSSL", "SMTP Requires SSL", Email, {Services, 8}, kOffUnlessSet},
+    {"TimeOpen", "Open Time:", System, {Services, 9}, TextOr("08:30")},
+    {"TimeClosed", "Closed Time:", System, {Services, 10}, TextOr("17:30")},
+    {"LostCalls", "Include 'lost' calls in call records", System, {Reports, 3}, kOffUnlessSet, kLostCalls},
+    {"V1Reports", "Use New Style Reports", System, {Reports, 4}, kOffUnlessSet},
+    {"CostCompute",
+     "Compute call costs per report",
+     System,
+     {General, 1},
+     {Switch, "1", "0", kOffOn},
+     kMaySlow},
+    {"AreaCode", "Show Area code in report", System, {Collection, 7}, kOffUnlessSet, kMaySlow},
+    {"Providers", "", System, {Reports, 5}, OneOf(kNumberNames, "2")},
+    {"DebugLogging", "Enabled?", OptionPanel::DebugLogging, {Services, 1}, kOffUnlessSet, kMaySlow},
+    {"Lang", "", Language, {General, 5}, OneOf(kLanguages, "1033")},
+    {"Currency", "Currency:", Language, {General, 9}, ListOf(kCurrencies, "£")},
+    {"ReportsLocation", "Location:", CustomReports, {Reports, 1}, FolderOr(""), kReportsFolder},
+    {"DocsLocation", "Location:", CompanyDocs, {Reports, 2}, FolderOr("\\Company Docs"), kDocsFolder},
+    {kDesignColours[0].key, "", Colours, {Reports, 6}, ColourOr(0)},
+    {kDesignColours[1].key, "", Colours, {Reports, 7}, ColourOr(1)},
+    {kDesignColours[2].key, "", Colours, {Reports, 8}, ColourOr(2)},
+    {kDesignColours[3].key, "", Colours, {Reports, 9}, ColourOr(3)},
+    {"ReportAlign", "", Alignment, {General, 2}, OneOf(kAlignments, "C")},
 };
 
-bool IsChoice(const OptionSetting& setting, std::string_view text) {
-    return std::any_of(setting.choices.begin(), setting.choices.end(),
-                       [&](const SettingChoice& choice) { return choice.stored == text; });
+std::string_view StoredOn(const OptionSetting& setting) {
+    return setting.control.choices.back().stored;
 }
 
-std::string Shown(const OptionSetting& setting, const std::string& stored) {
-    std::string text = stored.empty() ? std::string(setting.unset) : stored;
-    const bool byChoice = setting.kind == SettingKind::Options || setting.kind == SettingKind::Switch;
-    if (byChoice && !IsChoice(setting, text)) return std::string(setting.otherwise);
-    if (setting.kind == SettingKind::Colour && !ColourOfDigits(text)) return std::string(setting.unset);
-    return text;
+bool IsChoice(const SettingControl& control, std::string_view text) {
+    return std::ranges::any_of(control.choices,
+                               [&](const SettingChoice& choice) { return choice.stored == text; });
 }
 
-/// The folder of the Collector lies beside the program's.
-std::filesystem::path CommandFilePath(const Application& application, std::string_view name) {
-    return application.folder.parent_path() / kCollectorFolder / name;
-}
-
-/// The lines of a file joined by line ends, with none behind the last.
-std::string ReadCommandFile(const std::filesystem::path& file) {
-    std::ifstream stream(file, std::ios::binary);
-    std::string text;
-    bool first = true;
-    for (std::string line; std::getline(stream, line); first = false) {
-        if (line.ends_with('\r')) line.pop_back();
-        if (!first) text += kLineEnd;
-        text += DecodeLine(line);
+std::string Shown(const Application& application, const OptionSetting& setting) {
+    const SettingControl& control = setting.control;
+    std::string text = application.settings.Read(setting.key);
+    if (text.empty()) {
+        text = control.kind == Folder ? application.folder.string() : "";
+        text += control.unset;
     }
+    const bool byChoice = control.kind == Options || control.kind == Switch;
+    if (byChoice && !IsChoice(control, text)) return std::string(control.otherwise);
+    if (control.kind == Colour && !ColourOfDigits(text)) return std::string(control.unset);
     return text;
+}
+
+const std::string& ValueOf(const OptionsValues& values, std::string_view key) {
+    const auto found = values.find(key);
+    if (found == values.end()) throw std::out_of_range("no value of the option " + std::string(key));
+    return found->second;
+}
+
+bool IsWritten(const OptionSetting& setting, const OptionsValues& values) {
+    const std::string_view master = setting.extras.onlyWhen;
+    return master.empty() || ValueOf(values, master) == StoredOn(SettingOf(master));
 }
 
 }  // namespace
 
+std::span<const OptionSetting> AllSettings() {
+    return kSettings;
+}
+
 const OptionSetting& SettingOf(std::string_view key) {
-    const auto found = std::find_if(kSettings.begin(), kSettings.end(),
-                                    [&](const OptionSetting& setting) { return setting.key == key; });
-    if (found == kSettings.end()) throw std::out_of_range("no option of the key " + std::string(key));
+    const auto* found = std::ranges::find(kSettings, key, &OptionSetting::key);
+    if (found == std::end(kSettings)) throw std::out_of_range("no option of the key " + std::string(key));
     return *found;
 }
 
 OptionsValues LoadOptions(const Application& application) {
     OptionsValues values;
-    for (const OptionSetting& setting : kSettings) {
-        values.emplace(setting.key, Shown(setting, application.settings.Read(setting.key)));
-    }
-    const std::string folder = application.folder.string();
-    if (values["ReportsLocation"].empty()) values["ReportsLocation"] = folder;
-    if (values["DocsLocation"].empty()) values["DocsLocation"] = folder + "\\Company Docs";
+    for (const OptionSetting& setting : kSettings) values.emplace(setting.key, Shown(application, setting));
     for (const CommandFile& file : kCommandFiles) {
-        values.emplace(file.name, ReadCommandFile(CommandFilePath(application, file.name)));
+        values.emplace(file.name, ReadCommandFile(application, file));
     }
     return values;
 }
 
-bool IsOn(const OptionsValues& values, std::string_view key) {
-    return values.find(key)->second == SettingOf(key).choices.back().stored;
-}
-
-void WriteSettings(const SettingsStore& settings, const OptionsValues& values,
-                   std::span<const std::string_view> keys) {
-    for (const std::string_view key : keys) {
-        const std::string_view only = SettingOf(key).onlyWhen;
-        if (only.empty() || IsOn(values, only)) settings.Write(key, values.find(key)->second);
+void WriteSettings(const SettingsStore& settings, const OptionsValues& values, SaveStep step) {
+    std::vector<OptionSetting> written;
+    std::ranges::copy_if(kSettings, std::back_inserter(written),
+                         [&](const OptionSetting& setting) { return setting.saved.step == step; });
+    std::ranges::sort(written, {}, [](const OptionSetting& setting) { return setting.saved.place; });
+    for (const OptionSetting& setting : written) {
+        const std::string& value = ValueOf(values, setting.key);
+        if (IsWritten(setting, values)) settings.Write(setting.key, value);
     }
-}
-
-void WriteCommandFile(const Application& application, const OptionsValues& values, std::string_view name) {
-    const std::filesystem::path file = CommandFilePath(application, name);
-    const auto text = [&](const std::string&) { return ToAnsi(values.find(name)->second).append(kLineEnd); };
-    if (RewriteWholeFile(file, kModeOfNewFile, text)) return;
-    throw std::runtime_error("The file " + file.string() + " cannot be written");
 }
 
 }  // namespace tallix

@@ -8,16 +8,8 @@
 #include "toolkit/wait_panel.h"
 
 namespace tallix {
-namespace {
-
-constexpr const char* kKeys[] = {"SMTPServer", "SMTPPort", "SMTPUser", "SMTPPass",
-                                 "SMTPEmail",  "SMTPAuth", "SMTPSSL"};
-
-}  // namespace
-
 EmailPage::EmailPage(Application& application, QWidget* parent) : SettingsPage(application, parent) {
-    QFormLayout& panel = AddPanel("Email Settings");
-    for (const char* key : kKeys) AddSetting(panel, key);
+    QFormLayout& panel = AddPanel("Email Settings", OptionPanel::Email);
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(toolkit::kSpacing);
     buttons->addWidget(TestButton("Test Email", TestAttachment::None));

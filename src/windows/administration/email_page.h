@@ -1,4 +1,4 @@
-// Email: the way by which reports are mailed, and its trial with the values on the screen.
+// Email: how reports are mailed, and a test of it with the values on the screen.
 #pragma once
 
 #include "scheduling/test_mail.h"

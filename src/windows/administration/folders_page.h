@@ -1,4 +1,4 @@
-// Folders: where custom reports and the company's documents lie.
+// Folders: where custom reports and the company's documents are stored.
 #pragma once
 
 #include "windows/administration/settings_page.h"
@@ -11,9 +11,6 @@ public:
     FoldersPage(Application& application, QWidget* parent);
 
     bool IsGranted(std::string_view access) const override;
-
-private:
-    QLineEdit& AddFolder(const QString& title, std::string_view key, const char* question);
 };
 
 }  // namespace tallix

@@ -3,9 +3,7 @@
 namespace tallix {
 
 LanguagePage::LanguagePage(Application& application, QWidget* parent) : SettingsPage(application, parent) {
-    QFormLayout& panel = AddPanel("Language and Currency");
-    AddOptions(panel, "Lang");
-    AddSetting(panel, "Currency");
+    AddPanel("Language and Currency", OptionPanel::Language);
     Rows().addStretch();
 }
 

@@ -187,12 +187,12 @@ OptionsOnScreen OptionsWindow::OnScreen() const {
     OptionsOnScreen screen;
     for (const SettingsPage* page : settings_) page->TakeValues(screen.values);
     screen.extensions = extensions_->Extensions();
-    screen.automaticBackup = tools_->AutomaticBackup();
+    screen.automaticBackup = tools_->BackupChoice();
     return screen;
 }
 
-// Waiting events run in the midst of the save: a second click, or closing the window, is
-// not to find it at work.
+// The save serves waiting events: a second click, or closing the window, must not start
+// anything meanwhile.
 void OptionsWindow::SaveAndExit() {
     const toolkit::HeldWindow held(*this);
     SaveOptions(application_, OnScreen());

@@ -55,7 +55,7 @@ private:
     QPushButton* save_;
     QPushButton* exit_;
     std::vector<OptionsPage*> lists_;      ///< in the order of their loading
-    std::vector<SettingsPage*> settings_;  ///< likewise, behind the lists
+    std::vector<SettingsPage*> settings_;  ///< likewise, after the lists
     ExtensionsPage* extensions_ = nullptr;
     ToolsPage* tools_ = nullptr;
 };

@@ -74,8 +74,8 @@ void ReportDesignPage::BindColour(std::size_t index) {
 }
 
 void ReportDesignPage::AddAlignment() {
-    QFormLayout& panel = AddPanel("Text Alignment");
-    const QList<QRadioButton*> options = AddOptions(panel, "ReportAlign");
+    AddPanel("Text Alignment", OptionPanel::Alignment);
+    const QList<QRadioButton*>& options = Choices("ReportAlign");
     for (int i = 0; i < options.size(); ++i) {
         connect(options[i], &QRadioButton::toggled, preview_, [this, i](bool chosen) {
             if (chosen) preview_->SetAlignment(kAlignments.at(i));

@@ -1,16 +1,9 @@
 #include "windows/administration/serial_page.h"
 
 namespace tallix {
-namespace {
-
-constexpr const char* kKeys[] = {"CommMethod",   "SwitchComm", "SwitchBaud",
-                                 "SwitchParity", "SwitchBits", "SwitchStop"};
-
-}  // namespace
 
 SerialPage::SerialPage(Application& application, QWidget* parent) : SettingsPage(application, parent) {
-    QFormLayout& panel = AddPanel("Serial Settings");
-    for (const char* key : kKeys) AddSetting(panel, key);
+    AddPanel("Serial Settings", OptionPanel::Serial);
     AddCommandPanel(kCommandFiles[0]);
 }
 

@@ -17,7 +17,7 @@ namespace {
 constexpr char kPerformanceText[] = "Indicates this could impact on system performance.";
 constexpr int kLabelWidth = 20 * toolkit::kGrid;
 constexpr int kListWidth = 16 * toolkit::kGrid;
-constexpr char kStored[] = "stored";  ///< the stored text of a radio button
+constexpr char kStored[] = "stored";  ///< property of a radio button: its stored text
 
 QWidget* SideBySide(QWidget* first, QWidget* second) {
     auto* both = new QWidget;
@@ -62,62 +62,64 @@ QFormLayout& SettingsPage::AddPanel(const QString& title, int stretch) {
     return *form;
 }
 
-QWidget* SettingsPage::MakeField(const OptionSetting& setting) {
-    auto* field = new QLineEdit;
-    field->setMinimumWidth(2 * kListWidth);
-    if (setting.kind == SettingKind::Password) field->setEchoMode(QLineEdit::Password);
-    Bind(setting.key,
-         {[field](const QString& stored) { field->setText(stored); }, [field] { return field->text(); }});
-    return field;
+QFormLayout& SettingsPage::AddPanel(const QString& title, OptionPanel settings) {
+    QFormLayout& panel = AddPanel(title);
+    for (const OptionSetting& setting : AllSettings()) {
+        if (setting.panel == settings) AddSetting(panel, setting);
+    }
+    return panel;
 }
 
-QWidget* SettingsPage::MakeList(const OptionSetting& setting) {
-    auto* list = new QComboBox;
-    list->setMinimumWidth(kListWidth);
-    for (const SettingChoice& choice : setting.choices) list->addItem(toolkit::ToQString(choice.stored));
-    const auto show = [list](const QString& stored) {
-        if (!stored.isEmpty() && list->findText(stored) < 0) list->addItem(stored);
-        list->setCurrentIndex(list->findText(stored));
-    };
-    Bind(setting.key, {show, [list] { return list->currentText(); }});
-    return list;
+void SettingsPage::AddSetting(QFormLayout& panel, const OptionSetting& setting) {
+    if (setting.control.kind == SettingKind::Options) return AddChoices(panel, setting);
+    QWidget* control = MakeControl(setting);
+    controls_[setting.key] = control;
+    control->setObjectName(toolkit::ToQString(setting.key));
+    control->setAccessibleName(toolkit::ToQString(setting.label));  // also where a button shares its row
+    control->setToolTip(toolkit::ToQString(setting.extras.tip));
+    QWidget* row = RowOf(setting, control);
+    if (setting.control.kind == SettingKind::Switch) {
+        panel.addRow(row);
+    } else {
+        AddLabelled(panel, setting, control, row);
+    }
 }
 
-QList<QRadioButton*> SettingsPage::AddOptions(QFormLayout& panel, std::string_view key) {
-    const OptionSetting& setting = SettingOf(key);
+void SettingsPage::AddLabelled(QFormLayout& panel, const OptionSetting& setting, QWidget* control,
+                               QWidget* row) {
+    auto* label = new QLabel(toolkit::ToQString(setting.label));
+    control->ensurePolished();
+    label->setMinimumSize(kLabelWidth, control->sizeHint().height());  // in the middle of its row
+    label->setBuddy(control);
+    panel.addRow(label, row);
+    EnableWithSwitch(setting, control, label);
+}
+
+/// The choices side by side. The panel has the words for them all.
+void SettingsPage::AddChoices(QFormLayout& panel, const OptionSetting& setting) {
     auto* row = new QHBoxLayout;
     row->setSpacing(3 * toolkit::kSpacing);
     panel.addRow(row);
     auto* group = new QButtonGroup(this);
-    QList<QRadioButton*> options;
-    for (const SettingChoice& choice : setting.choices) {
-        auto* option = new QRadioButton(toolkit::ToQString(choice.label));
-        option->setProperty(kStored, toolkit::ToQString(choice.stored));
-        group->addButton(option);
-        row->addWidget(option);
-        options.append(option);
+    QList<QRadioButton*>& choices = choices_[setting.key];
+    for (const SettingChoice& choice : setting.control.choices) {
+        auto* button = new QRadioButton(toolkit::ToQString(choice.label));
+        button->setProperty(kStored, toolkit::ToQString(choice.stored));
+        group->addButton(button);
+        row->addWidget(button);
+        choices.append(button);
     }
     row->addStretch();
-    const auto show = [options](const QString& stored) {
-        for (auto* option : options) {
-            if (option->property(kStored).toString() == stored) option->setChecked(true);
+    const auto show = [choices](const QString& stored) {
+        for (auto* choice : choices) {
+            if (choice->property(kStored).toString() == stored) choice->setChecked(true);
         }
     };
     Bind(setting.key, {show, [group] { return group->checkedButton()->property(kStored).toString(); }});
-    return options;
-}
-
-QWidget* SettingsPage::MakeSwitch(const OptionSetting& setting) {
-    auto* box = new QCheckBox(toolkit::ToQString(setting.label));
-    const QString off = toolkit::ToQString(setting.choices.front().stored);
-    const QString on = toolkit::ToQString(setting.choices.back().stored);
-    Bind(setting.key, {[box, on](const QString& stored) { box->setChecked(stored == on); },
-                       [box, on, off] { return box->isChecked() ? on : off; }});
-    return box;
 }
 
 QWidget* SettingsPage::MakeControl(const OptionSetting& setting) {
-    switch (setting.kind) {
+    switch (setting.control.kind) {
         case SettingKind::List:
             return MakeList(setting);
         case SettingKind::Switch:
@@ -127,36 +129,62 @@ QWidget* SettingsPage::MakeControl(const OptionSetting& setting) {
     }
 }
 
-QWidget& SettingsPage::AddSetting(QFormLayout& panel, std::string_view key, QWidget* behind) {
-    const OptionSetting& setting = SettingOf(key);
-    QWidget* control = MakeControl(setting);
-    controls_[setting.key] = control;
-    control->setObjectName(toolkit::ToQString(setting.key));
-    control->setAccessibleName(toolkit::ToQString(setting.label));  // also where a button shares its row
-    QWidget* row = behind == nullptr ? control : SideBySide(control, behind);
-    if (setting.kind == SettingKind::Switch) {
-        panel.addRow(row);
-        return *control;
-    }
-    auto* label = new QLabel(toolkit::ToQString(setting.label));
-    control->ensurePolished();
-    label->setMinimumSize(kLabelWidth, control->sizeHint().height());  // in the middle of its row
-    label->setBuddy(control);
-    panel.addRow(label, row);
-    GoWithSwitch(setting, control, label);
-    return *control;
+QWidget* SettingsPage::MakeField(const OptionSetting& setting) {
+    auto* field = new QLineEdit;
+    field->setMinimumWidth(2 * kListWidth);
+    if (setting.control.kind == SettingKind::Password) field->setEchoMode(QLineEdit::Password);
+    Bind(setting.key,
+         {[field](const QString& stored) { field->setText(stored); }, [field] { return field->text(); }});
+    return field;
 }
 
-void SettingsPage::AddMarkedSetting(QFormLayout& panel, std::string_view key) {
-    AddSetting(panel, key, PerformanceMark()).setAccessibleDescription(kPerformanceText);
+QWidget* SettingsPage::MakeList(const OptionSetting& setting) {
+    auto* list = new QComboBox;
+    list->setMinimumWidth(kListWidth);
+    for (const SettingChoice& choice : setting.control.choices)
+        list->addItem(toolkit::ToQString(choice.stored));
+    const auto show = [list](const QString& stored) {
+        if (!stored.isEmpty() && list->findText(stored) < 0) list->addItem(stored);
+        list->setCurrentIndex(list->findText(stored));
+    };
+    Bind(setting.key, {show, [list] { return list->currentText(); }});
+    return list;
+}
+
+QWidget* SettingsPage::MakeSwitch(const OptionSetting& setting) {
+    auto* box = new QCheckBox(toolkit::ToQString(setting.label));
+    const QString off = toolkit::ToQString(setting.control.choices.front().stored);
+    const QString on = toolkit::ToQString(setting.control.choices.back().stored);
+    Bind(setting.key, {[box, on](const QString& stored) { box->setChecked(stored == on); },
+                       [box, on, off] { return box->isChecked() ? on : off; }});
+    return box;
+}
+
+/// The control, and after it what belongs to it.
+QWidget* SettingsPage::RowOf(const OptionSetting& setting, QWidget* control) {
+    if (setting.control.kind == SettingKind::Folder) {
+        return SideBySide(control, MakeBrowseButton(setting, dynamic_cast<QLineEdit&>(*control)));
+    }
+    if (setting.extras.performance == Performance::Unaffected) return control;
+    control->setAccessibleDescription(kPerformanceText);
+    return SideBySide(control, PerformanceMark());
+}
+
+QWidget* SettingsPage::MakeBrowseButton(const OptionSetting& setting, QLineEdit& field) {
+    auto* browse = new QPushButton("Browse");
+    connect(browse, &QPushButton::clicked, &field, [this, &setting, &field] {
+        const auto folder = application_.prompts.AskFolder(std::string(setting.extras.question));
+        if (folder) field.setText(QString::fromStdString(folder->string()));
+    });
+    return browse;
 }
 
 // A setting that is only written while a switch is on can only be edited then.
-void SettingsPage::GoWithSwitch(const OptionSetting& setting, QWidget* control, QWidget* label) {
-    if (setting.onlyWhen.empty()) return;
+void SettingsPage::EnableWithSwitch(const OptionSetting& setting, QWidget* control, QWidget* label) {
+    if (setting.extras.onlyWhen.empty()) return;
     for (QWidget* widget : {control, label}) {
         widget->setEnabled(false);
-        connect(&Box(setting.onlyWhen), &QCheckBox::toggled, widget, &QWidget::setEnabled);
+        connect(&Box(setting.extras.onlyWhen), &QCheckBox::toggled, widget, &QWidget::setEnabled);
     }
 }
 
@@ -172,7 +200,7 @@ void SettingsPage::AddCommandPanel(const CommandFile& file) {
 
 void SettingsPage::ShowValues(const OptionsValues& values) {
     for (const auto& [key, binding] : bindings_)
-        binding.show(QString::fromStdString(values.find(key)->second));
+        binding.show(QString::fromStdString(values.at(std::string(key))));
 }
 
 void SettingsPage::TakeValues(OptionsValues& values) const {

@@ -1,8 +1,7 @@
-// A page whose panels hold settings: the table of the settings gives each its control, its
-// label and its texts.
+// A page whose panels hold settings: the table of the settings gives each its panel, its
+// control, its label and its texts.
 //
-//     QFormLayout& panel = AddPanel("Proxy Settings");
-//     for (const char* key : {"UseProxy", "ProxyIP", "ProxyPort"}) AddSetting(panel, key);
+//     AddPanel("Proxy Settings", OptionPanel::Proxy);
 #pragma once
 
 #include <QFormLayout>
@@ -34,28 +33,20 @@ public:
     virtual void ShowValues(const OptionsValues& values);
     void TakeValues(OptionsValues& values) const;
 
-    /// The pages of settings go by the right to the system settings.
+    /// Unless a page overrides it: with the right to the system settings.
     bool IsGranted(std::string_view access) const override;
 
 protected:
-    /// Panels stand below one another; the last one may stretch.
+    /// An empty panel below the others. A panel with `stretch` takes the room that is left.
     QFormLayout& AddPanel(const QString& title, int stretch = 0);
 
-    /// The control of a setting with its label, and `behind` it in the same row, such as a
-    /// button. Returns the control.
-    QWidget& AddSetting(QFormLayout& panel, std::string_view key, QWidget* behind = nullptr);
-
-    /// One that could make the system slow, with the mark that says so.
-    void AddMarkedSetting(QFormLayout& panel, std::string_view key);
-
-    /// The choices of a setting side by side, with no label of their own: the panel has the
-    /// words for them. Returns them in the order of the table.
-    QList<QRadioButton*> AddOptions(QFormLayout& panel, std::string_view key);
+    /// A panel with the controls of its settings.
+    QFormLayout& AddPanel(const QString& title, OptionPanel settings);
 
     /// A panel of one box for the text of a command file.
     void AddCommandPanel(const CommandFile& file);
 
-    /// Another way of a setting on this page.
+    /// How a value is shown on this page, and how it is read back.
     struct Binding {
         std::function<void(const QString&)> show;
         std::function<QString()> take;
@@ -67,21 +58,28 @@ protected:
 
     QLineEdit& Field(std::string_view key) const;
     QCheckBox& Box(std::string_view key) const;
+    const QList<QRadioButton*>& Choices(std::string_view key) const { return choices_.at(key); }
 
 private:
+    void AddSetting(QFormLayout& panel, const OptionSetting& setting);
+    void AddLabelled(QFormLayout& panel, const OptionSetting& setting, QWidget* control, QWidget* row);
+    void AddChoices(QFormLayout& panel, const OptionSetting& setting);
+    QWidget* MakeControl(const OptionSetting& setting);
     QWidget* MakeField(const OptionSetting& setting);
     QWidget* MakeList(const OptionSetting& setting);
     QWidget* MakeSwitch(const OptionSetting& setting);
-    QWidget* MakeControl(const OptionSetting& setting);
-    void GoWithSwitch(const OptionSetting& setting, QWidget* control, QWidget* label);
+    QWidget* MakeBrowseButton(const OptionSetting& setting, QLineEdit& field);
+    QWidget* RowOf(const OptionSetting& setting, QWidget* control);
+    void EnableWithSwitch(const OptionSetting& setting, QWidget* control, QWidget* label);
 
     Application& application_;
     QVBoxLayout* rows_;
     std::map<std::string_view, QWidget*> controls_;
+    std::map<std::string_view, QList<QRadioButton*>> choices_;
     std::map<std::string_view, Binding> bindings_;
 };
 
-/// The line that explains the mark of AddMarkedSetting.
+/// The line that explains the mark of settings that could make the system slow.
 QWidget* PerformanceLegend();
 
 }  // namespace tallix

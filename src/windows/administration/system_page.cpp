@@ -5,14 +5,6 @@
 namespace tallix {
 namespace {
 
-struct SystemOption {
-    const char* key;
-    bool isMarked;  ///< it could make the system slow
-};
-
-constexpr SystemOption kOptions[] = {
-    {"LostCalls", true}, {"V1Reports", false}, {"CostCompute", true}, {"AreaCode", true}};
-
 constexpr char kLostCallsOn[] =
     "IMPORTANT! - This will include call records that are missing most of their fields. This means that in "
     "some cases these records may appear on other reports that you generate. It will also increase your "
@@ -29,29 +21,19 @@ constexpr char kDebugLogging[] =
 }  // namespace
 
 SystemPage::SystemPage(Application& application, QWidget* parent) : SettingsPage(application, parent) {
-    QFormLayout& system = AddPanel("System Settings");
-    for (const char* key : {"TimeOpen", "TimeClosed"}) AddSetting(system, key);
-    for (const auto& [key, isMarked] : kOptions) {
-        if (isMarked) {
-            AddMarkedSetting(system, key);
-        } else {
-            AddSetting(system, key);
-        }
-    }
-    AddOptions(system, "Providers");
-    AddMarkedSetting(AddPanel("Debug Logging"), "DebugLogging");
+    AddPanel("System Settings", OptionPanel::System);
+    AddPanel("Debug Logging", OptionPanel::DebugLogging);
     Rows().addWidget(PerformanceLegend());
     Rows().addStretch();
-    Box("LostCalls").setToolTip("Select if to include 'lost' calls");
-    connect(&Box("LostCalls"), &QCheckBox::clicked, this, &SystemPage::TellOfLostCalls);
-    connect(&Box("DebugLogging"), &QCheckBox::clicked, this, &SystemPage::TellOfDebugLogging);
+    connect(&Box("LostCalls"), &QCheckBox::clicked, this, &SystemPage::WarnOfLostCalls);
+    connect(&Box("DebugLogging"), &QCheckBox::clicked, this, &SystemPage::WarnOfDebugLogging);
 }
 
-void SystemPage::TellOfLostCalls(bool counted) {
+void SystemPage::WarnOfLostCalls(bool counted) {
     Program().prompts.Show({"Tallix Reports", counted ? kLostCallsOn : kLostCallsOff});
 }
 
-void SystemPage::TellOfDebugLogging(bool on) {
+void SystemPage::WarnOfDebugLogging(bool on) {
     if (on) Program().prompts.Show({"Debug Logging", kDebugLogging, MessageIcon::Exclamation});
 }
 

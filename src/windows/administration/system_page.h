@@ -11,8 +11,8 @@ public:
     SystemPage(Application& application, QWidget* parent);
 
 private:
-    void TellOfLostCalls(bool counted);
-    void TellOfDebugLogging(bool on);
+    void WarnOfLostCalls(bool counted);
+    void WarnOfDebugLogging(bool on);
 };
 
 }  // namespace tallix

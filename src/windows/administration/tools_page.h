@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <vector>
 
+#include "administration/options_save.h"
 #include "session/application.h"
 #include "windows/administration/options_page.h"
 
@@ -18,9 +19,11 @@ public:
 
     void ApplyRights(std::string_view access) override;
 
-    /// What the box of the automatic backup says. It shows no state of the system: it is
-    /// ticked whenever the window opens.
-    bool AutomaticBackup() const { return backup_->isChecked(); }
+    /// What the box of the automatic backup says. It does not show a state of the system: it
+    /// is ticked whenever the window opens.
+    AutomaticBackup BackupChoice() const {
+        return backup_->isChecked() ? AutomaticBackup::On : AutomaticBackup::Off;
+    }
 
 signals:
     void WindowWanted(const QString& form);

@@ -102,6 +102,20 @@ TEST_F(OptionsWindowTest, SavesWhatIsOnTheScreenAndLeaves) {
     EXPECT_EQ(world.crontab.Text(), "");
 }
 
+TEST_F(OptionsWindowTest, EverySettingHasAControl) {
+    for (const char* master : {"UseProxy", "ListenFeed"}) world.settings.Write(master, "1");
+    for (const OptionSetting& setting : AllSettings()) {
+        if (setting.control.kind == SettingKind::Text) world.settings.Write(setting.key, "shown");
+    }
+    const OptionsValues before = LoadOptions(world.application);
+    Click("Save and Exit");
+    EXPECT_EQ(LoadOptions(world.application), before);
+    for (const OptionSetting& setting : AllSettings()) {
+        const bool mayBeEmpty = setting.control.kind == SettingKind::List || setting.key == "SMTPPass";
+        EXPECT_TRUE(mayBeEmpty || !world.settings.Read(setting.key).empty()) << setting.key;
+    }
+}
+
 TEST_F(OptionsWindowTest, SavesOnceThoughItIsClickedAndClosedMeanwhile) {
     world.events.onServe = [this] {
         world.events.onServe = {};
@@ -143,7 +157,7 @@ TEST_F(OptionsWindowTest, TellsOfLostCallsAndDebugLoggingByMouseAndByKey) {
     debug.click();
     EXPECT_EQ(LastMessage().title, "Debug Logging");
     debug.click();
-    EXPECT_EQ(world.prompts.messages.size(), 3U) << "clearing it is not told of";
+    EXPECT_EQ(world.prompts.messages.size(), 3U) << "clearing it shows nothing";
     EXPECT_FALSE(debug.isChecked());
 }
 
