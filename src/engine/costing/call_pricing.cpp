@@ -51,13 +51,10 @@ std::int32_t Amount(std::int32_t units, const UnitCost& cost) {
 
 }  // namespace
 
-CallPricing::CallPricing(Tariff& tariff, std::string_view billing)
-    : tariff_(tariff), byMinute_(billing.empty() || billing == "M") {}
-
 std::int32_t CallPricing::Units(std::string_view duration) const {
     const std::int32_t minutes = Part(duration, kMinutesPlace);
-    // Seconds leave the hours out, as the charging by seconds always has.
-    if (!byMinute_) return Part(duration, kSecondsPlace) + minutes * kSecondsPerMinute;
+    // Charging by the second leaves the hours out.
+    if (unit_ == BillingUnit::Second) return Part(duration, kSecondsPlace) + minutes * kSecondsPerMinute;
     const std::int32_t units = Part(duration, kHoursPlace) * kMinutesPerHour + minutes;
     return Mid(duration, kSecondsPlace, kPartLength) == "00" ? units : units + 1;
 }

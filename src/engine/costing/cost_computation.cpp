@@ -14,7 +14,7 @@ namespace tallix {
 namespace {
 
 /// Prices every call of the set into the batch. A column that the table lacks reads as
-/// NULL; without durations nothing can be told from a call that never was one.
+/// NULL; without durations no call is priced.
 std::int64_t PriceCalls(ado::Recordset& calls, CallPricing& pricing, ado::RowBatch& costs) {
     const ado::Column id = calls.Find("ID");
     const ado::Column duration = calls.Find("Duration");
@@ -40,7 +40,7 @@ std::int64_t ComputeCosts(Session& session, const SettingsStore& settings) {
     Attempt([&] { OpenDatabase(session); });
     Attempt([&] { OpenConnection(session).Execute("DELETE FROM tblcostcount"); });
     Tariff tariff(session);
-    CallPricing pricing(tariff, settings.Read("Billing"));
+    CallPricing pricing(tariff, PricingUnit(settings.Read(kBillingSetting)));
     Attempt([&] {
         ado::Recordset calls;
         calls.Open("Select * From tblphonedata WHERE Internal = " + Quoted(session, "0"),

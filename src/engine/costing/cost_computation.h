@@ -8,7 +8,7 @@
 
 namespace tallix {
 
-/// Empties tblcostcount and fills it anew: one row for each call with `Internal` "0"
+/// Replaces the contents of tblcostcount: one row for each call with `Internal` "0"
 /// and a duration. Returns the number of calls priced. Failures of the database are
 /// passed over: what was computed until then stays, and rows that the server refuses
 /// cost only themselves. Opens the session's connection and closes it again.

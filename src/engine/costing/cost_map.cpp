@@ -12,10 +12,8 @@ constexpr char kCostMap[] = "select * from tblcostmap";
 constexpr std::string_view kLocal = "L";
 constexpr std::string_view kMapClass = "1";
 
-enum CostMapCell : std::size_t { kArea, kCharge };
-
 bool HasOneLetter(const CostMapRow& row) {
-    return row.size() > kCharge && Len(row[kCharge]) == 1;
+    return Len(row.charge) == 1;
 }
 
 void TouchFirstRecord(Session& session) {
@@ -34,7 +32,8 @@ std::vector<CostMapRow> LoadCostMap(Session& session) {
         ado::Recordset map;
         map.Open(kCostMap, OpenConnection(session));
         for (std::int64_t i = 1; i <= map.RecordCount(); ++i, map.MoveNext()) {
-            rows.push_back({std::string(map.Text("Carrier")), std::string(map.Text("Package"))});
+            rows.push_back(
+                {.area = std::string(map.Text("Carrier")), .charge = std::string(map.Text("Package"))});
         }
     });
     CloseDatabase(session);
@@ -47,10 +46,8 @@ void AppendAreaCodes(Session& session, std::vector<CostMapRow>& rows) {
         ado::Recordset codes;
         codes.Open("Select * From tblareaproviders", OpenConnection(session));
         for (std::int64_t i = 1; i <= codes.RecordCount(); ++i, codes.MoveNext()) {
-            rows.push_back({std::string(codes.Text("Code"))});
-            CostMapRow& marked = rows[static_cast<std::size_t>(i) - 1];
-            marked.resize(std::max<std::size_t>(marked.size(), kCharge + 1));
-            marked[kCharge] = kLocal;
+            rows.push_back({.area = std::string(codes.Text("Code")), .charge = {}});
+            rows[static_cast<std::size_t>(i) - 1].charge = kLocal;
         }
     });
     CloseDatabase(session);

@@ -1,5 +1,5 @@
 // The classes of charge of area codes, in a table of their own that nothing else reads.
-// Continue-on-error throughout: what the database refuses is passed over.
+// All functions work in continue-on-error mode: what the database refuses is passed over.
 #pragma once
 
 #include <string>
@@ -9,20 +9,23 @@
 
 namespace tallix {
 
-/// An area code and its charge: L local, N national, M mobile, P premium. A row may lack
-/// its charge.
-using CostMapRow = std::vector<std::string>;
+struct CostMapRow {
+    std::string area;    ///< the area code
+    std::string charge;  ///< L local, N national, M mobile, P premium; may be empty
+
+    friend bool operator==(const CostMapRow&, const CostMapRow&) = default;
+};
 
 /// Reads the table in its stored order.
 std::vector<CostMapRow> LoadCostMap(Session& session);
 
-/// Appends a row for each code of the area code table and marks as many rows, counted from
+/// Appends a row for each code of the area code table and charges as many rows, counted from
 /// the top of the list, as local calls.
 void AppendAreaCodes(Session& session, std::vector<CostMapRow>& rows);
 
-/// Empties the table and looks at each row's charge. Returns false at the first one that
-/// is not one character long, whatever the letter. No row is added: each round goes to
-/// whatever record the emptied table still has, and passes over that there is none.
+/// Empties the table and checks the charge of each row. Returns false at the first one that
+/// is not one character long, whatever the letter. No row is added: each round updates the
+/// first record of the table, and has no effect on an empty one.
 bool SaveCostMap(Session& session, const std::vector<CostMapRow>& rows);
 
 }  // namespace tallix

@@ -12,12 +12,12 @@ constexpr std::size_t kHundredthsDigits = 2;
 /// Places of a total, counted from 0 at its last digit.
 constexpr std::size_t kLastPlaceOfTotal = 7;
 
-/// Keeps `value` where the text is no number.
+/// Keeps `value` where the text is not a number.
 void ReadPiece(std::string_view text, std::int32_t& value) {
     Attempt([&] { value = ToInteger32(text); });
 }
 
-/// What stands between two digits of a total, in front of the digit at `place`.
+/// The mark before the digit at `place` of a total.
 std::string_view MarkBefore(std::size_t place) {
     if (place == 1) return ".";
     return place == 4 || place == 7 ? "," : "";

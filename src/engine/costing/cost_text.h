@@ -7,14 +7,14 @@
 
 namespace tallix {
 
-/// A cost a billing unit, as the tariff holds it.
+/// A cost per billing unit, as the tariff holds it.
 struct UnitCost {
     std::int32_t whole = 0;       ///< whole pence
     std::int32_t hundredths = 0;  ///< hundredths of a penny
 };
 
-/// Reads a tariff text such as "1.50" into `cost`, piece by piece: a piece that is no
-/// number keeps the value it had. Hundredths are the last two characters of a text
+/// Reads a tariff text such as "1.50" into `cost`, piece by piece: a piece that is not
+/// a number keeps the value it had. Hundredths are the last two characters of a text
 /// with a point, so costs are meant to be typed with exactly two decimals.
 void ReadUnitCost(std::string_view text, UnitCost& cost);
 

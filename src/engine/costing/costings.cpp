@@ -11,12 +11,8 @@ namespace {
 constexpr std::string_view kStandardNumber = "Default";
 constexpr std::string_view kTariffClass = "99";
 constexpr std::string_view kStandardClass = "21";
-constexpr std::string_view kBilling = "Billing";
-constexpr std::string_view kPerMinute = "M";
-constexpr std::string_view kPerSecond = "S";
 constexpr char kAllCosts[] = "select * from tblcosts";
 
-enum TariffCell : std::size_t { kDestination, kCost };
 enum FileField : std::size_t { kDescription, kNumber, kPrice };
 
 void ReadTariff(Session& session, Costings& costings) {
@@ -33,11 +29,10 @@ void ReadTariff(Session& session, Costings& costings) {
     }
 }
 
-/// A row without a cost is stored without one.
 void AddRow(ado::Recordset& costs, const TariffRow& row, std::string_view costClass) {
     costs.AddNew();
-    if (row.size() > kDestination) costs.Collect("Number", row[kDestination]);
-    if (row.size() > kCost) costs.Collect("Cost", row[kCost]);
+    costs.Collect("Number", row.number);
+    if (row.cost) costs.Collect("Cost", *row.cost);
     costs.Collect("CostID", costClass);
     costs.Update();
 }
@@ -60,7 +55,7 @@ Costings LoadCostings(Session& session, const SettingsStore& settings) {
     Attempt([&] { OpenDatabase(session); });
     Attempt([&] { ReadTariff(session, costings); });
     CloseDatabase(session);
-    costings.perSecond = settings.Read(kBilling) == kPerSecond;
+    costings.unit = ShownUnit(settings.Read(kBillingSetting));
     return costings;
 }
 
@@ -74,7 +69,7 @@ void SaveCostings(Session& session, const SettingsStore& settings, const Costing
         AddRow(costs, {std::string(kStandardNumber), costings.standardCost}, kStandardClass);
     });
     CloseDatabase(session);
-    settings.Write(kBilling, costings.perSecond ? kPerSecond : kPerMinute);
+    settings.Write(kBillingSetting, costings.unit == BillingUnit::Second ? kSecondText : kMinuteText);
 }
 
 void AppendCostingFile(const std::filesystem::path& file, std::vector<TariffRow>& rows) {
@@ -82,9 +77,10 @@ void AppendCostingFile(const std::filesystem::path& file, std::vector<TariffRow>
     std::size_t place = 0;  // counted from 1: the first line's cost has no row
     for (const std::string* line = lines.Next(); line != nullptr; line = lines.Next(), ++place) {
         const std::vector<std::string> fields = Fields(*line);
-        if (fields.size() > kNumber) rows.push_back({fields[kNumber]});
+        if (fields.size() > kNumber) rows.push_back({.number = fields[kNumber], .cost = {}});
         if (fields.size() > kPrice && place > 0 && place <= rows.size()) {
-            rows[place - 1].push_back(fields[kPrice]);
+            TariffRow& row = rows[place - 1];
+            if (!row.cost) row.cost = fields[kPrice];
         }
     }
 }

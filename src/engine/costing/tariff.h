@@ -24,8 +24,8 @@ public:
     /// The cost text of the one row whose number begins with the first three or more
     /// characters of `number`; nothing when none does or when rows stay tied. The prefix
     /// must be decided before the number's end: its last character is never looked at, so
-    /// that numbers of three characters and less have no match. This narrows a prefix and
-    /// is no longest match. The view lives as long as the tariff.
+    /// that numbers of three characters and less have no match. This narrows a prefix; it
+    /// is not a longest match. The view lives as long as the tariff.
     std::optional<std::string_view> Match(std::string_view number);
 
 private:

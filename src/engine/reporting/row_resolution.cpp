@@ -75,7 +75,7 @@ RowResolver::RowResolver(const RowContext& context, const CallColumns& columns)
       storedCosts_(context.session, context.events, kStoredCosts),
       areas_(context.session, std::string(NumberTableName(context.settings.numbers)), "Code", "Provider"),
       countries_(context.session, "tblintcodes", "Code", "Country"),
-      pricing_(context.tariff, context.settings.billing) {}
+      pricing_(context.tariff, PricingUnit(context.settings.billing)) {}
 
 bool RowResolver::IsDropped(const ado::Recordset& calls) const {
     return context_.dropsShortNumbers && Len(FieldText(calls, columns_.destNum)) == kInternalNumber;

@@ -4,7 +4,6 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
-#include "costing/cost_map.h"
 #include "toolkit/dialog_keys.h"
 #include "toolkit/style.h"
 
@@ -29,8 +28,11 @@ const Message kRefused = {"Tallix Reports",
 CallCostMapWindow::CallCostMapWindow(toolkit::Forms& forms, Application& application)
     : Form(forms, "Tallix Reports Tool - Call Cost Mappings"),
       application_(application),
-      list_(new toolkit::ListView(
-          {{"Area", kAreaTwips}, {"Charge", toolkit::kPlainColumnWidth, Qt::AlignHCenter}}, this)),
+      map_(new toolkit::RecordModel<CostMapRow>(
+          {{"Area", &CostMapRow::area, kAreaTwips},
+           {"Charge", &CostMapRow::charge, toolkit::kPlainColumnWidth, Qt::AlignHCenter}},
+          this)),
+      list_(new toolkit::ListView(*map_, this)),
       waiting_(new toolkit::Overlay(*this, "Please Wait...")) {
     auto* purpose = new QLabel(kPurpose, this);
     purpose->setWordWrap(true);
@@ -58,7 +60,7 @@ QWidget* CallCostMapWindow::MapFrame() {
 QLayout* CallCostMapWindow::ButtonRow() {
     auto* row = new QHBoxLayout;
     row->setSpacing(toolkit::kSpacing);
-    connect(AddButton(*row, "Create New"), &QPushButton::clicked, this, [this] { list_->Rows().Set({}); });
+    connect(AddButton(*row, "Create New"), &QPushButton::clicked, this, [this] { map_->Set({}); });
     connect(AddButton(*row, "Populate From DB"), &QPushButton::clicked, this,
             &CallCostMapWindow::PopulateFromDatabase);
     row->addStretch();
@@ -78,20 +80,20 @@ QPushButton* CallCostMapWindow::AddButton(QHBoxLayout& row, const QString& capti
 }
 
 void CallCostMapWindow::OnLoad() {
-    list_->Rows().Set(LoadCostMap(application_.session));
+    map_->Set(LoadCostMap(application_.session));
 }
 
 void CallCostMapWindow::PopulateFromDatabase() {
-    std::vector<CostMapRow> rows = list_->Rows().All();
+    std::vector<CostMapRow> rows = map_->All();
     AppendAreaCodes(application_.session, rows);
-    list_->Rows().Set(std::move(rows));
+    map_->Set(std::move(rows));
 }
 
 void CallCostMapWindow::Save() {
     for (QPushButton* button : buttons_) button->setEnabled(false);
     waiting_->show();
     waiting_->repaint();
-    const bool saved = SaveCostMap(application_.session, list_->Rows().All());
+    const bool saved = SaveCostMap(application_.session, map_->All());
     if (saved) application_.prompts.Show(kSaved);
     waiting_->hide();
     for (QPushButton* button : buttons_) button->setEnabled(true);

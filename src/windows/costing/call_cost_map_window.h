@@ -1,11 +1,12 @@
-// Call Cost Mappings ("Form19"): the classes of charge of area codes. No entry of the
-// program opens it; it stands ready.
+// Call Cost Mappings ("Form19"): the classes of charge of area codes. Nothing in the
+// program opens it yet.
 #pragma once
 
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QPushButton>
 
+#include "costing/cost_map.h"
 #include "session/application.h"
 #include "toolkit/form.h"
 #include "toolkit/list_view.h"
@@ -31,6 +32,7 @@ private:
     void PopulateFromDatabase();
 
     Application& application_;
+    toolkit::RecordModel<CostMapRow>* map_;
     toolkit::ListView* list_;
     toolkit::Overlay* waiting_;
     std::vector<QPushButton*> buttons_;

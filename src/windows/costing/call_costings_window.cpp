@@ -4,13 +4,13 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
-#include "costing/costings.h"
 #include "session/access_log.h"
 #include "toolkit/dialog_keys.h"
 #include "toolkit/form_names.h"
 #include "toolkit/forms.h"
 #include "toolkit/label.h"
 #include "toolkit/style.h"
+#include "toolkit/text.h"
 
 namespace tallix {
 namespace {
@@ -27,6 +27,14 @@ constexpr char kImported[] =
     "it was created. Prices may have changed since this time. Please check with your carrier for the correct "
     "pricing scheme";
 
+toolkit::Column<TariffRow> CostColumn() {
+    toolkit::Column<TariffRow> column(
+        "Cost", [](const TariffRow& row) { return row.cost.value_or(""); }, toolkit::kPlainColumnWidth,
+        Qt::AlignHCenter);
+    column.write = [](TariffRow& row, const QString& text) { row.cost = text.toStdString(); };
+    return column;
+}
+
 const FileQuestion kCostingsFile = {"Select Costings File", "Tallix Costings File", "*.costing"};
 
 }  // namespace
@@ -34,9 +42,9 @@ const FileQuestion kCostingsFile = {"Select Costings File", "Tallix Costings Fil
 CallCostingsWindow::CallCostingsWindow(toolkit::Forms& forms, Application& application)
     : Form(forms, "Tallix Reports Tool - Call Costings"),
       application_(application),
-      list_(new toolkit::ListView(
-          {{"Destination", kDestinationTwips}, {"Cost", toolkit::kPlainColumnWidth, Qt::AlignHCenter}},
-          this)),
+      tariff_(new toolkit::RecordModel<TariffRow>(
+          {{"Destination", &TariffRow::number, kDestinationTwips}, CostColumn()}, this)),
+      list_(new toolkit::ListView(*tariff_, this)),
       standardCost_(new QLineEdit(this)),
       number_(new QLineEdit(this)),
       cost_(new QLineEdit(this)),
@@ -88,7 +96,7 @@ QLayout* CallCostingsWindow::EntryRow() {
     auto* remove = Button("Delete", &CallCostingsWindow::Delete);
     row->addWidget(add);
     row->addWidget(remove);
-    // The Tab key follows the eye: the list stands below what is entered.
+    // The Tab key goes from top to bottom: the list is below the entry fields.
     QWidget* before = standardCost_;
     for (QWidget* next :
          std::initializer_list<QWidget*>{perMinute_, perSecond_, number_, cost_, add, remove, list_}) {
@@ -121,15 +129,15 @@ QPushButton* CallCostingsWindow::Button(const QString& caption, void (CallCostin
 
 void CallCostingsWindow::OnLoad() {
     Costings costings = LoadCostings(application_.session, application_.settings);
-    standardCost_->setText(QString::fromStdString(costings.standardCost));
-    list_->Rows().Set(std::move(costings.rows));
-    (costings.perSecond ? perSecond_ : perMinute_)->setChecked(true);
+    standardCost_->setText(toolkit::ToQString(costings.standardCost));
+    tariff_->Set(std::move(costings.rows));
+    (costings.unit == BillingUnit::Second ? perSecond_ : perMinute_)->setChecked(true);
 }
 
-// An entry that lacks a half is passed over without a word.
+// An entry without a number or a cost is ignored.
 void CallCostingsWindow::Add() {
     if (number_->text().isEmpty() || cost_->text().isEmpty()) return;
-    list_->Rows().Append({number_->text().toStdString(), cost_->text().toStdString()});
+    tariff_->Append({.number = number_->text().toStdString(), .cost = cost_->text().toStdString()});
     number_->clear();
     cost_->clear();
     number_->setFocus();
@@ -137,26 +145,28 @@ void CallCostingsWindow::Add() {
 }
 
 void CallCostingsWindow::Delete() {
-    if (const int row = list_->SelectedRow(); row >= 0) list_->Rows().Remove(row);
+    if (const int row = list_->SelectedRow(); row >= 0) tariff_->Remove(row);
 }
 
 void CallCostingsWindow::CreateNew() {
-    list_->Rows().Set({});
-    standardCost_->setText(QString::fromUtf8(kNoStandardCost.data(), kNoStandardCost.size()));
+    tariff_->Set({});
+    standardCost_->setText(toolkit::ToQString(kNoStandardCost));
 }
 
 void CallCostingsWindow::PopulateFromFile() {
     const auto file = application_.prompts.AskOpenFile(kCostingsFile);
     if (!file) return;
-    std::vector<TariffRow> rows = list_->Rows().All();
+    std::vector<TariffRow> rows = tariff_->All();
     AppendCostingFile(*file, rows);
-    list_->Rows().Set(std::move(rows));
+    tariff_->Set(std::move(rows));
     Say(kImported);
 }
 
 void CallCostingsWindow::Save() {
     SaveCostings(application_.session, application_.settings,
-                 {standardCost_->text().toStdString(), list_->Rows().All(), perSecond_->isChecked()});
+                 {.standardCost = standardCost_->text().toStdString(),
+                  .rows = tariff_->All(),
+                  .unit = perSecond_->isChecked() ? BillingUnit::Second : BillingUnit::Minute});
     Say("Costings saved!");
     LogOnItsOwn(application_.session, application_.clock, "Saved Call Costings");
 }

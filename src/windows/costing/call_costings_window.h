@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+#include "costing/costings.h"
 #include "session/application.h"
 #include "toolkit/form.h"
 #include "toolkit/list_view.h"
@@ -35,6 +36,7 @@ private:
     void Save();
 
     Application& application_;
+    toolkit::RecordModel<TariffRow>* tariff_;
     toolkit::ListView* list_;
     QLineEdit* standardCost_;
     QLineEdit* number_;

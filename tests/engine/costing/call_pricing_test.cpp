@@ -71,21 +71,21 @@ TEST_F(CallPricingTest, CallsArePricedByUnitsBegunAndHalvesGoToTheEvenPenny) {
         {"M", "00:10:00", "0901123", 10, "0.10"},     // ten times does not fit: the plain units
         {"M", "00:01:00", "0901123", 300000000, ""},  // too long for a text; none came before
         {"M", "00:03:00", "0903123", 0, "0.00"},      // -0.27
-        {"M", "xx:05:00", "0845123", 50, "0.50"},     // what is no number counts as nothing
+        {"M", "xx:05:00", "0845123", 50, "0.50"},     // what is not a number counts as 0
         {"S", "garbage!", "0845123", 0, "0.00"},
         {"M", "-9:00:00", "0845123", -5400, "-54.00"},
     };
     for (const Case& expected : cases) {
-        CallPricing pricing(tariff, expected.billing);
+        CallPricing pricing(tariff, PricingUnit(expected.billing));
         const CallPricing::Price price = pricing.Of(expected.duration, expected.number);
         EXPECT_EQ(price.pence, expected.pence) << expected.duration << " " << expected.number;
         EXPECT_EQ(price.text, expected.text) << expected.duration << " " << expected.number;
     }
 }
 
-TEST_F(CallPricingTest, CostsThatAreNoNumbersAndTextsTooLongKeepThoseOfTheCallBefore) {
+TEST_F(CallPricingTest, InvalidCostsAndTooLongTextsKeepThoseOfTheCallBefore) {
     Tariff tariff = ReadTariff({{"0845", "10.25"}, {"0900", "free.xx"}, {"0901", "3000000"}});
-    CallPricing pricing(tariff, "M");
+    CallPricing pricing(tariff, BillingUnit::Minute);
     EXPECT_EQ(pricing.Of("00:01:00", "0900123").pence, 0);
     EXPECT_EQ(pricing.Of("00:02:00", "0845123").pence, 20);  // 20.5
     EXPECT_EQ(pricing.Of("00:04:00", "0900123").pence, 41);
@@ -97,7 +97,7 @@ TEST_F(CallPricingTest, CostsThatAreNoNumbersAndTextsTooLongKeepThoseOfTheCallBe
 TEST_F(CallPricingTest, TariffWithoutTableOrDefaultRowIsFree) {
     test_.Execute("DROP TABLE tblcosts");
     Tariff tariff = ReadTariff({});
-    CallPricing pricing(tariff, "S");
+    CallPricing pricing(tariff, BillingUnit::Second);
     EXPECT_EQ(pricing.Of("01:02:03", "0123456").text, "0.00");
     EXPECT_EQ(pricing.Of("01:02:03", "012%456").text, "0.00");
 }

@@ -13,14 +13,14 @@ namespace {
 using CostingsTest = test::EngineTest;
 
 TEST_P(CostingsTest, TheTariffIsStoredAsTyped) {
-    const std::vector<TariffRow> rows = {{"0845", "5.00"}, {"O'Neill \"x\"", "free"}, {"0800"}};
-    SaveCostings(session_, test_.settings, {"1.20", rows, true});
+    const std::vector<TariffRow> rows = {{"0845", "5.00"}, {"O'Neill \"x\"", "free"}, {"0800", {}}};
+    SaveCostings(session_, test_.settings, {"1.20", rows, BillingUnit::Second});
     Costings costings = LoadCostings(session_, test_.settings);
     EXPECT_EQ(costings.standardCost, "1.20");
     EXPECT_EQ(costings.rows, (std::vector<TariffRow>{rows[0], rows[1], {"0800", ""}}));
-    EXPECT_TRUE(costings.perSecond);
+    EXPECT_EQ(costings.unit, BillingUnit::Second);
 
-    SaveCostings(session_, test_.settings, {"", {{"Default", "9.99"}}, false});
+    SaveCostings(session_, test_.settings, {"", {{"Default", "9.99"}}, BillingUnit::Minute});
     costings = LoadCostings(session_, test_.settings);
     EXPECT_TRUE(costings.rows.empty());
     EXPECT_EQ(costings.standardCost, "") << "the standard cost is always the last row";
@@ -32,9 +32,9 @@ TEST_P(CostingsTest, TheCostMapIsCheckedAndNotKept) {
         "INSERT INTO tblareaproviders(Code, Area) VALUES ('020', 'London'), ('0161', 'Manchester')");
     std::vector<CostMapRow> rows = {{"01", "P"}};
     AppendAreaCodes(session_, rows);
-    EXPECT_EQ(rows, (std::vector<CostMapRow>{{"01", "L"}, {"020", "L"}, {"0161"}}));
+    EXPECT_EQ(rows, (std::vector<CostMapRow>{{"01", "L"}, {"020", "L"}, {"0161", ""}}));
     EXPECT_FALSE(SaveCostMap(session_, rows)) << "the last one lacks its charge";
-    rows.back().push_back("£");
+    rows.back().charge = "£";
     test_.Execute("INSERT INTO tblcostmap(Carrier, Package, CostID) VALUES ('01', 'N', '1')");
     EXPECT_EQ(LoadCostMap(session_), (std::vector<CostMapRow>{{"01", "N"}}));
     EXPECT_TRUE(SaveCostMap(session_, rows));
@@ -52,11 +52,10 @@ TEST(CostingFileTest, ACostGoesToTheRowOfTheLineBefore) {
         std::vector<TariffRow> after;
     };
     const Case cases[] = {
-        {"a,0800,1.00\r\nb,0845,2.00\r\nc,09,3.00", {}, {{"0800", "2.00"}, {"0845", "3.00"}, {"09"}}},
-        {"a,0800,1.00\nb,0845,2.00\n", {{"07", "9.99"}}, {{"07", "9.99", "2.00"}, {"0800"}, {"0845"}}},
-        {"no comma\n,020\n\"x, y\",\"1,5\",7\n", {}, {{"020"}, {" y\"", "\"1"}}},
-        {"a,b,\xA3\nb,c,\xA3,d\n", {}, {{"b", "£"}, {"c"}}},
-        {"", {}, {}},
+        {"a,0800,1.00\r\nb,0845,2.00\r\nc,09,3.00", {}, {{"0800", "2.00"}, {"0845", "3.00"}, {"09", {}}}},
+        {"a,0800,1.00\nb,0845,2.00\n", {{"07", "9.99"}}, {{"07", "9.99"}, {"0800", {}}, {"0845", {}}}},
+        {"no comma\n,020\n\"x, y\",\"1,5\",7\n", {}, {{"020", {}}, {" y\"", "\"1"}}},
+        {"a,b,\xA3\nb,c,\xA3,d\n", {}, {{"b", "£"}, {"c", {}}}},
     };
     for (const Case& c : cases) {
         std::ofstream(file, std::ios::binary) << c.text;
@@ -64,9 +63,9 @@ TEST(CostingFileTest, ACostGoesToTheRowOfTheLineBefore) {
         AppendCostingFile(file, rows);
         EXPECT_EQ(rows, c.after) << c.text;
     }
-    std::vector<TariffRow> rows;
-    AppendCostingFile(folder.Path() / "none", rows);
-    EXPECT_TRUE(rows.empty());
+    std::vector<TariffRow> none;
+    AppendCostingFile(folder.Path() / "none", none);
+    EXPECT_TRUE(none.empty());
 }
 
 }  // namespace

@@ -21,11 +21,17 @@ protected:
         FormTest::Window().activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&FormTest::Window()));
     }
+
+    static void EnterInCell(const QString& text) {
+        QTest::keyClicks(QApplication::focusWidget(), text);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        QCoreApplication::processEvents();  // the cell is written from the event loop
+    }
 };
 
 TEST_F(CallCostingsWindowTest, EditsTheListAndStoresItOnlyWhenAsked) {
     SaveCostings(world.application.session, world.settings,
-                 {"1.20", {{"0845", "5.00"}, {"09", "9.00"}}, true});
+                 {"1.20", {{"0845", "5.00"}, {"09", "9.00"}}, BillingUnit::Second});
     Open<CallCostingsWindow>(kCallCostingsForm);
     EXPECT_TRUE(Captioned<QRadioButton>("Per Second Billing").isChecked());
     Click("Delete");
@@ -35,15 +41,13 @@ TEST_F(CallCostingsWindowTest, EditsTheListAndStoresItOnlyWhenAsked) {
     Click("Add");
     SelectRow(1);
     Click("Delete");
-    EXPECT_THAT(Rows(), ElementsAre(toolkit::ListRow{"0845", "5.00"}, toolkit::ListRow{"0800", "0.00"}));
+    EXPECT_THAT(Rows(), ElementsAre(ElementsAre("0845", "5.00"), ElementsAre("0800", "0.00")));
     const QPoint cost = List().visualRect(List().model()->index(1, 1)).center();
     QTest::mouseClick(List().viewport(), Qt::LeftButton, {}, cost);
     QTest::mouseDClick(List().viewport(), Qt::LeftButton, {}, cost);
-    QTest::keyClicks(QApplication::focusWidget(), "7.50");
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    EnterInCell("7.50");
     QTest::keyClick(&List(), Qt::Key_F2);
-    QTest::keyClicks(QApplication::focusWidget(), "0801");
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    EnterInCell("0801");
     EXPECT_TRUE(world.prompts.messages.empty());
     Click("Save Costings");
     EXPECT_EQ(world.prompts.messages.at(0).text, "Costings saved!");
