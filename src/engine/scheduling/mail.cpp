@@ -67,7 +67,7 @@ private:
 
 bool Sending::SetServer(const MailServer& server) {
     url_.reset(curl_url());
-    // A bare IPv6 address is told from a name by its colons.
+    // Colons distinguish a bare IPv6 address from a name.
     const bool bare = server.host.find(':') != std::string::npos && !server.host.starts_with('[');
     const std::string host = bare ? "[" + server.host + "]" : server.host;
     return url_ && curl_url_set(url_.get(), CURLUPART_SCHEME, "smtp", 0) == CURLUE_OK &&
@@ -79,7 +79,7 @@ bool Sending::SetServer(const MailServer& server) {
 
 bool Sending::SetLimits() {
     const long total = static_cast<long>(limit_.count());
-    // Quick exit: a look-up of the server's name that hangs is left behind, not waited for.
+    // Quick exit does not wait for a look-up of the server's name that hangs.
     return Set(CURLOPT_TIMEOUT_MS, total) &&
            Set(CURLOPT_CONNECTTIMEOUT_MS, std::max(total / kConnectShare, 1L)) && Set(CURLOPT_NOSIGNAL, 1L) &&
            Set(CURLOPT_QUICK_EXIT, 1L);

@@ -25,11 +25,11 @@ struct MailServer {
     bool ssl = false;  ///< carried along; the mail goes out the same either way
 };
 
-/// How long a send may take in all; a third of it is given to reaching the server.
+/// The time limit of a send; connecting may take a third of it.
 inline constexpr std::chrono::seconds kMailLimit{30};
 
 /// Sends the mail in plain SMTP and waits for it, `limit` at most. Returns whether the
-/// server took it; callers of the system report nothing either way. Texts are UTF-8;
+/// server took it. Texts are UTF-8;
 /// control characters in addresses, subject and file names are dropped, so that none
 /// can start a header or a command of its own. Never throws for a mail or a server.
 bool SendMail(const Mail& mail, const MailServer& server, std::chrono::milliseconds limit = kMailLimit);

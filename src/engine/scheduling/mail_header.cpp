@@ -10,7 +10,7 @@
 namespace tallix {
 namespace {
 
-/// So many bytes give an encoded word of 72 characters; 75 are allowed.
+/// Bytes that give an encoded word of 72 characters; 75 are allowed.
 constexpr std::size_t kBytesPerWord = 45;
 constexpr std::string_view kAlphabet = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
 constexpr std::array<std::string_view, 7> kDays = {"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"};
@@ -54,7 +54,7 @@ std::string EncodedWords(std::string_view text) {
     std::string words;
     while (!text.empty()) {
         std::size_t length = std::min(text.size(), kBytesPerWord);
-        // No character is cut in two; bytes that are no UTF-8 have no border to look for.
+        // No character is cut in two; bytes that are not UTF-8 have no character border.
         while (length < text.size() && length > kBytesPerWord - 4 && IsContinuation(text[length])) --length;
         words +=
             fmt::format("{}=?UTF-8?B?{}?=", words.empty() ? "" : "\r\n ", Base64(text.substr(0, length)));

@@ -25,7 +25,7 @@ std::string MailDate(std::time_t moment);
 /// A new identity in the domain of the sender, in angle brackets.
 std::string NewMessageId(std::string_view from);
 
-/// The text with its line ends, of whatever kind, as carriage return and line feed.
+/// The text with all line ends turned into carriage return and line feed.
 std::string WithNetworkLineEnds(std::string_view text);
 
 }  // namespace tallix

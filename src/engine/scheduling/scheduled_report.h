@@ -1,4 +1,4 @@
-// The definition of a scheduled report: an ini file with the extension .SSR, one a
+// The definition of a scheduled report: an ini file with the extension .SSR, one per
 // schedule, that names a preset report, its filters and where the result goes.
 #pragma once
 
@@ -11,7 +11,7 @@ struct ScheduledReport {
     std::string report;          ///< path of the report file below Reports, with "\"
     std::string user;            ///< who saved the schedule
     std::string output;          ///< "File"; anything else is delivered by mail
-    std::string outputLocation;  ///< folder with its separator behind, for "File"
+    std::string outputLocation;  ///< folder that ends with its separator, for "File"
     std::string account;
     std::string extension;
     std::string site;

@@ -25,7 +25,7 @@ constexpr std::string_view kEnding = ".SSR";
 constexpr std::string_view kPresetPrefix = "STD_";
 constexpr std::string_view kTime = "00:01:00";
 
-/// A parameter's key in a definition, and in a report file where it decides on it.
+/// The key of a parameter in a definition, and the key of a report file that allows it.
 struct ParameterKeys {
     std::string_view definition;
     std::string_view report;
@@ -55,7 +55,8 @@ std::string DefinitionText(const Session& session, const Schedule& schedule) {
     std::string text = fmt::format(
         ";Tallix - Scheduled Report\r\n;\r\n[General]\r\nReport=Standard\\STD_{}.SRT\r\nUser={}\r\n"
         "Output={}\r\nOutputLocation={}\r\n",
-        schedule.report, session.CurrentUser, schedule.toFile ? "File" : "Email", schedule.location);
+        schedule.report, session.CurrentUser, schedule.delivery == Delivery::ToFolder ? "File" : "Email",
+        schedule.location);
     for (std::size_t i = 0; i < kParameters; ++i) {
         text += fmt::format("{}={}\r\n", kKeys.at(i).definition, schedule.parameters.at(i));
     }
@@ -112,12 +113,12 @@ std::optional<Message> RefusalOf(const Schedule& schedule) {
                    MessageIcon::Exclamation};
 }
 
-void SaveSchedule(Application& application, const Schedule& schedule, bool editing) {
+void SaveSchedule(Application& application, const Schedule& schedule, SaveMode mode) {
     if (IsTaskName(schedule.name)) {
         RewriteWholeFile(DefinitionFile(application, schedule.name), kDefinitionMode,
                          [&](const std::string&) { return DefinitionText(application.session, schedule); });
     }
-    if (editing) DeleteTaskOf(application, schedule.name);
+    if (mode == SaveMode::Replace) DeleteTaskOf(application, schedule.name);
     CreateTaskOf(application, schedule);
     LogOnItsOwn(application.session, application.clock, "Saved Scheduled Reports");
 }

@@ -18,17 +18,22 @@ namespace tallix {
 /// The frequencies as the task scheduler names them.
 inline constexpr std::array<std::string_view, 4> kFrequencies = {"Hourly", "Daily", "Weekly", "Monthly"};
 
-/// What a schedule can hand to its report, in the order of its file.
+/// What a schedule can pass to its report, in the order of its file.
 enum class Parameter { Account, Duration, Date, Extension, Site, TimeStart, TimeFinish };
 inline constexpr std::size_t kParameters = 7;
+
+enum class Delivery { ToFolder, ByMail };
+
+/// Whether a schedule is saved for the first time or replaces one of the same name.
+enum class SaveMode { New, Replace };
 
 /// A schedule as a person defines it.
 struct Schedule {
     std::string name;
-    std::string report;                               ///< name of a preset report
-    std::string_view frequency;                       ///< one of kFrequencies; empty where none is chosen
-    bool toFile = true;                               ///< else by mail
-    std::string location;                             ///< folder with "\" behind
+    std::string report;          ///< name of a preset report
+    std::string_view frequency;  ///< one of kFrequencies; empty where none is chosen
+    Delivery delivery = Delivery::ToFolder;
+    std::string location;                             ///< folder that ends with "\"
     std::array<std::string, kParameters> parameters;  ///< by Parameter
 };
 
@@ -38,20 +43,20 @@ std::vector<std::string> ListPresetReports(const Application& application);
 /// The names of the schedules in the order of their files.
 std::vector<std::string> ListSchedules(const Application& application);
 
-/// Which parameters a preset report can use: those whose key says exactly "True". Both
-/// times go by one key. A report that is not there can use none.
+/// Which parameters a preset report can use: those whose key is exactly "True". Both
+/// times share one key. A report that does not exist can use none.
 std::array<bool, kParameters> UsableParameters(const Application& application, std::string_view report);
 
 /// The definition of a schedule; empty texts where it cannot be read.
 ScheduledReport ReadSchedule(const Application& application, std::string_view name);
 
-/// Why a schedule is not saved; nothing otherwise.
+/// Why a schedule cannot be saved; nothing where it can.
 std::optional<Message> RefusalOf(const Schedule& schedule);
 
-/// Writes the definition, gives the operating system its task and logs it. When editing,
-/// the old task goes first. Nothing is told of a failure; a name that is no file name
-/// gets no definition.
-void SaveSchedule(Application& application, const Schedule& schedule, bool editing);
+/// Writes the definition, creates the task of the operating system and logs it. Replacing
+/// deletes the old task first. Failures are not reported. A name that is not a valid file
+/// name gets no definition.
+void SaveSchedule(Application& application, const Schedule& schedule, SaveMode mode);
 
 /// Deletes the definition and the task.
 void DeleteSchedule(Application& application, std::string_view name);

@@ -1,4 +1,4 @@
-// The mails by which a person tries the e-mail settings, with the values on the screen.
+// The mails that try out the e-mail settings with the values on the screen.
 #pragma once
 
 #include <string>
@@ -12,7 +12,7 @@ namespace tallix {
 struct TestMailInput {
     std::string from;
     std::string server;
-    std::string port;  ///< a text that is no number gives a port that no mail goes out by
+    std::string port;  ///< a text that is not a number becomes port 0
     bool authenticate = true;
     std::string user;
     std::string password;
@@ -21,9 +21,9 @@ struct TestMailInput {
 
 enum class TestAttachment { None, Logo };
 
-/// Sends a test mail to the first site and waits for it. Returns the message that tells of
-/// it, which is the same whether or not the mail went out; without a site nothing is sent,
-/// and the message says that. A logo that is missing is left out. Throws DatabaseError.
+/// Sends a test mail to the first site and waits for it. Returns the message to show, which
+/// is the same whether or not the mail went out. Without a site nothing is sent and the
+/// message says so. A missing logo is left out. Throws DatabaseError.
 Message SendTestMail(Application& application, const TestMailInput& input, TestAttachment attachment);
 
 }  // namespace tallix

@@ -38,7 +38,7 @@ RunDescription Describe(const Application& application, const ScheduledReport& s
             .rules = kUnattendedRules};
 }
 
-// Day, month and year of the run; no time of day, so a folder holds one result a day.
+// Day, month and year of the run without the time: a folder holds one result per day.
 std::string DayText(const Application& application) {
     const std::string date = ShortDate(application.clock.Now());
     return fmt::format("{}_{}_{}", Left(date, 2), Mid(date, 4, 2), Right(date, 4));

@@ -1,5 +1,5 @@
-// Runs one scheduled report with nobody at the screen: always comma text, delivered to
-// a folder or by mail. Nothing is shown, asked or logged; every failure is silent.
+// Runs one scheduled report unattended: always comma text, delivered to a folder or by mail.
+// Nothing is shown, asked or logged; every failure is silent.
 #pragma once
 
 #include "reporting/catalogue.h"
@@ -8,9 +8,9 @@
 
 namespace tallix {
 
-/// Makes the report and delivers it. A target file that exists is left as it is and the
-/// result stays behind in the working files, where the next run removes it. Schedules
-/// start at the same minute and share the working files: each waits for its turn.
+/// Makes the report and delivers it. An existing target file is kept; the new result then
+/// stays in the working files until the next run removes it. Schedules start in the same
+/// minute and share the working files: each waits for its turn.
 void RunScheduledReport(Application& application, ReportFlags& flags, const ScheduledReport& schedule);
 
 }  // namespace tallix

@@ -1,22 +1,15 @@
-// The Scheduled Reports window ("Form16"): defines the reports that run with nobody at
-// the screen. One schedule at a time is defined on its left side; the list of all is on
-// the right. Closing it shows the Options window again.
+// The Scheduled Reports window ("Form16"): defines the reports that run unattended. One
+// schedule at a time is defined on the left, the list of all is on the right. Closing it
+// shows the Options window again.
 #pragma once
 
-#include <QButtonGroup>
-#include <QComboBox>
-#include <QGridLayout>
-#include <QLineEdit>
 #include <QListView>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QStringListModel>
-#include <array>
-#include <vector>
 
-#include "scheduling/schedules.h"
 #include "session/application.h"
 #include "toolkit/form.h"
+#include "windows/scheduling/schedule_definition.h"
 
 namespace tallix {
 
@@ -31,19 +24,6 @@ protected:
     void OnUnload() override;
 
 private:
-    /// An input of a parameter with its label.
-    struct ParameterInput {
-        QWidget* label;
-        QLineEdit* field;  ///< of a time list: its own
-        QWidget* input;
-    };
-
-    QLayout* NameRows();
-    QLayout* FrequencyRows();
-    QWidget* OutputFrame();
-    QLayout* ParameterRows();
-    void AddParameter(QGridLayout& grid, int row, int column, Parameter parameter, const QString& caption);
-    void AddTimes(QGridLayout& grid, int row, int column);
     QLayout* TaskColumn();
     QLayout* ExitRow(QPushButton* exit);
     void ConnectInputs();
@@ -51,29 +31,15 @@ private:
     void ListTasks();
     QString SelectedTask() const;
     void EnableTaskButtons();
-    void EnableParameters();
-    void ChooseFolder();
-    void BeginDefinition(bool editing);
+    void LeaveTasks();
     void EndDefinition();
     void CreateNew();
     void EditSelected();
     void DeleteSelected();
-    void SaveSchedule();
-    Schedule Defined() const;
+    void SaveDefined();
 
     Application& application_;
-    bool editing_ = false;
-
-    QWidget* definition_;
-    QLineEdit* name_;
-    QComboBox* report_;
-    QButtonGroup* frequencies_;  ///< ids are places in kFrequencies
-    QRadioButton* toFile_;
-    QRadioButton* byMail_;
-    QLineEdit* location_;
-    std::array<ParameterInput, kParameters> parameters_{};
-    QPushButton* save_;
-
+    ScheduleDefinition* definition_;
     QListView* tasks_;
     QStringListModel* taskNames_;
     QPushButton* create_;
