@@ -1,5 +1,5 @@
-// What a job cannot be faster than: the bare client library fetching the same rows and
-// writing as many bytes, or sending the same rows one statement each.
+// What a job is compared with: the bare client library fetching the same rows and writing
+// as many bytes, or sending the same rows one statement each.
 #pragma once
 
 #include <cstdint>

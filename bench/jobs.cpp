@@ -16,7 +16,6 @@
 #include "floors.h"
 #include "reporting/custom_reports.h"
 #include "reporting/report_run.h"
-#include "session/database.h"
 #include "toolkit/progress_panel.h"
 #include "toolkit/qt_events.h"
 
@@ -218,25 +217,23 @@ void FetchBothAndWrite(World& world, std::int64_t bytes) {
 }
 
 void SendCosts(World& world, std::int64_t) {
-    OpenDatabase(world.application.session);
-    ado::Recordset costs;
-    costs.Open("SELECT * FROM tblcostcount", OpenConnection(world.application.session));
+    const ado::Rows costs =
+        DatabaseScope(world.application.session.database).Query("SELECT * FROM tblcostcount");
     const std::unique_ptr<BareClient> client = OpenBareClient(world.Parts());
     client->Execute("DELETE FROM tblcostcount");
     client->Fetch("SELECT * FROM tblphonedata WHERE Internal = '0'");
     const ado::Column id = costs.Find("DataID");
     const ado::Column cost = costs.Find("Cost");
-    for (std::int64_t i = 0; i < costs.RecordCount(); ++i, costs.MoveNext()) {
-        client->Execute(fmt::format("INSERT INTO tblcostcount(DataID, Cost) VALUES ({}, '{}')",
-                                    costs.Text(id), costs.Text(cost)));
+    for (const ado::Row row : costs) {
+        client->Execute(fmt::format("INSERT INTO tblcostcount(DataID, Cost) VALUES ({}, '{}')", row.Text(id),
+                                    row.Text(cost)));
     }
 }
 
-// Archiving and restoring leave other calls behind: those that were there come back from a
-// copy of the table.
+// Archiving and restoring change the calls. A copy of the table brings them back.
 constexpr const char* kCopyCalls = "CREATE TABLE IF NOT EXISTS benchcalls AS SELECT * FROM tblphonedata";
 
-// From now on the calls are in their backup alone, which an earlier job has mostly left.
+// Makes the backup where no earlier job has done it, and deletes the calls.
 void TakeCallsAway(World& world) {
     if (!std::filesystem::exists(world.application.folder / kBackupName)) BackUpCalls(world);
     const std::unique_ptr<BareClient> client = OpenBareClient(world.Parts());
@@ -258,24 +255,22 @@ void BringCallsBack(World& world) {
     }
 }
 
-/// Sends a statement for each call, which `statement` makes of its values in the order of
-/// the table.
-void SendForEachCall(World& world, const std::function<std::string(const ado::Recordset&)>& statement) {
-    OpenDatabase(world.application.session);
-    ado::Recordset calls;
-    calls.Open(kAllCalls, OpenConnection(world.application.session));
+/// Sends the statement that `statement` makes of each call, where it is set, and deletes the
+/// call.
+void SendForEachCall(World& world, const std::function<std::string(const ado::Row&)>& statement) {
+    const ado::Rows calls = DatabaseScope(world.application.session.database).Query(kAllCalls);
     const std::unique_ptr<BareClient> client = OpenBareClient(world.Parts());
-    for (std::int64_t i = 0; i < calls.RecordCount(); ++i, calls.MoveNext()) {
-        if (statement) client->Execute(statement(calls));
-        client->Execute(fmt::format("DELETE FROM tblphonedata WHERE ID = {}", calls.Text("ID")));
+    for (const ado::Row call : calls) {
+        if (statement) client->Execute(statement(call));
+        client->Execute(fmt::format("DELETE FROM tblphonedata WHERE ID = {}", call.Text("ID")));
     }
 }
 
-std::string ArchiveRow(const ado::Recordset& calls) {
+std::string ArchiveRow(const ado::Row& call) {
     std::string values;
     for (const char* column : kArchiveColumns) {
         if (!values.empty()) values += ", ";
-        values.append("'").append(calls.Text(column)).append("'");
+        values.append("'").append(call.Text(column)).append("'");
     }
     return fmt::format("INSERT INTO tblarchive({}) VALUES ({})", fmt::join(kArchiveColumns, ", "), values);
 }

@@ -1,5 +1,5 @@
-// Time and memory of one piece of work, each in a process of its own, so that no peak
-// hides behind an earlier one.
+// Time and memory of one piece of work, each in a process of its own: a peak does not hide a
+// later one.
 #pragma once
 
 #include <cstdint>

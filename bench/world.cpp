@@ -5,7 +5,6 @@
 
 #include "database/connection.h"
 #include "database/schema.h"
-#include "session/database.h"
 #include "setup/demo_data.h"
 #include "setup/reference_data.h"
 
@@ -43,13 +42,12 @@ ado::ConnectionParts World::Parts() const {
 }
 
 void World::Fill(std::uint64_t calls) {
-    OpenDatabase(application.session);
-    ado::Connection& connection = OpenConnection(application.session);
+    const DatabaseScope database(application.session.database);
+    ado::Connection& connection = database.Connection();
     std::ostringstream said;
     LayDownSchema(connection, kData / "schema");
     FillReferenceData(connection, kData / "reference", said);
     AddDemonstration(connection, calls, kSeed, said);
-    CloseDatabase(application.session);
 }
 
 }  // namespace tallix::bench

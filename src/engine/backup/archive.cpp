@@ -7,6 +7,7 @@
 #include <stdexcept>
 
 #include "backup/path_parts.h"
+#include "backup/serving_database.h"
 #include "backup/zip_files.h"
 #include "compat/service_command.h"
 #include "database/recordset.h"
@@ -14,7 +15,6 @@
 #include "platform/buffered_file.h"
 #include "platform/paths.h"
 #include "session/access_log.h"
-#include "session/database.h"
 #include "text/code_page.h"
 
 namespace tallix {
@@ -31,8 +31,8 @@ constexpr char kTemporaryName[] = "archive.tmp";
 constexpr std::string_view kStopCollector = "Net Stop TALLIX_COLLECTOR";
 constexpr std::string_view kStartCollector = "Net Start TALLIX_COLLECTOR";
 
-// A line of the file does not name the site of its call; a row of tblarchive does, and has
-// a number of its own.
+// A line of the file has the number of its call and no site. A row of tblarchive has the
+// site and a number of its own.
 constexpr std::array<std::string_view, 15> kFileColumns = {
     "ID",       "Date",  "Time",        "Duration",  "Extension", "NumRings", "OrigNum", "DestNum",
     "Internal", "Error", "Supervision", "Speedcall", "Forward",   "Trunk",    "Account"};
@@ -89,7 +89,7 @@ CallColumns Find(const ado::Recordset& set, const std::array<std::string_view, k
     return columns;
 }
 
-/// The text file. Each line has left the program when its function returns.
+/// The text file. Each line is in the file when its function returns.
 class ArchiveText {
 public:
     explicit ArchiveText(std::filesystem::path path) : path_(std::move(path)), file_(path_) {}
@@ -128,11 +128,15 @@ void Close(ado::Recordset& set) {
     set.Close();
 }
 
-/// The calls of one request on their way.
+/// Moves the calls of one request.
 class CallMove {
 public:
+    /// Opens the database.
     CallMove(Application& application, const ArchiveRequest& request, RunProgress& records)
-        : application_(application), session_(application.session), request_(request), records_(records) {}
+        : application_(application),
+          request_(request),
+          records_(records),
+          database_(OpenServing(application.events, application.session.database)) {}
 
     void Run();
 
@@ -140,7 +144,7 @@ private:
     using StoreCall = std::function<void()>;
 
     void Open(ado::Recordset& set, std::string_view statement) {
-        application_.events.ServeDuring([&] { set.Open(statement, OpenConnection(session_)); });
+        application_.events.ServeDuring([&] { set = database_.Edit(statement); });
     }
     void MoveToFile();
     void MoveToTable();
@@ -148,15 +152,14 @@ private:
     void Zip() const;
 
     Application& application_;
-    Session& session_;
     const ArchiveRequest& request_;
     RunProgress& records_;
+    DatabaseScope database_;
     ado::Recordset calls_;
     ado::Recordset archive_;
 };
 
 void CallMove::Run() {
-    application_.events.ServeDuring([&] { OpenDatabase(session_); });
     Open(calls_, "select * from tblphonedata");
     if (calls_.RecordCount() == 0) {
         application_.prompts.Show(NoCallsMessage());
@@ -167,7 +170,6 @@ void CallMove::Run() {
     }
     Close(calls_);
     Close(archive_);
-    CloseDatabase(session_);
 }
 
 void CallMove::MoveToFile() {
@@ -246,9 +248,8 @@ void RunArchive(Application& application, ArchiveView& view) {
     view.HideProgress();
     application.prompts.Show(CompleteMessage());
     view.ResetProgress();
-    OpenDatabase(application.session);
-    WriteLog(application.session, application.clock, "Data Archived");
-    CloseDatabase(application.session);
+    const Session& session = application.session;
+    WriteLog(DatabaseScope(session.database), session, application.clock, "Data Archived");
 }
 
 }  // namespace tallix

@@ -15,7 +15,7 @@ namespace tallix {
 enum class ArchivePeriod { None, EntireYear, SelectedMonths };
 enum class ArchiveDestination { ToFile, ToDatabase };
 
-/// Where an archive file goes. The name is for the eye: the location alone decides.
+/// Where an archive file goes. The location alone decides; the name is only shown.
 struct ArchiveTarget {
     std::string name;
     std::string location;
@@ -34,11 +34,11 @@ struct ArchiveRequest {
 /// The months to choose from, 01/2002 to 12/2020.
 std::vector<std::string> ArchiveMonths();
 
-/// What a chosen path means for the two fields: a location that does not end in ".SAF"
+/// The target of a chosen path: a location that does not end in ".SAF"
 /// gets that ending, the name is the path's own.
 ArchiveTarget TargetOfPath(const std::filesystem::path& chosen);
 
-/// Whether the date of a call lies in the period. Months compare as text, their digits
+/// Whether the date of a call is in the period. Months compare as text, their digits
 /// first: from 01/2010 to 06/2010 takes 03/2009 as well, from 11/2009 to 02/2010 nothing.
 bool IsInPeriod(const ArchiveRequest& request, std::string_view date);
 
@@ -60,14 +60,14 @@ public:
     virtual void ResetProgress() = 0;
 };
 
-/// Asks whether to archive, and does it. A request that is not complete ends it without a
-/// word, with the progress shown and the collector service stopped.
+/// Asks whether to archive, and does it. An incomplete request ends it without a message,
+/// with the progress shown and the collector service stopped.
 ///
-/// A call is deleted when its line is in the file or its row in tblarchive, one by one:
-/// whatever ends the run early, the calls deleted by then are kept there, and no other is
-/// gone. Failures of the database, or of the temporary file archive.tmp in the application
-/// folder, are thrown, with the collector service stopped. A zip file that cannot be
-/// written is told by nobody, and its calls are lost.
+/// Each call is deleted after its line is in the file or its row is in tblarchive: a run
+/// that ends early has deleted no call that is not stored there. Failures of the database,
+/// or of the temporary file archive.tmp in the application folder, are thrown, with the
+/// collector service stopped. A zip file that cannot be written is not reported, and its
+/// calls are lost.
 void RunArchive(Application& application, ArchiveView& view);
 
 }  // namespace tallix

@@ -3,7 +3,8 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "session/database.h"
+#include "backup/serving_database.h"
+#include "session/access_log.h"
 
 namespace tallix {
 namespace {
@@ -29,17 +30,22 @@ void WriteBackup(Application& application, const BackupChannel& channel, const s
     channel.RequireFree();
     progress.ShowOverall(0, groups.size());
     BackupWriter writer(file, application.events);
-    application.events.ServeDuring([&] { OpenDatabase(application.session); });
+    const DatabaseScope database = OpenServing(application.events, application.session.database);
     const auto showRow = [&](std::int64_t row, std::int64_t rows) { progress.ShowModule(row, rows); };
     std::size_t done = 0;
     for (const BackupTable& table : BackupTables()) {
         if (!groups.contains(table.group)) continue;
-        writer.WriteTable(application.session, table, showRow);
+        writer.WriteTable(database, table, showRow);
         if (IsLastOfGroup(table)) progress.ShowOverall(++done, groups.size());
         progress.ClearModule();
     }
     writer.Close();
-    CloseDatabase(application.session);
+}
+
+void LogBackup(const Application& application, const std::filesystem::path& file) {
+    const Session& session = application.session;
+    WriteLog(DatabaseScope(session.database), session, application.clock,
+             "Backup Created - " + file.string());
 }
 
 }  // namespace tallix

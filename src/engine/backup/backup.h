@@ -10,12 +10,12 @@
 
 namespace tallix {
 
-/// The one file that the window may write. A restore takes it and keeps it until the
+/// The output file of the window, one per run of the program. A restore holds it until the
 /// program ends, so that no backup can be made after a restore in the same run.
 class BackupChannel {
 public:
-    /// Cuts the file to nothing and holds it open. A channel that is held already keeps
-    /// its file and leaves this one alone; a file that cannot be made is passed over.
+    /// Empties the file and holds it open. Has no effect on a channel that holds a file
+    /// already. A file that cannot be created is passed over.
     void Hold(const std::filesystem::path& file);
 
     /// Throws std::runtime_error while a file is held.
@@ -36,8 +36,11 @@ public:
 
 /// Writes the tables of the chosen groups to the file, replacing it. Throws what stopped
 /// it: DatabaseError, ConversionError for a raw line too short to be cut, and
-/// std::runtime_error for the file. The file is then left as far as it was written.
+/// std::runtime_error for the file. The file then keeps what was written until then.
 void WriteBackup(Application& application, const BackupChannel& channel, const std::filesystem::path& file,
                  const std::set<BackupGroup>& groups, BackupProgress& progress);
+
+/// Adds the backup to the access log. Throws DatabaseError.
+void LogBackup(const Application& application, const std::filesystem::path& file);
 
 }  // namespace tallix

@@ -8,7 +8,6 @@
 #include <system_error>
 
 #include "failures/errors.h"
-#include "session/database.h"
 #include "text/text_conversion.h"
 
 namespace tallix {
@@ -29,10 +28,10 @@ std::string_view WithoutTail(ado::Value value) {
     return Left(*value, length - kCutFromRawLines);
 }
 
-void AppendValues(std::string& line, const ado::Recordset& rows, const std::vector<ado::Column>& columns,
+void AppendValues(std::string& line, const ado::Row& row, const std::vector<ado::Column>& columns,
                   std::size_t cutPlace) {
     for (std::size_t place = 0; place < columns.size(); ++place) {
-        const ado::Value value = rows.At(columns[place]);
+        const ado::Value value = row.At(columns[place]);
         line += '\'';
         line += place == cutPlace ? WithoutTail(value) : value.value_or("");
         line += "',";
@@ -41,7 +40,7 @@ void AppendValues(std::string& line, const ado::Recordset& rows, const std::vect
     line += kLineEnd;
 }
 
-std::vector<ado::Column> FindColumns(const ado::Recordset& rows, const BackupTable& table) {
+std::vector<ado::Column> FindColumns(const ado::Rows& rows, const BackupTable& table) {
     std::vector<ado::Column> columns;
     for (const std::string_view name : table.columns) columns.push_back(rows.Find(name));
     return columns;
@@ -84,26 +83,27 @@ BackupWriter::BackupWriter(const std::filesystem::path& file, EventQueue& events
     RequireComplete();
 }
 
-void BackupWriter::WriteTable(Session& session, const BackupTable& table, const RowProgress& progress) {
-    ado::Recordset rows;
-    events_.ServeDuring([&] { rows.Open(table.Query(), OpenConnection(session)); });
+void BackupWriter::WriteTable(const DatabaseScope& database, const BackupTable& table,
+                              const RowProgress& progress) {
+    ado::Rows rows;
+    events_.ServeDuring([&] { rows = database.Query(table.Query()); });
     const std::string prefix = table.LinePrefix();
     const std::vector<ado::Column> columns = FindColumns(rows, table);
     const auto cut = std::find(table.columns.begin(), table.columns.end(), table.cutColumn);
     const auto cutPlace = static_cast<std::size_t>(cut - table.columns.begin());
-    const std::int64_t count = rows.RecordCount();
-    for (std::int64_t row = 1; row <= count; ++row, rows.MoveNext()) {
-        if (progress) progress(row, count);
-        WriteLine(prefix, rows, columns, cutPlace);
+    std::int64_t number = 0;
+    for (const ado::Row row : rows) {
+        if (progress) progress(++number, rows.Count());
+        WriteLine(prefix, row, columns, cutPlace);
     }
 }
 
-void BackupWriter::WriteLine(const std::string& prefix, const ado::Recordset& rows,
+void BackupWriter::WriteLine(const std::string& prefix, const ado::Row& row,
                              const std::vector<ado::Column>& columns, std::size_t cutPlace) {
     std::string& line = file_.Waiting();
     const std::size_t begin = line.size();
     try {
-        AppendValues(line.append(prefix), rows, columns, cutPlace);
+        AppendValues(line.append(prefix), row, columns, cutPlace);
     } catch (...) {
         line.resize(begin);
         throw;

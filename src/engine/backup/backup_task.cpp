@@ -8,8 +8,8 @@ namespace {
 constexpr std::string_view kTaskName = "Backup TALLIX";
 constexpr std::string_view kTime = "00:04:00";
 
-// The quote that closes the command stands ahead of the argument's own; a reader of such
-// lines takes both for what they are meant to be.
+// The quote that closes the command comes before the argument's own. Reading the line back
+// accepts this order.
 constexpr std::string_view kArgument = R"(\"Backup"\")";
 
 }  // namespace

@@ -5,8 +5,8 @@
 
 namespace tallix {
 
-/// Has the program run with the argument "Backup" daily at 00:04. A task that is there
-/// already gives way to the new one. Nothing tells whether it worked.
+/// Runs the program with the argument "Backup" daily at 00:04. Replaces an existing task.
+/// Failures are not reported.
 void CreateBackupTask(Application& application);
 
 /// Removes that task.

@@ -20,8 +20,8 @@ enum class PathPart {
     Whole = 10,         ///< the path itself
 };
 
-/// A piece of a path whose folders stand between "/" or "\"; the piece has "/". Empty where
-/// the path has none.
+/// A piece of a path with "/" or "\" between its folders; the piece has "/". Empty where the
+/// path has no such piece.
 std::string PieceOf(std::string_view path, PathPart part);
 
 }  // namespace tallix

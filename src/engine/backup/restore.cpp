@@ -4,8 +4,8 @@
 #include <array>
 #include <string>
 
+#include "backup/serving_database.h"
 #include "failures/attempt.h"
-#include "session/database.h"
 #include "text/text_lines.h"
 
 namespace tallix {
@@ -35,8 +35,9 @@ std::optional<BackupGroup> GroupOfLine(std::string_view line) {
 
 void ReplayBackup(Application& application, const std::filesystem::path& file,
                   const std::set<BackupGroup>& groups, const std::function<void()>& nextLine) {
-    Session& session = application.session;
-    Attempt([&] { application.events.ServeDuring([&] { OpenDatabase(session); }); });
+    const DatabaseAddress& address = application.session.database;
+    DatabaseScope database;
+    Attempt([&] { database = OpenServing(application.events, address); });
     TextLines lines(file);
     std::string statement;
     while (const std::string* line = lines.Next()) {
@@ -44,10 +45,9 @@ void ReplayBackup(Application& application, const std::filesystem::path& file,
         const std::optional<BackupGroup> group = GroupOfLine(*line);
         if (!group || !groups.contains(*group)) continue;
         statement = *line;
-        std::replace(statement.begin(), statement.end(), '\'', StringQuote(session.database.kind).front());
-        Attempt([&] { OpenConnection(session).Execute(statement); });
+        std::replace(statement.begin(), statement.end(), '\'', StringQuote(address.kind).front());
+        Attempt([&] { database.Execute(statement); });
     }
-    CloseDatabase(session);
 }
 
 }  // namespace tallix

@@ -1,6 +1,5 @@
-// Replays a dump into the connected database: of the lines that begin as the dump's do,
-// those of the chosen groups are executed. Nothing is deleted, and every failure is
-// passed over.
+// Replays a dump into the database: executes the lines of the chosen groups. Nothing is
+// deleted, and every failure is passed over.
 #pragma once
 
 #include <filesystem>
@@ -14,13 +13,12 @@
 
 namespace tallix {
 
-/// The group whose choice lets a line through, by the line's first characters; nothing
-/// for a line that is never executed. The rows of the telephone system begin as the calls
-/// do and are let through with them.
+/// The group that a line belongs to, by its first characters; nothing for a line that is
+/// never executed. The rows of the telephone system begin like calls and belong to them.
 std::optional<BackupGroup> GroupOfLine(std::string_view line);
 
 /// Reads every line of the file, calls `nextLine` before each, and executes those of the
-/// chosen groups with every apostrophe turned into the session's literal delimiter.
+/// chosen groups with every apostrophe turned into the server's literal delimiter.
 /// A missing file has no lines.
 void ReplayBackup(Application& application, const std::filesystem::path& file,
                   const std::set<BackupGroup>& groups, const std::function<void()>& nextLine);

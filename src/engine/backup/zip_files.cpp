@@ -41,7 +41,7 @@ std::string WordsOf(int result) {
     return words;
 }
 
-/// An archive on its way to its file, which is written when it is closed.
+/// An archive that is written to its file when it is closed.
 class ZipWriter {
 public:
     ZipWriter(const fs::path& file, int flags)
@@ -56,11 +56,11 @@ public:
     }
 
     /// Adds a file, or a folder's files, under its name without the root.
-    void Add(const fs::path& root, const std::string& name, bool recurses) {
+    void Add(const fs::path& root, const std::string& name, ZipRecursion recursion) {
         const fs::path file = root / ToNativePath(name);
         std::error_code error;
         if (!fs::is_directory(file, error)) return AddFile(file, root);
-        if (!recurses) return;
+        if (recursion == ZipRecursion::None) return;
         for (const auto& below : fs::recursive_directory_iterator(file, error)) {
             if (below.is_regular_file(error)) AddFile(below.path(), root);
         }
@@ -68,7 +68,7 @@ public:
 
     void Close() {
         if (zip_close(archive_.get()) == 0) {
-            static_cast<void>(archive_.release());  // it is gone with its closing
+            static_cast<void>(archive_.release());  // zip_close has freed it
         } else {
             NoteFailure();
         }
@@ -122,8 +122,7 @@ int ZipFiles(EventQueue& events, Prompts& prompts, const ZipOrder& order) {
         prompts.Show({.title = "Tallix Reports", .text = kNoLibrary});
         return writer.Result();
     }
-    const bool recurses = order.recursion != ZipRecursion::None;
-    for (const std::string& name : order.names) writer.Add(order.rootDirectory, name, recurses);
+    for (const std::string& name : order.names) writer.Add(order.rootDirectory, name, order.recursion);
     events.ServeDuring([&] { writer.Close(); });
     return writer.Result();
 }
@@ -149,7 +148,8 @@ int CGZipFiles::MakeZipFile() {
         if (Encrypted && AskPassword) writer.SetPassword(AskPassword(kPasswordQuestion));
         const std::size_t end = std::min(names_.size(), kMostNames + 1);
         for (std::size_t name = 1; name < end; ++name) {
-            writer.Add(ToNativePath(RootDirectory), names_[name], RecurseFolders);
+            writer.Add(ToNativePath(RootDirectory), names_[name],
+                       RecurseFolders ? ZipRecursion::Folders : ZipRecursion::None);
         }
         writer.Close();
     }

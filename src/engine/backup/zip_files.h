@@ -1,8 +1,8 @@
 // The zip layer: standard ZIP files, deflated at the strongest level. ZipFiles makes the
-// archive of one job; CGZipFiles and CGUnzipFiles are the general way in and out.
+// archive of one job; CGZipFiles and CGUnzipFiles are the general interface.
 //
-// Nothing here throws but the list of names. A result code is 0 where all went well, else
-// the zip library's own number, with its words in GetLastMessage.
+// Only the list of names throws. A result code is 0 on success, else the zip library's own
+// number, with its text in GetLastMessage.
 #pragma once
 
 #include <cstdint>
@@ -32,7 +32,7 @@ public:
 /// What becomes of names that are folders, and where names are looked for.
 enum class ZipRecursion {
     None = 0,       ///< a folder is passed over
-    Folders = 1,    ///< a folder brings all that lies below it
+    Folders = 1,    ///< a folder adds everything below it
     UnderRoot = 2,  ///< the same; the mode of names that are looked for under the root
 };
 
@@ -44,9 +44,9 @@ struct ZipOrder {
     ZipRecursion recursion = ZipRecursion::None;
 };
 
-/// Makes an archive, in place of a file of that name, which stays as it was where the
-/// making fails. Events are served meanwhile. Returns the library's result and says nothing
-/// about it; only a library that cannot even begin is told to the person.
+/// Makes an archive, replacing the file. A failure leaves an existing file unchanged. Events
+/// are served meanwhile. Returns the library's result; only a failure to begin shows a
+/// message.
 int ZipFiles(EventQueue& events, Prompts& prompts, const ZipOrder& order);
 
 class CGZipFiles {
@@ -63,16 +63,16 @@ public:
 
     bool RecurseFolders = false;
     std::string ZipFileName;
-    bool Encrypted = false;           ///< with the word that AskPassword gives; a plain file without one
+    bool Encrypted = false;           ///< with the answer of AskPassword; a plain file where that is empty
     bool IncludeSystemFiles = false;  ///< kept; no file is a system file here
     std::string RootDirectory = "\\";
-    bool UpdatingZip = false;  ///< adds to an archive that is there, or replaces its members
+    bool UpdatingZip = false;  ///< adds to an existing archive, or replaces its members
 
     /// Is asked "Please Enter The Password!".
     std::function<std::string(const std::string& question)> AskPassword;
 
 private:
-    std::vector<std::string> names_ = {"querty"};  ///< a marker comes first, which is no file
+    std::vector<std::string> names_ = {"querty"};  ///< begins with a marker that is not a file
     std::string message_;
 };
 
@@ -89,17 +89,16 @@ public:
     std::string Extractdir;
     bool TestZip = false;           ///< reads and checks the members, and writes none
     bool ExtractList = false;       ///< only puts their names into the last message
-    bool HonorDirectories = false;  ///< makes the folders of the archive; else all lies in one
+    bool HonorDirectories = false;  ///< makes the folders of the archive; else all files go into one
     bool SpaceToUnderscore = false;
 
-    // A file that is there stays, unless one of these says otherwise.
+    // An existing file is kept unless one of these allows replacing it.
     bool OverWriteFiles = false;
     bool PromptOverwrite = false;   ///< asks "Overwrite " and the name, where AskOverwrite is set
     bool ExtractNewer = false;      ///< writes over files that are older than their member
     bool ExtractOnlyNewer = false;  ///< the same
 
-    // Kept for who sets them: names have one case here, texts their line ends, files no
-    // privileges, and there is no console.
+    // Stored only: names, line ends and privileges are not changed, and there is no console.
     int MessageLevel = 0;
     bool WriteToStdOut = false;
     bool ConvertCRtoCRLF = false;

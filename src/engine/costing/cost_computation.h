@@ -11,7 +11,7 @@ namespace tallix {
 /// Replaces the contents of tblcostcount: one row for each call with `Internal` "0"
 /// and a duration. Returns the number of calls priced. Failures of the database are
 /// passed over: what was computed until then stays, and rows that the server refuses
-/// cost only themselves. Opens the session's connection and closes it again.
-std::int64_t ComputeCosts(Session& session, const SettingsStore& settings);
+/// cost only themselves.
+std::int64_t ComputeCosts(const Session& session, const SettingsStore& settings);
 
 }  // namespace tallix

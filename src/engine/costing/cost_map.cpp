@@ -1,8 +1,6 @@
 #include "costing/cost_map.h"
 
-#include "database/recordset.h"
 #include "failures/attempt.h"
-#include "session/database.h"
 #include "text/text_pieces.h"
 
 namespace tallix {
@@ -16,53 +14,45 @@ bool HasOneLetter(const CostMapRow& row) {
     return Len(row.charge) == 1;
 }
 
-void TouchFirstRecord(Session& session) {
-    ado::Recordset map;
-    map.Open(kCostMap, OpenConnection(session));
+void UpdateFirstRecord(const DatabaseScope& database) {
+    ado::Recordset map = database.Edit(kCostMap);
     map.Collect("CostID", kMapClass);
     map.Update();
 }
 
 }  // namespace
 
-std::vector<CostMapRow> LoadCostMap(Session& session) {
+std::vector<CostMapRow> LoadCostMap(const Session& session) {
     std::vector<CostMapRow> rows;
-    Attempt([&] { OpenDatabase(session); });
     Attempt([&] {
-        ado::Recordset map;
-        map.Open(kCostMap, OpenConnection(session));
-        for (std::int64_t i = 1; i <= map.RecordCount(); ++i, map.MoveNext()) {
+        const DatabaseScope database(session.database);
+        for (const ado::Row row : database.Query(kCostMap)) {
             rows.push_back(
-                {.area = std::string(map.Text("Carrier")), .charge = std::string(map.Text("Package"))});
+                {.area = std::string(row.Text("Carrier")), .charge = std::string(row.Text("Package"))});
         }
     });
-    CloseDatabase(session);
     return rows;
 }
 
-void AppendAreaCodes(Session& session, std::vector<CostMapRow>& rows) {
-    Attempt([&] { OpenDatabase(session); });
+void AppendAreaCodes(const Session& session, std::vector<CostMapRow>& rows) {
     Attempt([&] {
-        ado::Recordset codes;
-        codes.Open("Select * From tblareaproviders", OpenConnection(session));
-        for (std::int64_t i = 1; i <= codes.RecordCount(); ++i, codes.MoveNext()) {
-            rows.push_back({.area = std::string(codes.Text("Code")), .charge = {}});
-            rows[static_cast<std::size_t>(i) - 1].charge = kLocal;
+        const DatabaseScope database(session.database);
+        std::size_t charged = 0;
+        for (const ado::Row row : database.Query("Select * From tblareaproviders")) {
+            rows.push_back({.area = std::string(row.Text("Code")), .charge = {}});
+            rows[charged++].charge = kLocal;
         }
     });
-    CloseDatabase(session);
 }
 
-bool SaveCostMap(Session& session, const std::vector<CostMapRow>& rows) {
-    bool valid = true;
-    Attempt([&] { OpenDatabase(session); });
-    Attempt([&] { OpenConnection(session).Execute("Delete * From tblcostmap"); });
-    for (auto row = rows.begin(); valid && row != rows.end(); ++row) {
-        valid = HasOneLetter(*row);
-        if (valid) Attempt([&] { TouchFirstRecord(session); });
+bool SaveCostMap(const Session& session, const std::vector<CostMapRow>& rows) {
+    const DatabaseScope database = DatabaseScope::TryOpen(session.database);
+    Attempt([&] { database.Execute("Delete * From tblcostmap"); });
+    for (const CostMapRow& row : rows) {
+        if (!HasOneLetter(row)) return false;
+        Attempt([&] { UpdateFirstRecord(database); });
     }
-    CloseDatabase(session);
-    return valid;
+    return true;
 }
 
 }  // namespace tallix

@@ -17,15 +17,15 @@ struct CostMapRow {
 };
 
 /// Reads the table in its stored order.
-std::vector<CostMapRow> LoadCostMap(Session& session);
+std::vector<CostMapRow> LoadCostMap(const Session& session);
 
 /// Appends a row for each code of the area code table and charges as many rows, counted from
 /// the top of the list, as local calls.
-void AppendAreaCodes(Session& session, std::vector<CostMapRow>& rows);
+void AppendAreaCodes(const Session& session, std::vector<CostMapRow>& rows);
 
 /// Empties the table and checks the charge of each row. Returns false at the first one that
 /// is not one character long, whatever the letter. No row is added: each round updates the
 /// first record of the table, and has no effect on an empty one.
-bool SaveCostMap(Session& session, const std::vector<CostMapRow>& rows);
+bool SaveCostMap(const Session& session, const std::vector<CostMapRow>& rows);
 
 }  // namespace tallix

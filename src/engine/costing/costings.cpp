@@ -1,8 +1,6 @@
 #include "costing/costings.h"
 
-#include "database/recordset.h"
 #include "failures/attempt.h"
-#include "session/database.h"
 #include "text/text_lines.h"
 
 namespace tallix {
@@ -15,12 +13,10 @@ constexpr char kAllCosts[] = "select * from tblcosts";
 
 enum FileField : std::size_t { kDescription, kNumber, kPrice };
 
-void ReadTariff(Session& session, Costings& costings) {
-    ado::Recordset costs;
-    costs.Open(kAllCosts, OpenConnection(session));
-    for (std::int64_t i = 1; i <= costs.RecordCount(); ++i, costs.MoveNext()) {
-        const std::string_view number = costs.Text("Number");
-        const std::string_view cost = costs.Text("Cost");
+void ReadTariff(const DatabaseScope& database, Costings& costings) {
+    for (const ado::Row row : database.Query(kAllCosts)) {
+        const std::string_view number = row.Text("Number");
+        const std::string_view cost = row.Text("Cost");
         if (number == kStandardNumber) {
             costings.standardCost = cost;
         } else {
@@ -37,6 +33,15 @@ void AddRow(ado::Recordset& costs, const TariffRow& row, std::string_view costCl
     costs.Update();
 }
 
+void WriteTariff(const DatabaseScope& database, const Costings& costings) {
+    Attempt([&] { database.Execute("DELETE FROM tblcosts"); });
+    Attempt([&] {
+        ado::Recordset costs = database.Edit(kAllCosts);
+        for (const TariffRow& row : costings.rows) Attempt([&] { AddRow(costs, row, kTariffClass); });
+        AddRow(costs, {std::string(kStandardNumber), costings.standardCost}, kStandardClass);
+    });
+}
+
 std::vector<std::string> Fields(const std::string& line) {
     std::vector<std::string> fields;
     std::size_t start = 0;
@@ -50,25 +55,15 @@ std::vector<std::string> Fields(const std::string& line) {
 
 }  // namespace
 
-Costings LoadCostings(Session& session, const SettingsStore& settings) {
+Costings LoadCostings(const Session& session, const SettingsStore& settings) {
     Costings costings;
-    Attempt([&] { OpenDatabase(session); });
-    Attempt([&] { ReadTariff(session, costings); });
-    CloseDatabase(session);
+    Attempt([&] { ReadTariff(DatabaseScope(session.database), costings); });
     costings.unit = ShownUnit(settings.Read(kBillingSetting));
     return costings;
 }
 
-void SaveCostings(Session& session, const SettingsStore& settings, const Costings& costings) {
-    Attempt([&] { OpenDatabase(session); });
-    Attempt([&] { OpenConnection(session).Execute("DELETE FROM tblcosts"); });
-    Attempt([&] {
-        ado::Recordset costs;
-        costs.Open(kAllCosts, OpenConnection(session));
-        for (const TariffRow& row : costings.rows) Attempt([&] { AddRow(costs, row, kTariffClass); });
-        AddRow(costs, {std::string(kStandardNumber), costings.standardCost}, kStandardClass);
-    });
-    CloseDatabase(session);
+void SaveCostings(const Session& session, const SettingsStore& settings, const Costings& costings) {
+    WriteTariff(DatabaseScope::TryOpen(session.database), costings);
     settings.Write(kBillingSetting, costings.unit == BillingUnit::Second ? kSecondText : kMinuteText);
 }
 

@@ -31,12 +31,12 @@ struct Costings {
 inline constexpr std::string_view kNoStandardCost = "0.00";  ///< of a new tariff
 
 /// Reads the table in its stored order, and the billing unit.
-Costings LoadCostings(Session& session, const SettingsStore& settings);
+Costings LoadCostings(const Session& session, const SettingsStore& settings);
 
 /// Replaces the table and stores the billing unit. Deleting and writing are not one
 /// transaction: a failure after the deletion leaves the rows that were written until then.
 /// A row without a cost is stored without one.
-void SaveCostings(Session& session, const SettingsStore& settings, const Costings& costings);
+void SaveCostings(const Session& session, const SettingsStore& settings, const Costings& costings);
 
 /// Appends the entries of a costing file: lines of description, number and cost between
 /// commas. The cost of a line goes to the row at the place of the line before it, counted

@@ -1,8 +1,6 @@
 #include "costing/tariff.h"
 
-#include "database/recordset.h"
 #include "failures/attempt.h"
-#include "session/database.h"
 #include "text/text_conversion.h"
 
 namespace tallix {
@@ -10,21 +8,20 @@ namespace {
 
 constexpr std::size_t kShortestPrefix = 3;
 
-UnitCost ReadStandard(Session& session) {
+UnitCost ReadStandard(const DatabaseScope& database) {
     UnitCost cost;
     Attempt([&] {
-        ado::Recordset row;
-        row.Open("SELECT * FROM tblcosts WHERE Number = " + Quoted(session, "Default"),
-                 OpenConnection(session));
-        if (row.RecordCount() > 0) ReadUnitCost(row.Text("Cost"), cost);
+        const ado::Rows rows =
+            database.Query("SELECT * FROM tblcosts WHERE Number = " + database.Quoted("Default"));
+        if (!rows.IsEmpty()) ReadUnitCost(rows.First().Text("Cost"), cost);
     });
     return cost;
 }
 
 }  // namespace
 
-Tariff::Tariff(Session& session)
-    : costs_(session, "tblcosts", "Number", "Cost"), standard_(ReadStandard(session)) {}
+Tariff::Tariff(const DatabaseScope& database)
+    : costs_(database, "tblcosts", "Number", "Cost"), standard_(ReadStandard(database)) {}
 
 std::optional<std::string_view> Tariff::Match(std::string_view number) {
     const std::size_t length = Len(number);

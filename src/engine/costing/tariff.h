@@ -13,10 +13,11 @@ namespace tallix {
 
 class Tariff {
 public:
-    /// Reads the table over the session's open connection. A table that cannot be read
-    /// gives an empty tariff. `session` must outlive the tariff and stay connected: odd
-    /// numbers are looked up by the server.
-    explicit Tariff(Session& session);
+    /// Reads the table. A table that cannot be read gives an empty tariff. `database` must
+    /// outlive the tariff: numbers with other characters than digits are looked up by the
+    /// server.
+    explicit Tariff(const DatabaseScope& database);
+    explicit Tariff(const Session& session) : Tariff(session.DBConn) {}
 
     /// The cost of the "Default" row; zero where there is none.
     const UnitCost& Standard() const { return standard_; }

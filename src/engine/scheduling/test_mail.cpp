@@ -2,10 +2,8 @@
 
 #include <optional>
 
-#include "database/recordset.h"
 #include "failures/attempt.h"
 #include "platform/paths.h"
-#include "session/database.h"
 #include "text/text_conversion.h"
 
 namespace tallix {
@@ -15,14 +13,10 @@ constexpr char kTitle[] = "Tallix Reports";
 constexpr char kLogo[] = "\\Company Docs\\Logo.jpg";
 
 /// The address of the first site. Nothing without one.
-std::optional<std::string> Recipient(Session& session) {
-    OpenDatabase(session);
-    std::optional<std::string> address;
-    ado::Recordset sites;
-    sites.Open("select * from tblsite", OpenConnection(session));
-    if (sites.RecordCount() > 0) address = sites.Text("Email");
-    CloseDatabase(session);
-    return address;
+std::optional<std::string> Recipient(const Session& session) {
+    const ado::Rows sites = DatabaseScope(session.database).Query("select * from tblsite");
+    if (sites.IsEmpty()) return std::nullopt;
+    return std::string(sites.First().Text("Email"));
 }
 
 MailServer ServerOf(const TestMailInput& input) {

@@ -6,7 +6,6 @@
 
 #include "backup/restore.h"
 #include "session/access_log.h"
-#include "session/database.h"
 #include "toolkit/dialog_keys.h"
 #include "toolkit/main_menu_form.h"
 #include "toolkit/style.h"
@@ -249,9 +248,7 @@ void BackupWindow::Backup() {
     }
     application_.prompts.Show(kBackedUp);
     Unload();
-    OpenDatabase(application_.session);
-    WriteLog(application_.session, application_.clock, "Backup Created - " + location.string());
-    CloseDatabase(application_.session);
+    LogBackup(application_, location);
 }
 
 void BackupWindow::Restore() {

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "session/database.h"
 #include "support/test_application.h"
 
 namespace tallix {
@@ -13,11 +12,12 @@ protected:
     Tariff ReadTariff(const test::TestApplication::Row& costs) {
         for (const auto& [number, cost] : costs)
             test_.Insert("tblcosts", {{"Number", number}, {"Cost", cost}});
-        OpenDatabase(test_.application.session);
-        return Tariff(test_.application.session);
+        database_ = DatabaseScope(test_.application.session.database);
+        return Tariff(database_);
     }
 
     test::TestApplication test_;
+    DatabaseScope database_;
 };
 
 TEST_F(CallPricingTest, TariffNarrowsThePrefixUntilOneRowIsLeft) {
