@@ -39,14 +39,13 @@ void WriteReport(World& world, const std::string& name, const std::string& colum
 }
 
 // Runs a report over all calls and returns the size of its page.
+template <typename Run>
 std::int64_t RunReport(World& world, const std::string& columns, const std::string& options,
-                       const RunRules& rules, RunProgress& progress) {
+                       RunProgress& progress) {
     WriteReport(world, "Bench", columns, options);
     ReportFlags flags;
-    ReportRun(world.application, flags, progress)
-        .Make({.reportName = "Bench",
-               .reportFile = PresetReportFile(world.application.folder, "Bench"),
-               .rules = rules});
+    const Run run = {.flags = flags, .reportFile = PresetReportFile(world.application.folder, "Bench")};
+    ReportRun(world.application, progress).Make({.reportName = "Bench", .kind = run});
     return static_cast<std::int64_t>(std::filesystem::file_size(PageFile(world.application)));
 }
 
@@ -74,15 +73,14 @@ struct ShownWork {
 
 std::int64_t PlainReport(World& world) {
     NoProgress nobody;
-    return RunReport(world, kPlainColumns, "", kUnattendedRules, nobody);
+    return RunReport<UnattendedRun>(world, kPlainColumns, "", nobody);
 }
 
 std::int64_t CustomPage(World& world) {
     CustomReport report;
     report.shown.fill(true);
-    ReportFlags flags;
     NoProgress nobody;
-    ReportRun(world.application, flags, nobody).Make(DescribeCustomRun("Bench", report));
+    ReportRun(world.application, nobody).Make({.reportName = "Bench", .kind = CustomRun{report}});
     return static_cast<std::int64_t>(std::filesystem::file_size(PageFile(world.application)));
 }
 
@@ -90,7 +88,7 @@ std::int64_t FullReport(World& world, const std::string& costCompute) {
     world.application.settings.Write("Providers", "2");
     world.application.settings.Write("CostCompute", costCompute);
     NoProgress nobody;
-    return RunReport(world, kAllColumns, kWithCost, kUnattendedRules, nobody);
+    return RunReport<UnattendedRun>(world, kAllColumns, kWithCost, nobody);
 }
 
 std::int64_t PresetPage(World& world) {
@@ -101,7 +99,7 @@ std::int64_t PresetPage(World& world) {
     world.application.settings.Write("Providers", "2");
     world.application.settings.Write("CostCompute", "1");
     ShownWork shown;
-    return RunReport(world, kAllColumns, kWithCost, kPresetRules, shown.records);
+    return RunReport<PresetRun>(world, kAllColumns, kWithCost, shown.records);
 }
 
 std::int64_t Costs(World& world) {

@@ -43,6 +43,10 @@ std::string Keys(const KeyList& list, const TestApplication::Row& values) {
     return text;
 }
 
+const KeyList kColumns = {
+    {"Date", "Time", "Duration", "Extension", "Name", "NumRings", "OrigNum", "DestNum", "Internal", "Error",
+     "Supervision", "Speedcall", "Forward", "Trunk", "Account", "Area", "Site", "Sum"},
+    "False"};
 const KeyList kSwitches = {
     {"Date", "Duration", "Extension", "Account", "Site", "Group", "Time", "Cost", "Hours"}, "False"};
 const KeyList kTexts = {{"Title", "Where", "Sum", "Top"}, ""};
@@ -129,11 +133,9 @@ void TestApplication::InsertCall(const Row& changes) {
 
 std::filesystem::path TestApplication::WriteReport(const std::string& name, const Row& data,
                                                    const Row& options) {
-    KeyList columns = {{}, "False"};
-    for (std::size_t i = 0; i < kDataKeys; ++i) columns.keys.emplace_back(NameOf(static_cast<DataKey>(i)));
     std::filesystem::path file = PresetReportFile(application.folder, name);
     std::filesystem::create_directories(file.parent_path());
-    std::ofstream(file, std::ios::binary) << "[Data]\r\n" + Keys(columns, data) + "[Options]\r\n" +
+    std::ofstream(file, std::ios::binary) << "[Data]\r\n" + Keys(kColumns, data) + "[Options]\r\n" +
                                                  Keys(kSwitches, options) + Keys(kTexts, options);
     return file;
 }

@@ -10,11 +10,6 @@ namespace tallix {
 
 namespace {
 
-constexpr std::array<std::string_view, kDataKeys> kDataKeyNames = {
-    "Date",  "Time",        "Duration",  "Extension", "Name",  "NumRings", "OrigNum", "DestNum", "Internal",
-    "Error", "Supervision", "Speedcall", "Forward",   "Trunk", "Account",  "Area",    "Site",    "Sum",
-};
-
 constexpr std::string_view kDataSection = "Data";
 constexpr std::string_view kOptionsSection = "Options";
 constexpr std::string_view kReportExtension = ".srt";
@@ -26,13 +21,15 @@ void ReadSwitch(const IniFile& report, std::string_view section, std::string_vie
 
 }  // namespace
 
-std::string_view NameOf(DataKey key) {
-    return kDataKeyNames[static_cast<std::size_t>(key)];
-}
-
 void ReportFlags::Read(const IniFile& report) {
-    for (std::size_t i = 0; i < kDataKeys; ++i) ReadSwitch(report, kDataSection, kDataKeyNames[i], data_[i]);
-    ReadSwitch(report, kOptionsSection, "Cost", cost_);
+    for (std::size_t place = 0; place < kReportColumns.size(); ++place) {
+        const PresetColumn& column = kReportColumns[place].preset;
+        if (column.key.empty()) continue;
+        const bool isOption = column.shownBy == ShownBy::OptionsKey;
+        ReadSwitch(report, isOption ? kOptionsSection : kDataSection, column.key, shown_[place]);
+    }
+    ReadSwitch(report, kDataSection, "Internal", internal_);
+    ReadSwitch(report, kDataSection, "Sum", sum_);
     ReadSwitch(report, kOptionsSection, "Hours", hours_);
 }
 
@@ -50,7 +47,7 @@ ReportOptions ReadReportOptions(const IniFile& report) {
 }
 
 bool CountsDialledNumbers(const ReportFlags& flags, const ReportOptions& options) {
-    return flags[DataKey::Sum] && EqualNoCase(options.sum, kSumOfDialledNumbers);
+    return flags.Sum() && EqualNoCase(options.sum, kSumOfDialledNumbers);
 }
 
 std::filesystem::path PresetReportsFolder(const std::filesystem::path& applicationFolder) {

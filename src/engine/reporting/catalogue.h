@@ -10,50 +10,28 @@
 #include <vector>
 
 #include "compat/ini_file.h"
+#include "reporting/report_columns.h"
 
 namespace tallix {
-
-/// The keys of section "Data": which columns a report shows.
-enum class DataKey : std::uint8_t {
-    Date,
-    Time,
-    Duration,
-    Extension,
-    Name,
-    NumRings,
-    OrigNum,
-    DestNum,
-    Internal,
-    Error,
-    Supervision,
-    Speedcall,
-    Forward,
-    Trunk,
-    Account,
-    Area,
-    Site,
-    Sum,
-};
-inline constexpr std::size_t kDataKeys = 18;
-
-/// The name of a key as the files spell it.
-std::string_view NameOf(DataKey key);
 
 /// The switches of the report that ran last. They outlive a run: a key that a file
 /// omits keeps the value of the report before, so one object serves a whole process.
 class ReportFlags {
 public:
-    bool operator[](DataKey key) const { return data_[static_cast<std::size_t>(key)]; }
+    /// Whether the report shows the column at this place of kReportColumns.
+    bool Shows(std::size_t column) const { return shown_[column]; }
 
-    bool Cost() const { return cost_; }
-    bool Hours() const { return hours_; }
+    bool Internal() const { return internal_; }  ///< the report is one of internal calls
+    bool Sum() const { return sum_; }            ///< the option `Sum` counts
+    bool Hours() const { return hours_; }        ///< the office hours count
 
     /// Takes the switches of a report file; what does not convert stays as it was.
     void Read(const IniFile& report);
 
 private:
-    std::array<bool, kDataKeys> data_{};
-    bool cost_ = false;
+    std::array<bool, kReportColumns.size()> shown_{};
+    bool internal_ = false;
+    bool sum_ = false;
     bool hours_ = false;
 };
 
@@ -63,9 +41,9 @@ struct ReportOptions {
     bool account = false;
     bool site = false;
     bool group = false;
-    std::string title;
-    std::string where;
-    std::string sum;
+    std::string title{};
+    std::string where{};
+    std::string sum{};
     std::int16_t top = 0;  ///< the greatest number of records looked at; 0 for all
 };
 

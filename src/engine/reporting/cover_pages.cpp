@@ -3,7 +3,7 @@
 #include <fmt/format.h>
 
 #include "reporting/ansi_file.h"
-#include "reporting/page_rendering.h"
+#include "reporting/html_page.h"
 
 namespace tallix {
 

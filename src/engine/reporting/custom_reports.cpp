@@ -10,22 +10,6 @@
 
 namespace tallix {
 
-const std::array<CustomFieldNames, kCustomFields> kCustomFieldNames = {{
-    {"Extension Name", "ExtName", "Name:", "Extension"},
-    {"Date", "Date", "Date:", "Date"},
-    {"Time", "Time", "Time:", "Time"},
-    {"Duration", "Duration", "Duration:", "Duration"},
-    {"Extension Number", "Ext", "Extension:", "Extension"},
-    {"Number Of Rings", "NoR", "Rings:", "NumRings"},
-    {"Original Number", "OrigNum", "Originator:", "OrigNum"},
-    {"Destination Number", "DestNum", "Destination:", "DestNum"},
-    {"Internal Call", "Internal", "Internal:", "Internal"},
-    {"Speedcall", "Speedcall", "Speedcall:", "Speedcall"},
-    {"Forwarded", "Forward", "Forward:", "Forward"},
-    {"Trunk Call", "Trunk", "Trunk:", "Trunk"},
-    {"Account Code", "Account", "Account:", "Account"},
-}};
-
 namespace {
 
 constexpr std::string_view kFirstLine = "Tallix Reports Tool - Custom Report - V1.0";
@@ -46,11 +30,12 @@ constexpr TextKey kBounds[] = {{"SDate", &CustomReport::startDate},
                                {"EDate", &CustomReport::endDate},
                                {"Extension", &CustomReport::extension}};
 
-struct SwitchKey {
+struct DurationKey {
     std::string_view key;
-    bool CustomReport::*value;
+    DurationTest test;
 };
-constexpr SwitchKey kSwitches[] = {{"Greater", &CustomReport::greater}, {"Less", &CustomReport::less}};
+// Of two that are both on, the first one counts.
+constexpr DurationKey kDurationTests[] = {{"Greater", DurationTest::Greater}, {"Less", DurationTest::Less}};
 
 struct DestinationKey {
     std::string_view key;
@@ -86,10 +71,11 @@ std::string FileText(const CustomReport& report) {
     };
     line(kFirstLine);
     section(kData);
-    for (std::size_t i = 0; i < kCustomFields; ++i) key(kCustomFieldNames[i].key, TextOf(report.shown[i]));
+    for (std::size_t i = 0; i < kCustomFields; ++i)
+        key(kCustomColumns[i]->custom.key, TextOf(report.shown[i]));
     section(kOptions);
     for (const TextKey& each : kFilters) key(each.key, report.*each.value);
-    for (const SwitchKey& each : kSwitches) key(each.key, TextOf(report.*each.value));
+    for (const DurationKey& each : kDurationTests) key(each.key, TextOf(report.durationTest == each.test));
     for (const TextKey& each : kBounds) key(each.key, report.*each.value);
     section(kDestination);
     for (const auto& each : kDestinations) key(each.key, TextOf(report.destination == each.destination));
@@ -97,12 +83,20 @@ std::string FileText(const CustomReport& report) {
     return text;
 }
 
+// A key that does not convert leaves its test as it was.
+DurationTest ReadDurationTest(const IniFile& file, DurationTest before) {
+    for (const DurationKey& each : kDurationTests) {
+        bool isOn = before == each.test;
+        Attempt([&] { isOn = ToBoolean(file.Read(kOptions, each.key)); });
+        if (isOn) return each.test;
+    }
+    return DurationTest::None;
+}
+
 void ReadOptions(const IniFile& file, CustomReport& report) {
     for (const TextKey& each : kFilters) report.*each.value = file.Read(kOptions, each.key);
     for (const TextKey& each : kBounds) report.*each.value = file.Read(kOptions, each.key);
-    for (const SwitchKey& each : kSwitches) {
-        Attempt([&] { report.*each.value = ToBoolean(file.Read(kOptions, each.key)); });
-    }
+    report.durationTest = ReadDurationTest(file, report.durationTest);
 }
 
 void ReadDestination(const IniFile& file, CustomReport& report) {
@@ -116,6 +110,14 @@ void ReadDestination(const IniFile& file, CustomReport& report) {
 
 }  // namespace
 
+std::vector<const ReportColumn*> ShownColumns(const CustomReport& report) {
+    std::vector<const ReportColumn*> columns;
+    for (std::size_t i = 0; i < kCustomFields; ++i) {
+        if (report.shown[i]) columns.push_back(kCustomColumns[i]);
+    }
+    return columns;
+}
+
 std::filesystem::path CustomReportsFolder(const std::string& reportsLocation) {
     return ToNativePath(reportsLocation + "\\Reports");
 }
@@ -123,7 +125,7 @@ std::filesystem::path CustomReportsFolder(const std::string& reportsLocation) {
 void ReadCustomReport(const std::string& reportsLocation, std::string_view name, CustomReport& report) {
     const IniFile file(FindIgnoringCase(FileOf(reportsLocation, name)));
     for (std::size_t i = 0; i < kCustomFields; ++i) {
-        Attempt([&] { report.shown[i] = ToBoolean(file.Read(kData, kCustomFieldNames[i].key)); });
+        Attempt([&] { report.shown[i] = ToBoolean(file.Read(kData, kCustomColumns[i]->custom.key)); });
     }
     ReadOptions(file, report);
     ReadDestination(file, report);
@@ -138,15 +140,6 @@ void WriteCustomReport(const std::string& reportsLocation, std::string_view name
 
 std::string FullExtension(const std::string& extension) {
     return Len(extension) == kShortExtension ? "0" + extension : extension;
-}
-
-RunDescription DescribeCustomRun(const std::string& name, const CustomReport& report) {
-    return {.reportName = name,
-            .reportFile = {},
-            .inputs = {.extension = report.extension},
-            .commaText = report.destination == Destination::InExternalApplication,
-            .rules = kCustomRules,
-            .custom = &report};
 }
 
 }  // namespace tallix

@@ -1,5 +1,5 @@
-// Reports that people make for themselves: thirteen fields to show or not, filters, and a
-// destination, in a file of keys a report. They run through the same pipeline as preset
+// Reports that people make for themselves: fields to show or not, filters, and a
+// destination, in one file of keys per report. They run through the same pipeline as preset
 // reports, by rules of their own (reporting/custom_rows.h).
 #pragma once
 
@@ -7,52 +7,30 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "reporting/destinations.h"
-#include "reporting/run_description.h"
+#include "reporting/report_columns.h"
 
 namespace tallix {
 
-/// The fields in the order of their entries, heads and cells.
-enum class CustomField {
-    ExtensionName,
-    Date,
-    Time,
-    Duration,
-    Extension,
-    NumRings,
-    OrigNum,
-    DestNum,
-    Internal,
-    Speedcall,
-    Forward,
-    Trunk,
-    Account,
-};
-inline constexpr std::size_t kCustomFields = 13;
-
-struct CustomFieldNames {
-    std::string_view entry;   ///< in the list of fields
-    std::string_view key;     ///< of section "Data"
-    std::string_view head;    ///< of the column
-    std::string_view column;  ///< of the call
-};
-extern const std::array<CustomFieldNames, kCustomFields> kCustomFieldNames;
+/// How the filter of the duration compares.
+enum class DurationTest { None, Greater, Less };
 
 struct CustomReport {
-    std::array<bool, kCustomFields> shown{};
+    std::array<bool, kCustomFields> shown{};  ///< by their place in kCustomColumns
     std::string account{};
-    std::string duration{};  ///< compared as text, by one of the two below
-    bool greater = false;
-    bool less = false;
+    std::string duration{};  ///< compared as text
+    DurationTest durationTest = DurationTest::None;
     std::string startDate{};
     std::string endDate{};
     std::string extension{};
     Destination destination = Destination::OnScreen;
     std::string application{};  ///< entry of the application list
-
-    bool Shows(CustomField field) const { return shown[static_cast<std::size_t>(field)]; }
 };
+
+/// The columns that the report shows, left to right.
+std::vector<const ReportColumn*> ShownColumns(const CustomReport& report);
 
 /// The folder of the report files below ReportsLocation.
 std::filesystem::path CustomReportsFolder(const std::string& reportsLocation);
@@ -61,13 +39,10 @@ std::filesystem::path CustomReportsFolder(const std::string& reportsLocation);
 void ReadCustomReport(const std::string& reportsLocation, std::string_view name, CustomReport& report);
 
 /// Writes the report file, replacing one of that name. A name that no file in the folder
-/// can have, or a folder that takes no file, loses the report without a word.
+/// can have, or a folder that takes no file, loses the report without a message.
 void WriteCustomReport(const std::string& reportsLocation, std::string_view name, const CustomReport& report);
 
 /// An extension of three characters gets a "0" in front: calls hold four.
 std::string FullExtension(const std::string& extension);
-
-/// The run of a report. `report` must outlive it.
-RunDescription DescribeCustomRun(const std::string& name, const CustomReport& report);
 
 }  // namespace tallix

@@ -1,7 +1,7 @@
 #include "reporting/custom_rows.h"
 
 #include "failures/attempt.h"
-#include "reporting/call_columns.h"
+#include "reporting/field_text.h"
 #include "reporting/site.h"
 #include "text/text_conversion.h"
 
@@ -22,21 +22,13 @@ bool IsTrunk(std::string_view extension) {
     return !extension.empty() && (extension.front() == 'T' || extension.front() == 't');
 }
 
-// A flag that is no number cannot be compared, and passes.
+// A flag that is not a number cannot be compared, and passes.
 bool IsSet(std::string_view flag) {
     return flag == "1" ||
            (!flag.empty() && flag != "0" && TestOrEnter([&] { return ToInteger32(flag) == 1; }));
 }
 
 }  // namespace
-
-std::vector<std::string_view> HeadsOf(const CustomReport& report) {
-    std::vector<std::string_view> heads;
-    for (std::size_t i = 0; i < kCustomFields; ++i) {
-        if (report.shown[i]) heads.push_back(kCustomFieldNames[i].head);
-    }
-    return heads;
-}
 
 CustomRows::CustomRows(Session& session, EventQueue& events, const CustomReport& report,
                        const ado::Recordset& calls)
@@ -45,46 +37,39 @@ CustomRows::CustomRows(Session& session, EventQueue& events, const CustomReport&
         if (!report.startDate.empty()) start_ = DayNumber(report.startDate);
         if (!report.endDate.empty()) end_ = DayNumber(report.endDate);
     });
-    for (std::size_t i = 0; i < kCustomFields; ++i) {
-        columns_[i] = calls.Find(kCustomFieldNames[i].column);
-        if (report.shown[i]) fields_.push_back(static_cast<CustomField>(i));
+    for (const ReportColumn* column : ShownColumns(report)) {
+        steps_.push_back({column->custom.cell, calls.Find(column->source)});
     }
 }
 
-bool CustomRows::Keeps(const ado::Recordset& calls) {
+Verdict CustomRows::Judge(const ado::Recordset& calls) {
     cells_.clear();
-    for (const CustomField field : fields_) {
-        if (!Add(field, calls)) return false;
+    for (const Step& step : steps_) {
+        if (!Add(step.cell, FieldText(calls, step.source))) return Verdict::NoRow;
     }
-    return true;
+    return Verdict::Row;
 }
 
-std::string_view CustomRows::Text(const ado::Recordset& calls, CustomField field) const {
-    return FieldText(calls, columns_[static_cast<std::size_t>(field)]);
-}
-
-bool CustomRows::Add(CustomField field, const ado::Recordset& calls) {
-    const std::string_view text = Text(calls, field);
-    switch (field) {
-        case CustomField::ExtensionName:
-            return AddName(calls);
-        case CustomField::Date:
+bool CustomRows::Add(CustomCell cell, std::string_view text) {
+    switch (cell) {
+        case CustomCell::Name:
+            return AddName(text);
+        case CustomCell::Date:
             return AddDate(text);
-        case CustomField::Duration:
+        case CustomCell::Duration:
             return AddDuration(text);
-        case CustomField::Extension:
+        case CustomCell::Extension:
             return AddWanted(text, report_.extension);
-        case CustomField::Account:
+        case CustomCell::Account:
             return AddWanted(text, report_.account);
-        case CustomField::Internal:
-        case CustomField::Speedcall:
-        case CustomField::Forward:
+        case CustomCell::YesForOne:
             return AddText(IsSet(text) ? kYes : kNo);
-        case CustomField::Trunk:
+        case CustomCell::NoForZero:
             return AddText(text == "0" ? kNo : kYes);
-        default:
-            return AddText(text);
+        case CustomCell::Field:
+            break;
     }
+    return AddText(text);
 }
 
 bool CustomRows::AddText(std::string_view text) {
@@ -92,8 +77,7 @@ bool CustomRows::AddText(std::string_view text) {
     return true;
 }
 
-bool CustomRows::AddName(const ado::Recordset& calls) {
-    const std::string_view extension = Text(calls, CustomField::ExtensionName);
+bool CustomRows::AddName(std::string_view extension) {
     if (IsTrunk(extension)) return false;
     cells_.push_back(names_.Find(extension).value_or(kBlankCell));
     return true;
@@ -113,8 +97,9 @@ bool CustomRows::AddDate(std::string_view date) {
 // With a duration to compare and no way to do it the row is one cell short.
 bool CustomRows::AddDuration(std::string_view duration) {
     if (report_.duration.empty()) return AddText(duration);
-    if (!report_.greater && !report_.less) return true;
-    const bool kept = report_.greater ? duration > report_.duration : duration < report_.duration;
+    if (report_.durationTest == DurationTest::None) return true;
+    const bool isLonger = report_.durationTest == DurationTest::Greater;
+    const bool kept = isLonger ? duration > report_.duration : duration < report_.duration;
     return kept && AddText(duration);
 }
 

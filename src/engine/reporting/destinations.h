@@ -2,7 +2,7 @@
 // application. What each destination does, step by step; the windows that take part
 // are reached through an interface.
 //
-// A window hands its report over with the DeliverReport of destinations_window.h.
+// A window hands its report over with the DeliverReport of windows/reporting/report_delivery.h.
 #pragma once
 
 #include <string>

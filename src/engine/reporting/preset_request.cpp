@@ -37,7 +37,7 @@ std::vector<std::string> ReadColumn(Session& session, std::string_view table, st
     return values;
 }
 
-std::vector<std::string> BehindAll(const std::vector<std::string>& values) {
+std::vector<std::string> AfterAll(const std::vector<std::string>& values) {
     std::vector<std::string> list = {std::string(kAll)};
     list.insert(list.end(), values.begin(), values.end());
     return list;
@@ -58,8 +58,8 @@ PresetChoices ReadPresetChoices(Application& application) {
     OpenDatabase(application.session);
     std::vector<std::string> sites = ReadColumn(application.session, "tblsite", "ID");
     for (std::string& id : sites) id = fmt::format("{:0>3}", id);
-    choices.sites = BehindAll(sites);
-    choices.groups = BehindAll(ReadColumn(application.session, "tblgroupnames", "Name"));
+    choices.sites = AfterAll(sites);
+    choices.groups = AfterAll(ReadColumn(application.session, "tblgroupnames", "Name"));
     CloseDatabase(application.session);
     return choices;
 }
@@ -71,7 +71,7 @@ EnabledInputs::EnabledInputs(const std::filesystem::path& reportFile) {
     }
 }
 
-std::optional<Message> RefusalOf(const RunDescription& run) {
+std::optional<Message> RefusalOf(const PresetRun& run) {
     std::optional<Message> refusal;
     if (run.demandsExtension) refusal = RefusalOf("extension number", run.inputs.extension);
     if (!refusal && run.demandsAccount) refusal = RefusalOf("account code", run.inputs.account);

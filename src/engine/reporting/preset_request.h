@@ -43,7 +43,7 @@ private:
 };
 
 /// Why a run is refused: a demanded input is empty or not numeric. Nothing otherwise.
-std::optional<Message> RefusalOf(const RunDescription& run);
+std::optional<Message> RefusalOf(const PresetRun& run);
 
 /// What a person is told of a run that found no records.
 Message NoDataMessage();

@@ -1,8 +1,8 @@
 #include "reporting/query_builder.h"
 
+#include <algorithm>
 #include <cstdint>
-#include <span>
-#include <string_view>
+#include <iterator>
 
 #include "database/recordset.h"
 #include "failures/attempt.h"
@@ -18,84 +18,7 @@ constexpr std::string_view kCountOfNumbers = "SELECT DestNum, COUNT(DestNum) FRO
 constexpr std::string_view kOrder = "ORDER";
 constexpr std::size_t kLengthOfWhere = 6;  ///< "WHERE "
 
-// What a rule asks of the report and the run. A rule applies when all of it holds.
-enum Condition : unsigned {
-    kAlways = 0,
-    kByExtension = 1 << 0,
-    kByAccount = 1 << 1,
-    kBySite = 1 << 2,
-    kByGroup = 1 << 3,
-    kShowsDestNum = 1 << 4,
-    kShowsOrigNum = 1 << 5,
-    kAllSites = 1 << 6,
-    kAllGroups = 1 << 7,
-    kStartsWithOrder = 1 << 8,
-    kExtensionGiven = 1 << 9,
-};
-
-// The text that a rule appends to the base statement. Behind "%" stand: E the extension
-// as a literal, e the same with one blank behind it (calls hold both forms), X the
-// column of the extension, A account, S site, G the group clause, W the report's
-// `Where`, R that without its first six characters.
-struct Rule {
-    unsigned needs;
-    std::string_view text;
-};
-
-constexpr Rule kPresetPlain[] = {
-    {kByExtension | kShowsDestNum, " WHERE %X = %E OR %X = %e"},
-    {kByAccount, " WHERE Account = %A"},
-    {kByExtension | kShowsOrigNum, " WHERE DestNum = %E"},
-    {kBySite | kAllSites, " ORDER BY Date, Time, Site"},
-    {kBySite, " WHERE Site = %S"},
-    {kByGroup | kAllGroups, " "},
-    {kByGroup, "%G "},
-    {kAlways, ""},
-};
-
-constexpr Rule kPresetWhere[] = {
-    {kByExtension | kStartsWithOrder, " WHERE (%X = %E OR %X = %e) %W"},
-    {kByExtension, " %W AND (%X = %E OR %X = %e)"},
-    {kBySite | kAllSites, " WHERE (%R) ORDER BY Date, Time, Site"},
-    {kBySite, " WHERE Site = %S %W"},
-    {kByAccount | kStartsWithOrder, " WHERE Account = %A %W"},
-    {kByAccount, " %W AND Account = %A"},
-    {kByGroup | kAllGroups, " %W"},
-    {kByGroup, "%G %W"},
-    {kAlways, " %W"},
-};
-
-constexpr Rule kUnattendedPlain[] = {
-    {kByExtension | kShowsDestNum, " WHERE Extension = %E"},
-    {kByAccount, " WHERE Account = %A"},
-    {kByExtension | kShowsOrigNum, " WHERE DestNum = %E"},
-    {kBySite | kAllSites, " ORDER BY Date, Time, Site"},
-    {kBySite, " WHERE Site = %S"},
-    {kAlways, ""},
-};
-
-constexpr Rule kUnattendedWhere[] = {
-    {kByExtension, " %W AND Extension = %E"},
-    {kBySite | kAllSites, " WHERE (%R) ORDER BY Date, Time, Site"},
-    {kBySite, " WHERE (%R) AND Site = %S"},
-    {kAlways, " %W"},
-};
-
-constexpr Rule kCustom[] = {
-    {kExtensionGiven, " WHERE Extension = %E"},
-    {kAlways, ""},
-};
-
-std::span<const Rule> RulesFor(const QueryInputs& query) {
-    if (query.rules == QueryRules::Custom) return kCustom;
-    const bool plain = query.options.where.empty();
-    if (query.rules == QueryRules::Unattended) {
-        return plain ? std::span<const Rule>(kUnattendedPlain) : std::span<const Rule>(kUnattendedWhere);
-    }
-    return plain ? std::span<const Rule>(kPresetPlain) : std::span<const Rule>(kPresetWhere);
-}
-
-unsigned When(bool holds, Condition condition) {
+unsigned When(bool holds, QueryCondition condition) {
     return holds ? condition : kAlways;
 }
 
@@ -103,9 +26,8 @@ unsigned ConditionsOf(const QueryInputs& query) {
     const ReportOptions& options = query.options;
     return When(options.extension, kByExtension) | When(options.account, kByAccount) |
            When(options.site, kBySite) | When(options.group, kByGroup) |
-           When(query.flags[DataKey::DestNum], kShowsDestNum) |
-           When(query.flags[DataKey::OrigNum], kShowsOrigNum) |
-           When(!query.inputs.extension.empty(), kExtensionGiven) |
+           When(query.flags.Shows(kDestNumColumn), kShowsDestNum) |
+           When(query.flags.Shows(kOrigNumColumn), kShowsOrigNum) |
            When(EqualNoCase(query.inputs.site, kAll), kAllSites) |
            When(EqualNoCase(query.inputs.group, kAll), kAllGroups) |
            When(EqualNoCase(Left(options.where, kOrder.size()), kOrder), kStartsWithOrder);
@@ -113,7 +35,7 @@ unsigned ConditionsOf(const QueryInputs& query) {
 
 std::string_view RuleText(const QueryInputs& query) {
     const unsigned conditions = ConditionsOf(query);
-    for (const Rule& rule : RulesFor(query)) {
+    for (const QueryRule& rule : query.options.where.empty() ? query.rules.plain : query.rules.withWhere) {
         if ((conditions & rule.needs) == rule.needs) return rule.text;
     }
     return {};
@@ -125,7 +47,7 @@ std::string GroupId(Session& session, const std::string& group) {
     return names.RecordCount() > 0 ? std::string(names.Text("ID")) : std::string();
 }
 
-std::string GroupMembers(Session& session, const std::string& groupId) {
+std::string MembersOf(Session& session, const std::string& groupId) {
     ado::Recordset map;
     map.Open("SELECT * FROM tblgroupmap WHERE GroupID = " + Quoted(session, groupId),
              OpenConnection(session));
@@ -137,59 +59,76 @@ std::string GroupMembers(Session& session, const std::string& groupId) {
     return members;
 }
 
-// The values stand bare: a member that is no number makes a statement that fails.
-std::string GroupClause(Session& session, const std::string& group) {
+// The members go in without quotes: one that is not a number makes a statement that fails.
+std::string GroupMembers(Session& session, const std::string& group) {
     std::string id;
     std::string members;
     Attempt([&] { id = GroupId(session, group); });
-    Attempt([&] { members = GroupMembers(session, id); });
-    return " WHERE (Extension=" + members + ")";
+    Attempt([&] { members = MembersOf(session, id); });
+    return members;
 }
 
-std::string PieceFor(char mark, Session& session, const QueryInputs& query) {
-    const RunInputs& inputs = query.inputs;
-    switch (mark) {
-        case 'E':
-            return Quoted(session, inputs.extension);
-        case 'e':
-            return Quoted(session, inputs.extension + " ");
-        case 'X':
-            return query.isMitel5000 ? "OrigNum" : "Extension";
-        case 'A':
-            return Quoted(session, inputs.account);
-        case 'S':
-            return Quoted(session, inputs.site);
-        case 'G':
-            return GroupClause(session, inputs.group);
-        case 'W':
-            return query.options.where;
-        case 'R':
-            return std::string(Mid(query.options.where, kLengthOfWhere + 1, std::string::npos));
-        default:
-            return {};
-    }
+using TextOfPlaceholder = std::string (*)(Session& session, const QueryInputs& query);
+
+struct Placeholder {
+    std::string_view name;
+    TextOfPlaceholder text;
+};
+
+constexpr Placeholder kPlaceholders[] = {
+    {"extensionColumn",
+     [](Session&, const QueryInputs& query) {
+         return std::string(query.isMitel5000 ? "OrigNum" : "Extension");
+     }},
+    {"extension",
+     [](Session& session, const QueryInputs& query) { return Quoted(session, query.inputs.extension); }},
+    // Calls hold the extension with a blank after it as well.
+    {"extensionAndBlank",
+     [](Session& session, const QueryInputs& query) {
+         return Quoted(session, query.inputs.extension + " ");
+     }},
+    {"account",
+     [](Session& session, const QueryInputs& query) { return Quoted(session, query.inputs.account); }},
+    {"site", [](Session& session, const QueryInputs& query) { return Quoted(session, query.inputs.site); }},
+    {"groupMembers",
+     [](Session& session, const QueryInputs& query) { return GroupMembers(session, query.inputs.group); }},
+    {"where", [](Session&, const QueryInputs& query) { return query.options.where; }},
+    {"whereCondition",
+     [](Session&, const QueryInputs& query) {
+         return std::string(Mid(query.options.where, kLengthOfWhere + 1, std::string::npos));
+     }},
+};
+
+// The names in the rules are ours: each is in the table.
+std::string TextOf(std::string_view name, Session& session, const QueryInputs& query) {
+    const auto* placeholder = std::find_if(std::begin(kPlaceholders), std::end(kPlaceholders),
+                                           [&](const Placeholder& each) { return each.name == name; });
+    return placeholder->text(session, query);
 }
 
 std::string Expand(std::string_view text, Session& session, const QueryInputs& query) {
     std::string expanded;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] == '%') {
-            expanded += PieceFor(text[++i], session, query);
-        } else {
-            expanded += text[i];
-        }
+    while (true) {
+        const std::size_t open = text.find('{');
+        expanded += text.substr(0, open);
+        if (open == std::string_view::npos) return expanded;
+        const std::size_t close = text.find('}', open);
+        expanded += TextOf(text.substr(open + 1, close - open - 1), session, query);
+        text.remove_prefix(close + 1);
     }
-    return expanded;
 }
 
 }  // namespace
 
 std::string BuildQuery(Session& session, const QueryInputs& query) {
-    const bool custom = query.rules == QueryRules::Custom;
-    const bool counts = !custom && CountsDialledNumbers(query.flags, query.options);
-    std::string statement(counts ? kCountOfNumbers : kAllCalls);
+    std::string statement(CountsDialledNumbers(query.flags, query.options) ? kCountOfNumbers : kAllCalls);
     statement += Expand(RuleText(query), session, query);
-    if (session.database.kind == DatabaseKind::SqlServer && !custom) return Replace(statement, "\"", "'");
+    return session.database.kind == DatabaseKind::SqlServer ? Replace(statement, "\"", "'") : statement;
+}
+
+std::string BuildCustomQuery(const Session& session, std::string_view extension) {
+    std::string statement(kAllCalls);
+    if (!extension.empty()) statement += " WHERE Extension = " + Quoted(session, extension);
     return statement;
 }
 

@@ -4,8 +4,10 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "reporting/catalogue.h"
+#include "reporting/query_rules.h"
 #include "reporting/run_description.h"
 #include "session/session.h"
 
@@ -15,13 +17,18 @@ struct QueryInputs {
     const ReportFlags& flags;
     const ReportOptions& options;
     const RunInputs& inputs;
-    QueryRules rules;
+    const QueryRules& rules;
     bool isMitel5000 = false;  ///< on such sites the extension is stored in `OrigNum`
 };
 
-/// Builds the statement. Values go in as they are, between the session's quotes: one
-/// that holds a quote gives a statement that the server refuses. A group is looked up
-/// over the session's open connection; without one its clause has no members.
+/// Builds the statement of a report that is a file of keys. Values go in as they are,
+/// between the session's quotes: one that holds a quote gives a statement that the server
+/// refuses. A group is looked up over the session's open connection; without one its
+/// clause has no members.
 std::string BuildQuery(Session& session, const QueryInputs& query);
+
+/// Builds the statement of a custom report: the calls of an extension, or all for an empty
+/// one.
+std::string BuildCustomQuery(const Session& session, std::string_view extension);
 
 }  // namespace tallix

@@ -3,16 +3,17 @@
 #include <compare>
 
 #include "failures/attempt.h"
+#include "reporting/field_text.h"
 #include "text/text_conversion.h"
 
 namespace tallix {
 
 namespace {
 
-bool HasTimeTest(const RunDescription& run) {
-    const bool from = !run.inputs.timeFrom.empty();
-    const bool to = !run.inputs.timeTo.empty();
-    return run.rules.time == TimeRule::BothBounds ? from && to : from || to;
+bool HasTimeTest(TimeRule rule, const RunInputs& inputs) {
+    const bool from = !inputs.timeFrom.empty();
+    const bool to = !inputs.timeTo.empty();
+    return rule == TimeRule::BothBounds ? from && to : from || to;
 }
 
 std::int32_t Bound(const std::string& date) {
@@ -31,11 +32,6 @@ std::optional<std::int32_t> Bounding(const std::string& time) {
     return number;
 }
 
-// Throws for a time that is none and for a column that the statement did not return.
-std::int32_t TimeOf(const ado::Recordset& calls, const CallColumns& columns) {
-    return NumberOf(calls.Text(columns.time));
-}
-
 // Compares as if every ":" of `left` were gone; `right` has none.
 std::strong_ordering CompareDigits(std::string_view left, std::string_view right) {
     std::size_t place = 0;
@@ -51,50 +47,54 @@ std::strong_ordering CompareDigits(std::string_view left, std::string_view right
 
 }  // namespace
 
-RecordFilters::RecordFilters(const RunDescription& run, bool byHours, std::string_view opens,
-                             std::string_view closes)
-    : timeRule_(run.rules.time),
-      dropsBlankNumbers_(run.rules.dropsBlankNumbers),
-      byTime_(HasTimeTest(run)),
-      byHours_(byHours),
-      firstDay_(Bound(run.inputs.startDate)),
-      lastDay_(Bound(run.inputs.endDate)),
-      startsEmpty_(run.inputs.timeFrom.empty()),
-      from_(Bounding(run.inputs.timeFrom)),
-      to_(Bounding(run.inputs.timeTo)),
-      opens_(Replace(opens, ":", "")),
-      closes_(Replace(closes, ":", "")) {}
+RecordFilters::RecordFilters(const ado::Recordset& calls, const FilterRules& rules, const RunInputs& inputs,
+                             const std::optional<OfficeHours>& hours)
+    : rules_(rules),
+      date_(calls.Find("Date")),
+      time_(calls.Find("Time")),
+      destNum_(calls.Find("DestNum")),
+      byTime_(HasTimeTest(rules.time, inputs)),
+      byHours_(hours.has_value()),
+      firstDay_(Bound(inputs.startDate)),
+      lastDay_(Bound(inputs.endDate)),
+      startsEmpty_(inputs.timeFrom.empty()),
+      from_(Bounding(inputs.timeFrom)),
+      to_(Bounding(inputs.timeTo)),
+      opens_(hours ? Replace(hours->opens, ":", "") : ""),
+      closes_(hours ? Replace(hours->closes, ":", "") : "") {}
 
-bool RecordFilters::Keeps(const ado::Recordset& calls, const CallColumns& columns) {
-    return KeepsDate(calls, columns) && KeepsTime(calls, columns) && KeepsHours(calls, columns) &&
-           !(dropsBlankNumbers_ && columns.destNum && Trim(FieldText(calls, columns.destNum)).empty());
+bool RecordFilters::Keeps(const ado::Recordset& calls) {
+    if (!KeepsDate(calls) || !KeepsTime(calls) || !KeepsHours(calls)) return false;
+    return rules_.blankNumbers == BlankNumbers::Kept || !destNum_ ||
+           !Trim(FieldText(calls, destNum_)).empty();
 }
 
-bool RecordFilters::KeepsDate(const ado::Recordset& calls, const CallColumns& columns) {
+bool RecordFilters::KeepsDate(const ado::Recordset& calls) {
     if (firstDay_ == 0 && lastDay_ == 0) return true;
-    Attempt([&] { day_ = DayNumber(FieldText(calls, columns.date)); });
+    Attempt([&] { day_ = DayNumber(FieldText(calls, date_)); });
     return (firstDay_ == 0 || day_ >= firstDay_) && (lastDay_ == 0 || day_ <= lastDay_);
 }
 
-bool RecordFilters::KeepsTime(const ado::Recordset& calls, const CallColumns& columns) const {
+// A column that the statement did not return fails the test as well.
+bool RecordFilters::KeepsTime(const ado::Recordset& calls) const {
     if (!byTime_) return true;
     return TestOrEnter([&] {
-        const std::int32_t time = TimeOf(calls, columns);
-        return timeRule_ == TimeRule::Schedule ? WithinSchedule(time) : PastStart(time) && BeforeEnd(time);
+        const std::int32_t time = NumberOf(calls.Text(time_));
+        return rules_.time == TimeRule::Schedule ? WithinSchedule(time) : PastStart(time) && BeforeEnd(time);
     });
 }
 
-// Past the start, the end decides; at or before the start only a schedule without one
-// goes on to the end.
+// After the start, the end decides. At or before the start, only a schedule without a
+// start goes on to the end.
 bool RecordFilters::WithinSchedule(std::int32_t time) const {
     return (PastStart(time) || startsEmpty_) && BeforeEnd(time);
 }
 
 // Only calls before the opening time stay. The second test, on closing, adds nothing to
 // the first and is part of the rule all the same.
-bool RecordFilters::KeepsHours(const ado::Recordset& calls, const CallColumns& columns) const {
-    if (!byHours_ || !columns.time) return true;
-    const std::string_view time = FieldText(calls, columns.time);
+bool RecordFilters::KeepsHours(const ado::Recordset& calls) const {
+    if (!byHours_ || !time_) return true;
+    const std::string_view time = FieldText(calls, time_);
     const bool beforeOpening = std::is_lt(CompareDigits(time, opens_));
     return beforeOpening && (std::is_gt(CompareDigits(time, closes_)) || beforeOpening);
 }

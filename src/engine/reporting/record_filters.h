@@ -5,41 +5,62 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "database/recordset.h"
-#include "reporting/call_columns.h"
 #include "reporting/run_description.h"
 
 namespace tallix {
 
+enum class TimeRule {
+    BothBounds,  ///< applies when both times are given; each bound is exclusive
+    Schedule,    ///< applies when either is given; a missing end keeps nothing
+};
+
+/// What happens to a call without a dialled number.
+enum class BlankNumbers { Kept, Dropped };
+
+struct FilterRules {
+    TimeRule time = TimeRule::BothBounds;
+    BlankNumbers blankNumbers = BlankNumbers::Kept;
+};
+
+/// The two settings, such as "08:30". An empty opening time keeps no call.
+struct OfficeHours {
+    std::string_view opens;
+    std::string_view closes;
+};
+
 class RecordFilters {
 public:
-    /// `opens` and `closes` are the office hours ("08:30"), used where `byHours` is set.
-    /// An empty opening time keeps no call.
-    RecordFilters(const RunDescription& run, bool byHours, std::string_view opens, std::string_view closes);
+    /// The columns are those of `calls`. Without `hours` calls of the whole day pass.
+    RecordFilters(const ado::Recordset& calls, const FilterRules& rules, const RunInputs& inputs,
+                  const std::optional<OfficeHours>& hours);
 
-    /// Whether the current call of `calls` goes on. A test of the time that cannot be made,
-    /// as with a time that is no time, is passed; a call whose date is no date takes the day
-    /// of the call before.
-    bool Keeps(const ado::Recordset& calls, const CallColumns& columns);
+    /// Whether the current call goes on. A test of the time that cannot be made passes: the
+    /// time of the call is not a time. A call whose date is not a date takes the day of the
+    /// call before.
+    bool Keeps(const ado::Recordset& calls);
 
 private:
-    bool KeepsDate(const ado::Recordset& calls, const CallColumns& columns);
-    bool KeepsTime(const ado::Recordset& calls, const CallColumns& columns) const;
-    bool KeepsHours(const ado::Recordset& calls, const CallColumns& columns) const;
+    bool KeepsDate(const ado::Recordset& calls);
+    bool KeepsTime(const ado::Recordset& calls) const;
+    bool KeepsHours(const ado::Recordset& calls) const;
     bool WithinSchedule(std::int32_t time) const;
     bool PastStart(std::int32_t time) const { return !from_ || time > *from_; }
     bool BeforeEnd(std::int32_t time) const { return !to_ || time < *to_; }
 
-    TimeRule timeRule_;
-    bool dropsBlankNumbers_;
+    const FilterRules rules_;
+    const ado::Column date_;
+    const ado::Column time_;
+    const ado::Column destNum_;
     bool byTime_;
     bool byHours_;
-    std::int32_t firstDay_ = 0;  ///< 0 for no bound, as well as a bound that is no date
+    std::int32_t firstDay_ = 0;  ///< 0 without a bound, and for a bound that is not a date
     std::int32_t lastDay_ = 0;
     std::int32_t day_ = 0;  ///< of the latest call whose date is one
     bool startsEmpty_;
-    std::optional<std::int32_t> from_;  ///< nothing where the text is no time
+    std::optional<std::int32_t> from_;  ///< nothing where the text is not a time
     std::optional<std::int32_t> to_;
     std::string opens_;
     std::string closes_;

@@ -1,6 +1,8 @@
 #include "reporting/row_resolution.h"
 
 #include "failures/attempt.h"
+#include "reporting/column_choice.h"
+#include "reporting/field_text.h"
 #include "text/text_conversion.h"
 
 namespace tallix {
@@ -26,34 +28,6 @@ std::size_t FirstPrefix(NumberTable numbers) {
     return numbers == NumberTable::Areas ? 2 : 1;
 }
 
-// The column of a cell that shows a field as it stands; absent for any other cell.
-ado::Column ColumnOf(Cell cell, const CallColumns& columns) {
-    switch (cell) {
-        case Cell::Date:
-            return columns.date;
-        case Cell::Time:
-            return columns.time;
-        case Cell::Extension:
-            return columns.extension;
-        case Cell::Duration:
-            return columns.duration;
-        case Cell::SummedDuration:
-            return columns.summedDuration;
-        case Cell::NumRings:
-            return columns.numRings;
-        case Cell::Account:
-            return columns.account;
-        case Cell::OrigNum:
-            return columns.origNum;
-        case Cell::Trunk:
-            return columns.trunk;
-        case Cell::Site:
-            return columns.site;
-        default:
-            return {};
-    }
-}
-
 // A stored cost as pence: its text without any point.
 std::int32_t PenceOf(std::string_view cost) {
     char digits[32];
@@ -66,10 +40,13 @@ std::int32_t PenceOf(std::string_view cost) {
 
 }  // namespace
 
-RowResolver::RowResolver(const RowContext& context, const CallColumns& columns)
+RowResolver::RowResolver(const RowContext& context, const ado::Recordset& calls)
     : context_(context),
-      columns_(columns),
-      plan_(CellsOf(context.flags, context.settings.numbers)),
+      steps_(StepsOf(context, calls)),
+      destNum_(calls.Find("DestNum")),
+      origNum_(calls.Find("OrigNum")),
+      internal_(calls.Find("Internal")),
+      duration_(calls.Find("Duration")),
       names_(context.session, context.events, kNames),
       addressBook_(context.session, context.events, kAddressBook),
       storedCosts_(context.session, context.events, kStoredCosts),
@@ -77,65 +54,73 @@ RowResolver::RowResolver(const RowContext& context, const CallColumns& columns)
       countries_(context.session, "tblintcodes", "Code", "Country"),
       pricing_(context.tariff, PricingUnit(context.settings.billing)) {}
 
+std::vector<RowResolver::Step> RowResolver::StepsOf(const RowContext& context, const ado::Recordset& calls) {
+    std::vector<Step> steps;
+    for (const ReportColumn* column : ColumnsOf(context.flags, context.settings.numbers)) {
+        const bool summed = context.flags.Sum() && !column->preset.summed.empty();
+        steps.push_back({column->preset.cell, calls.Find(summed ? column->preset.summed : column->source)});
+    }
+    return steps;
+}
+
 bool RowResolver::IsDropped(const ado::Recordset& calls) const {
-    return context_.dropsShortNumbers && Len(FieldText(calls, columns_.destNum)) == kInternalNumber;
+    return context_.dropsShortNumbers && Len(FieldText(calls, destNum_)) == kInternalNumber;
 }
 
 const std::vector<std::string_view>& RowResolver::Resolve(const ado::Recordset& calls) {
     cells_.clear();
-    for (const Cell cell : plan_) {
-        if (Add(cell, calls) == Next::EndOfRow) break;
+    for (const Step& step : steps_) {
+        if (Add(step, calls) == Next::EndOfRow) break;
     }
     return cells_;
 }
 
-RowResolver::Next RowResolver::Add(Cell cell, const ado::Recordset& calls) {
-    switch (cell) {
-        case Cell::Name:
-            AddName(calls);
+RowResolver::Next RowResolver::Add(const Step& step, const ado::Recordset& calls) {
+    const std::string_view text = FieldText(calls, step.source);
+    switch (step.cell) {
+        case PresetCell::Field:
+            AddField(text);
             break;
-        case Cell::Forward:
-            AddForward(calls);
+        case PresetCell::Name:
+            AddName(text);
             break;
-        case Cell::DestNum:
-            AddDestNum(calls);
+        case PresetCell::Forward:
+            AddForward(text);
             break;
-        case Cell::Area:
+        case PresetCell::Number:
+            AddNumber(text, calls);
+            break;
+        case PresetCell::Area:
             return AddArea(calls);
-        case Cell::Country:
-            AddCountry(calls);
+        case PresetCell::Country:
+            AddCountry(text);
             break;
-        case Cell::Cost:
-            AddCost(calls);
-            break;
-        default:
-            AddField(FieldText(calls, ColumnOf(cell, columns_)));
+        case PresetCell::Cost:
+            AddCost(text, calls);
             break;
     }
     return Next::Cell;
 }
 
-void RowResolver::AddName(const ado::Recordset& calls) {
-    cells_.push_back(names_.Find(FieldText(calls, columns_.extension)).value_or(kBlankCell));
+void RowResolver::AddName(std::string_view extension) {
+    cells_.push_back(names_.Find(extension).value_or(kBlankCell));
 }
 
-// A flag that is no number fails the test for 0 and so reads as "No".
-void RowResolver::AddForward(const ado::Recordset& calls) {
-    const std::string_view flag = FieldText(calls, columns_.forward);
+// A flag that is not a number fails the test for 0 and so reads as "No".
+void RowResolver::AddForward(std::string_view flag) {
     const bool isZero = flag == "0" || flag.empty() || TestOrEnter([&] { return ToInteger32(flag) == 0; });
     cells_.push_back(isZero ? "No" : "Yes");
 }
 
 // A call whose `Internal` the statement did not return counts as one over a trunk.
 bool RowResolver::IsOutside(const ado::Recordset& calls) const {
-    return !columns_.internal || calls.Text(columns_.internal) == kOutside;
+    return !internal_ || calls.Text(internal_) == kOutside;
 }
 
 // A local number is shown with the site's dialling code, as it would be dialled from
 // anywhere else. The length is tested first: a count of numbers, which has no `Internal`,
 // shows long numbers as they are.
-void RowResolver::AddDestNum(const ado::Recordset& calls) {
-    const std::string_view number = FieldText(calls, columns_.destNum);
+void RowResolver::AddNumber(std::string_view number, const ado::Recordset& calls) {
     const bool isLocal = !number.empty() && Len(number) <= kShortNumber && IsOutside(calls);
     if (!isLocal || !context_.settings.areaCode) return AddField(number);
     number_.assign(context_.site.areaCode);
@@ -144,9 +129,9 @@ void RowResolver::AddDestNum(const ado::Recordset& calls) {
 }
 
 RowResolver::Next RowResolver::AddArea(const ado::Recordset& calls) {
-    const std::string_view destNum = FieldText(calls, columns_.destNum);
-    const bool ofDestNum = context_.flags[DataKey::DestNum];
-    const std::string_view number = ofDestNum ? destNum : FieldText(calls, columns_.origNum);
+    const std::string_view destNum = FieldText(calls, destNum_);
+    const bool ofDestNum = context_.flags.Shows(kDestNumColumn);
+    const std::string_view number = ofDestNum ? destNum : FieldText(calls, origNum_);
     const std::size_t length = Len(Trim(number));
     if (length <= kInternalNumber) {
         cells_.push_back(kBlankCell);
@@ -170,36 +155,35 @@ std::string_view RowResolver::AreaName(std::string_view number, std::string_view
     return destNum == context_.site.voicemail ? kVoicemail : kBlankCell;
 }
 
-void RowResolver::AddCountry(const ado::Recordset& calls) {
-    const std::string_view number = FieldText(calls, columns_.destNum);
+void RowResolver::AddCountry(std::string_view number) {
     if (number.empty()) return cells_.push_back(kBlankCell);
     if (number.front() == '0' || Len(number) <= kShortNumber) return cells_.push_back(kHomeCountry);
     AddField(countries_.Narrow(number, {.first = 1, .last = Len(number)}).value_or(""));
 }
 
 // An internal call's row is one cell short.
-void RowResolver::AddCost(const ado::Recordset& calls) {
+void RowResolver::AddCost(std::string_view id, const ado::Recordset& calls) {
     if (!IsOutside(calls)) return;
     if (context_.settings.storedCosts) {
-        AddStoredCost(calls);
+        AddStoredCost(id);
     } else {
         AddPricedCost(calls);
     }
 }
 
-void RowResolver::AddStoredCost(const ado::Recordset& calls) {
-    const auto cost = storedCosts_.Find(FieldText(calls, columns_.id));
+void RowResolver::AddStoredCost(std::string_view id) {
+    const auto cost = storedCosts_.Find(id);
     if (!cost) return AddAmount(kNoCost, 0);
     std::int32_t pence = 0;
     Attempt([&] { pence = PenceOf(*cost); });
     AddAmount(*cost, pence);
 }
 
-// Without a duration to look at, a call counts as one that never was.
+// A call whose duration the statement did not return costs nothing.
 void RowResolver::AddPricedCost(const ado::Recordset& calls) {
-    const std::string_view duration = FieldText(calls, columns_.duration);
-    if (!columns_.duration || duration == kNoDuration) return AddAmount(kNoCost, 0);
-    const CallPricing::Price price = pricing_.Of(duration, FieldText(calls, columns_.destNum));
+    const std::string_view duration = FieldText(calls, duration_);
+    if (!duration_ || duration == kNoDuration) return AddAmount(kNoCost, 0);
+    const CallPricing::Price price = pricing_.Of(duration, FieldText(calls, destNum_));
     AddAmount(price.text, price.pence);
 }
 
@@ -210,7 +194,7 @@ void RowResolver::AddAmount(std::string_view text, std::int32_t pence) {
     AddToTotal(pence);
 }
 
-// A sum that no longer fits is a failing statement: the total keeps what it had.
+// A sum that does not fit leaves the total as it was.
 void RowResolver::AddToTotal(std::int32_t pence) {
     const std::int64_t sum = std::int64_t{totalPence_} + pence;
     if (sum == static_cast<std::int32_t>(sum)) totalPence_ = static_cast<std::int32_t>(sum);

@@ -1,8 +1,8 @@
-// Fills the row of a call: walks the report's cells in their order and works out the
-// text of each, by a plain field or by lookups in the name, address book, area,
+// Fills the row of a call: walks the report's columns in their order and works out the
+// text of each cell, from a plain field or by lookups in the name, address book, area,
 // provider, country and cost tables.
 //
-//     RowResolver resolver(context, CallColumns(calls));
+//     RowResolver resolver(context, calls);
 //     const std::vector<std::string_view>& cells = resolver.Resolve(calls);
 //
 // This is the inside of the record loop: no cell allocates, none throws in the ordinary
@@ -17,7 +17,6 @@
 #include "costing/call_pricing.h"
 #include "costing/tariff.h"
 #include "host/event_queue.h"
-#include "reporting/call_columns.h"
 #include "reporting/catalogue.h"
 #include "reporting/key_lookup.h"
 #include "reporting/report_columns.h"
@@ -42,8 +41,8 @@ struct RowContext {
 
 class RowResolver {
 public:
-    /// `columns` are the places in the set that Resolve is called with.
-    RowResolver(const RowContext& context, const CallColumns& columns);
+    /// The columns are those of `calls`.
+    RowResolver(const RowContext& context, const ado::Recordset& calls);
 
     /// Whether the current call is left out of a count of dialled numbers.
     bool IsDropped(const ado::Recordset& calls) const;
@@ -59,24 +58,37 @@ public:
 private:
     enum class Next { Cell, EndOfRow };
 
-    Next Add(Cell cell, const ado::Recordset& calls);
+    struct Step {
+        PresetCell cell;
+        ado::Column source;
+    };
+
+    static std::vector<Step> StepsOf(const RowContext& context, const ado::Recordset& calls);
+
+    Next Add(const Step& step, const ado::Recordset& calls);
     void AddField(std::string_view text) { cells_.push_back(text.empty() ? kBlankCell : text); }
-    void AddName(const ado::Recordset& calls);
-    void AddForward(const ado::Recordset& calls);
-    void AddDestNum(const ado::Recordset& calls);
+    void AddName(std::string_view extension);
+    void AddForward(std::string_view flag);
+    void AddNumber(std::string_view number, const ado::Recordset& calls);
     Next AddArea(const ado::Recordset& calls);
-    void AddCountry(const ado::Recordset& calls);
-    void AddCost(const ado::Recordset& calls);
+    void AddCountry(std::string_view number);
+    void AddCost(std::string_view id, const ado::Recordset& calls);
+    void AddStoredCost(std::string_view id);
+    void AddPricedCost(const ado::Recordset& calls);
     void AddAmount(std::string_view text, std::int32_t pence);
+    void AddToTotal(std::int32_t pence);
     std::string_view AreaName(std::string_view number, std::string_view destNum);
     bool IsOutside(const ado::Recordset& calls) const;
-    void AddStoredCost(const ado::Recordset& calls);
-    void AddPricedCost(const ado::Recordset& calls);
-    void AddToTotal(std::int32_t pence);
 
     const RowContext context_;
-    const CallColumns columns_;
-    const std::vector<Cell> plan_;
+    const std::vector<Step> steps_;
+
+    // Columns that rules look at besides the source of their own cell.
+    const ado::Column destNum_;
+    const ado::Column origNum_;
+    const ado::Column internal_;
+    const ado::Column duration_;
+
     KeyLookup names_;
     KeyLookup addressBook_;
     KeyLookup storedCosts_;

@@ -1,11 +1,15 @@
-// One pipeline makes every report. A run is described by what a person or a schedule
-// asked for (RunInputs) and by the rules in which its kind differs from the others
-// (RunRules), which are data.
+// What a run is asked to do. Every kind of run is an alternative of RunKind, and one
+// pipeline (reporting/report_run.h) makes them all. A new kind is a new alternative here
+// and an overload of MakeContent in reporting/report_content.cpp.
 #pragma once
 
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <variant>
+
+#include "reporting/catalogue.h"
+#include "reporting/custom_reports.h"
 
 namespace tallix {
 
@@ -24,91 +28,36 @@ struct RunInputs {
     std::string timeTo{};
 };
 
-enum class QueryRules { Preset, Unattended, Custom };
+enum class PageOutput { Html, CommaText };
 
-enum class TimeRule {
-    BothBounds,  ///< applies when both times are given; each bound is exclusive
-    Schedule,    ///< applies when either is given; a missing end keeps nothing
-};
-
-/// What happens when the statement gives no records.
-enum class EmptyResult { Stop, CloseThePage };
-
-struct RunRules {
-    QueryRules query;
-    TimeRule time;
-    EmptyResult empty;
-    bool commaTextOnly;              ///< whatever the destination
-    bool dropsBlankNumbers;          ///< records without a dialled number are passed over
-    bool honoursTop;                 ///< the key `Top` bounds the records looked at
-    bool writesTitle;                ///< the key `Title` gives a line above the table
-    std::string_view generatedOn;    ///< opening of the date line in comma text
-    bool showsSeconds;               ///< in the date line of comma text
-    std::string_view fixedCurrency;  ///< in place of the session's; empty for that
-    bool writesCovers;               ///< cover and back page, where the settings have them on
-    bool logsTheRun;                 ///< a finished page gives a row in the access log
-};
-
-/// The preset report of a person at the screen.
-inline constexpr RunRules kPresetRules = {
-    .query = QueryRules::Preset,
-    .time = TimeRule::BothBounds,
-    .empty = EmptyResult::Stop,
-    .commaTextOnly = false,
-    .dropsBlankNumbers = true,
-    .honoursTop = true,
-    .writesTitle = true,
-    .generatedOn = "Generated On:",
-    .showsSeconds = false,
-    .fixedCurrency = "",
-    .writesCovers = true,
-    .logsTheRun = true,
-};
-
-/// The scheduled report with nobody at the screen.
-inline constexpr RunRules kUnattendedRules = {
-    .query = QueryRules::Unattended,
-    .time = TimeRule::Schedule,
-    .empty = EmptyResult::CloseThePage,
-    .commaTextOnly = true,
-    .dropsBlankNumbers = false,
-    .honoursTop = false,
-    .writesTitle = false,
-    .generatedOn = "Generated On: ",
-    .showsSeconds = true,
-    .fixedCurrency = "£",
-    .writesCovers = false,
-    .logsTheRun = false,
-};
-
-/// The custom report of a person at the screen. Its filters are part of its rows.
-inline constexpr RunRules kCustomRules = {
-    .query = QueryRules::Custom,
-    .time = TimeRule::BothBounds,
-    .empty = EmptyResult::Stop,
-    .commaTextOnly = false,
-    .dropsBlankNumbers = false,
-    .honoursTop = false,
-    .writesTitle = false,
-    .generatedOn = "Generated On:",
-    .showsSeconds = false,
-    .fixedCurrency = "",
-    .writesCovers = false,
-    .logsTheRun = true,
-};
-
-struct CustomReport;
-
-struct RunDescription {
-    std::string reportName;            ///< in titles and in the log
+/// A preset report of a person at the screen.
+struct PresetRun {
+    ReportFlags& flags;                ///< of the process; must outlive the run
     std::filesystem::path reportFile;  ///< the file of keys
     RunInputs inputs{};
-    bool commaText = false;         ///< for an application that opens comma text
+    PageOutput output = PageOutput::Html;
     bool demandsExtension = false;  ///< without a numeric extension the run is refused
     bool demandsAccount = false;    ///< the same for the account code
     bool drawsGraph = false;        ///< a bar chart ends the page
-    const RunRules& rules;
-    const CustomReport* custom = nullptr;  ///< in place of the file of keys; must outlive the run
+};
+
+/// A scheduled report with nobody at the screen. It is always comma text.
+struct UnattendedRun {
+    ReportFlags& flags;
+    std::filesystem::path reportFile;
+    RunInputs inputs{};
+};
+
+/// A custom report of a person at the screen. Its filters are part of the report.
+struct CustomRun {
+    CustomReport report;
+};
+
+using RunKind = std::variant<PresetRun, UnattendedRun, CustomRun>;
+
+struct RunDescription {
+    std::string reportName;  ///< in titles and in the log
+    RunKind kind;
 };
 
 }  // namespace tallix

@@ -21,21 +21,17 @@ constexpr std::string_view kBody =
     "This email was sent from the Tallix Call Accounting System. Attached is a CSV file containing the "
     "report data.";
 
-RunDescription Describe(const Application& application, const ScheduledReport& schedule) {
+RunDescription Describe(const Application& application, ReportFlags& flags, const ScheduledReport& schedule) {
     const std::filesystem::path reportFile =
         application.folder.string() + "/Reports/" + ToNativePath(schedule.report).string();
     return {.reportName = ReportNameOf(reportFile.filename().string()),
-            .reportFile = reportFile,
-            .inputs = {.extension = schedule.extension,
-                       .account = schedule.account,
-                       .site = schedule.site,
-                       .group = "",
-                       .startDate = "",
-                       .endDate = "",
-                       .timeFrom = schedule.timeStart,
-                       .timeTo = schedule.timeFinish},
-            .commaText = true,
-            .rules = kUnattendedRules};
+            .kind = UnattendedRun{.flags = flags,
+                                  .reportFile = reportFile,
+                                  .inputs = {.extension = schedule.extension,
+                                             .account = schedule.account,
+                                             .site = schedule.site,
+                                             .timeFrom = schedule.timeStart,
+                                             .timeTo = schedule.timeFinish}}};
 }
 
 // Day, month and year of the run without the time: a folder holds one result per day.
@@ -78,8 +74,8 @@ void RunScheduledReport(Application& application, ReportFlags& flags, const Sche
     const FileLock turn(Beside(PageFile(application), ".turn"));
     application.session.CurrentUser = kUserOfSchedules;
     NoProgress nobody;
-    ReportRun run(application, flags, nobody);
-    run.Make(Describe(application, schedule));
+    ReportRun run(application, nobody);
+    run.Make(Describe(application, flags, schedule));
     if (schedule.DeliversToFile()) {
         const std::string target = schedule.outputLocation + DayText(application) + ".csv";
         MoveWithoutReplacing(PageFile(application), ToNativePath(target));

@@ -14,6 +14,7 @@
 #include "toolkit/label.h"
 #include "toolkit/style.h"
 #include "toolkit/text.h"
+#include "windows/reporting/input_text.h"
 
 namespace tallix {
 namespace {
@@ -25,8 +26,8 @@ constexpr int kFieldWidth = 20 * toolkit::kGrid;
 constexpr char kNewReport[] = "<Create New Report>";
 constexpr char kFirstName[] = "New Report 1";
 
-// The text editor is told a folder that does not hold the file. Kept: what opens, and
-// what does not, is known by now.
+// The text editor gets a path in a folder that does not hold the file. People know by now
+// which applications open the report and which do not.
 constexpr char kEditorFile[] = "\\Reports\\rpt.csv";
 
 QVBoxLayout* Column() {
@@ -39,7 +40,7 @@ QVBoxLayout* Column() {
 
 CustomReportsWindow::CustomReportsWindow(toolkit::Forms& forms, Application& application,
                                          toolkit::Printers& printers)
-    : ReportRunWindow(forms, "Tallix Reports Tool - Custom Reports", application, printers),
+    : ReportRunForm(forms, "Tallix Reports Tool - Custom Reports", application, printers),
       reports_(new QListWidget),
       name_(new QLineEdit),
       nameLabel_(toolkit::LabelOf("Report Name:", name_)),
@@ -59,7 +60,7 @@ CustomReportsWindow::CustomReportsWindow(toolkit::Forms& forms, Application& app
       cancel_(new QPushButton("Cancel")) {
     auto* columns = new QHBoxLayout;
     columns->setSpacing(toolkit::kMargin);
-    columns->addLayout(ReportColumn());
+    columns->addLayout(ReportsColumn());
     columns->addLayout(FieldColumn());
     columns->addLayout(FilterColumn(), 1);
     auto* rows = new QVBoxLayout(Content());
@@ -72,7 +73,7 @@ CustomReportsWindow::CustomReportsWindow(toolkit::Forms& forms, Application& app
     new toolkit::DialogKeys(*this, run_, cancel_);
 }
 
-QLayout* CustomReportsWindow::ReportColumn() {
+QLayout* CustomReportsWindow::ReportsColumn() {
     auto* column = Column();
     column->addWidget(toolkit::LabelOf("Available Reports", reports_));
     column->addWidget(reports_, 1);
@@ -97,11 +98,11 @@ QLayout* CustomReportsWindow::FieldColumn() {
     return column;
 }
 
-// With its look at hand, so that the rows are as high as they stay.
+// The style comes first, so that the rows get their final height.
 void CustomReportsWindow::FillFields() {
     fields_->ensurePolished();
-    for (const CustomFieldNames& names : kCustomFieldNames) {
-        auto* item = new QListWidgetItem(QString::fromUtf8(names.entry.data()), fields_);
+    for (const ReportColumn* column : kCustomColumns) {
+        auto* item = new QListWidgetItem(toolkit::ToQString(column->custom.entry), fields_);
         item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
         item->setCheckState(Qt::Unchecked);
     }
@@ -164,7 +165,7 @@ void CustomReportsWindow::OnLoad() {
           static_cast<QWidget*>(save_), static_cast<QWidget*>(run_)}) {
         input->setEnabled(false);
     }
-    // The right of call cost mappings opens new reports; the one named for it asks nobody.
+    // The right of call cost mappings opens new reports; the right of that name has no effect.
     if (Allows(session.CurrentAccess, AccessRight::CallCostMappings)) reports_->addItem(kNewReport);
     reports_->addItems(toolkit::ToQStringList(ListReports(CustomReportsFolder(session.ReportsLocation))));
     FillFields();
@@ -221,7 +222,7 @@ void CustomReportsWindow::Show(const CustomReport& report) {
     }
     account_->setText(QString::fromStdString(report.account));
     duration_->setText(QString::fromStdString(report.duration));
-    (report.greater ? greater_ : report.less ? less_ : neither_)->setChecked(true);
+    ButtonOf(report.durationTest)->setChecked(true);
     start_->SetText(report.startDate);
     end_->SetText(report.endDate);
     for (const toolkit::DateInput* date : {start_, end_}) date->Box().setChecked(!date->Text().empty());
@@ -233,8 +234,7 @@ CustomReport CustomReportsWindow::Described() const {
     const DestinationChoice choice = Output().Choice();
     CustomReport report = {.account = TextOf(*account_),
                            .duration = TextOf(*duration_),
-                           .greater = greater_->isChecked(),
-                           .less = less_->isChecked(),
+                           .durationTest = ChosenTest(),
                            .startDate = start_->Text(),
                            .endDate = end_->Text(),
                            .extension = TextOf(*extension_),
@@ -255,11 +255,26 @@ void CustomReportsWindow::Save() {
 
 void CustomReportsWindow::RunReport() {
     extension_->setText(QString::fromStdString(FullExtension(TextOf(*extension_))));
-    report_ = Described();
     DestinationChoice choice = Output().Choice();
     choice.editorFile = kEditorFile;
-    ReportFlags none;
-    Run(DescribeCustomRun(TextOf(*name_), report_), none, choice);
+    Run({.reportName = TextOf(*name_), .kind = CustomRun{Described()}}, choice);
+}
+
+QRadioButton* CustomReportsWindow::ButtonOf(DurationTest test) const {
+    switch (test) {
+        case DurationTest::Greater:
+            return greater_;
+        case DurationTest::Less:
+            return less_;
+        case DurationTest::None:
+            break;
+    }
+    return neither_;
+}
+
+DurationTest CustomReportsWindow::ChosenTest() const {
+    if (greater_->isChecked()) return DurationTest::Greater;
+    return less_->isChecked() ? DurationTest::Less : DurationTest::None;
 }
 
 Message CustomReportsWindow::NoDataMessage() const {

@@ -1,6 +1,6 @@
-// The Custom Reports window ("Form10"): a person picks fields and filters, keeps them under
-// a name, and runs them. Filters are filled in for a new report; one that was kept runs
-// with those it was kept with.
+// The Custom Reports window ("Form10"): a person picks fields and filters, saves them under
+// a name, and runs them. Filters are filled in for a new report; a saved one runs with the
+// filters that were saved.
 #pragma once
 
 #include <QLabel>
@@ -10,11 +10,11 @@
 
 #include "reporting/custom_reports.h"
 #include "toolkit/date_input.h"
-#include "windows/reporting/report_run_window.h"
+#include "windows/reporting/report_run_form.h"
 
 namespace tallix {
 
-class CustomReportsWindow : public ReportRunWindow {
+class CustomReportsWindow : public ReportRunForm {
     Q_OBJECT
 public:
     /// `application` and `printers` must outlive the window.
@@ -25,7 +25,7 @@ protected:
     Message NoDataMessage() const override;
 
 private:
-    QLayout* ReportColumn();
+    QLayout* ReportsColumn();
     QLayout* FieldColumn();
     QLayout* FilterColumn();
     QLayout* ButtonRow();
@@ -39,6 +39,8 @@ private:
     void OpenReport(const QString& name);
     void Show(const CustomReport& report);
     CustomReport Described() const;
+    QRadioButton* ButtonOf(DurationTest test) const;
+    DurationTest ChosenTest() const;
     void Save();
     void RunReport();
 
@@ -51,7 +53,7 @@ private:
     QLineEdit* duration_;
     QRadioButton* greater_;
     QRadioButton* less_;
-    QRadioButton* neither_;  ///< never seen: chosen while neither of the two is
+    QRadioButton* neither_;  ///< hidden; chosen while neither of the two is
     toolkit::DateInput* start_;
     toolkit::DateInput* end_;
     QLineEdit* extension_;
@@ -59,7 +61,6 @@ private:
     QPushButton* save_;
     QPushButton* run_;
     QPushButton* cancel_;
-    CustomReport report_;  ///< of the latest run
 };
 
 }  // namespace tallix

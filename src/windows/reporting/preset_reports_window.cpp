@@ -10,6 +10,7 @@
 #include "toolkit/dialog_keys.h"
 #include "toolkit/style.h"
 #include "toolkit/text.h"
+#include "windows/reporting/input_text.h"
 
 namespace tallix {
 namespace {
@@ -21,7 +22,7 @@ constexpr int kFieldWidth = 20 * toolkit::kGrid;
 
 PresetReportsWindow::PresetReportsWindow(toolkit::Forms& forms, Application& application, ReportFlags& flags,
                                          toolkit::Printers& printers)
-    : ReportRunWindow(forms, "Tallix Reports Tool - Preset Reports", application, printers),
+    : ReportRunForm(forms, "Tallix Reports Tool - Preset Reports", application, printers),
       flags_(flags),
       reports_(new QListView),
       reportNames_(new QStringListModel(this)),
@@ -43,7 +44,7 @@ PresetReportsWindow::PresetReportsWindow(toolkit::Forms& forms, Application& app
     auto* columns = new QHBoxLayout(Content());
     columns->setContentsMargins(toolkit::kMargin, toolkit::kMargin, toolkit::kMargin, toolkit::kMargin);
     columns->setSpacing(toolkit::kMargin);
-    columns->addWidget(ReportColumn());
+    columns->addWidget(ReportsColumn());
     columns->addLayout(FilterColumn(), 1);
     greaterThan_->setChecked(true);
     NameInputs();
@@ -52,7 +53,7 @@ PresetReportsWindow::PresetReportsWindow(toolkit::Forms& forms, Application& app
     new toolkit::DialogKeys(*this, run_, cancel_);
 }
 
-QWidget* PresetReportsWindow::ReportColumn() {
+QWidget* PresetReportsWindow::ReportsColumn() {
     auto* column = new QWidget;
     auto* label = new QLabel("Available Reports");
     label->setBuddy(reports_);
@@ -162,7 +163,7 @@ void PresetReportsWindow::FillLists() {
 // A click on the report that is selected already reads its file anew.
 void PresetReportsWindow::SelectReport() {
     run_->setEnabled(reports_->selectionModel()->hasSelection());
-    EnableInputs(EnabledInputs(Describe().reportFile));
+    EnableInputs(EnabledInputs(PresetReportFile(Program().folder, SelectedReport())));
 }
 
 void PresetReportsWindow::EnableInputs(const EnabledInputs& enabled) {
@@ -172,11 +173,19 @@ void PresetReportsWindow::EnableInputs(const EnabledInputs& enabled) {
     }
 }
 
-RunDescription PresetReportsWindow::Describe() const {
+void PresetReportsWindow::RunReport() {
+    Run({.reportName = SelectedReport(), .kind = Describe()}, Output().Choice());
+}
+
+std::string PresetReportsWindow::SelectedReport() const {
     const QModelIndex selected = reports_->selectionModel()->selectedIndexes().value(0);
-    const std::string name = selected.data().toString().toStdString();
-    return {.reportName = name,
-            .reportFile = PresetReportFile(Program().folder, name),
+    return selected.data().toString().toStdString();
+}
+
+PresetRun PresetReportsWindow::Describe() const {
+    const bool inApplication = Output().Choice().destination == Destination::InExternalApplication;
+    return {.flags = flags_,
+            .reportFile = PresetReportFile(Program().folder, SelectedReport()),
             .inputs = {.extension = TextOf(*extension_),
                        .account = TextOf(*account_),
                        .site = TextOf(*site_),
@@ -185,11 +194,10 @@ RunDescription PresetReportsWindow::Describe() const {
                        .endDate = end_->Text(),
                        .timeFrom = TextOf(*timeFrom_),
                        .timeTo = TextOf(*timeTo_)},
-            .commaText = Output().Choice().destination == Destination::InExternalApplication,
+            .output = inApplication ? PageOutput::CommaText : PageOutput::Html,
             .demandsExtension = enabled_[Input::Extension],
             .demandsAccount = enabled_[Input::Account],
-            .drawsGraph = graph_->isChecked(),
-            .rules = kPresetRules};
+            .drawsGraph = graph_->isChecked()};
 }
 
 }  // namespace tallix

@@ -1,6 +1,5 @@
 // The Preset Reports window ("Form7"): a person picks a report, fills in what it asks for
-// and runs it. However a run ends, the window is unloaded with it, and the main menu
-// shows again.
+// and runs it.
 #pragma once
 
 #include <QCheckBox>
@@ -18,11 +17,11 @@
 #include "reporting/catalogue.h"
 #include "reporting/preset_request.h"
 #include "toolkit/date_input.h"
-#include "windows/reporting/report_run_window.h"
+#include "windows/reporting/report_run_form.h"
 
 namespace tallix {
 
-class PresetReportsWindow : public ReportRunWindow {
+class PresetReportsWindow : public ReportRunForm {
     Q_OBJECT
 public:
     /// `application`, `printers` and `flags`, the process's report switches, must outlive
@@ -35,7 +34,7 @@ protected:
     Message NoDataMessage() const override { return tallix::NoDataMessage(); }
 
 private:
-    QWidget* ReportColumn();
+    QWidget* ReportsColumn();
     QLayout* FilterColumn();
     QGridLayout* FilterGrid();
     void AddRow(QGridLayout& grid, Input input, const QString& caption, const std::vector<QWidget*>& inputs);
@@ -48,8 +47,9 @@ private:
     void SelectReport();
     void EnableInputs(const EnabledInputs& enabled);
 
-    void RunReport() { Run(Describe(), flags_, Output().Choice()); }
-    RunDescription Describe() const;
+    void RunReport();
+    std::string SelectedReport() const;
+    PresetRun Describe() const;
 
     ReportFlags& flags_;
     QListView* reports_;

@@ -14,16 +14,15 @@ using testing::ElementsAre;
 
 class CustomReportsTest : public testing::Test {
 protected:
-    CustomReport Showing(std::initializer_list<CustomField> fields) {
+    CustomReport Showing(std::initializer_list<const char*> keys) {
         CustomReport report;
-        for (const CustomField field : fields) report.shown[static_cast<std::size_t>(field)] = true;
+        for (const char* key : keys) report.shown.at(CustomFieldOfKey(key)) = true;
         return report;
     }
 
     RunOutcome Run(const CustomReport& report) {
-        ReportFlags flags;
         NoProgress progress;
-        return ReportRun(test_.application, flags, progress).Make(DescribeCustomRun("Mine", report));
+        return ReportRun(test_.application, progress).Make({.reportName = "Mine", .kind = CustomRun{report}});
     }
 
     std::vector<std::string> Page() { return test::ReadLines(PageFile(test_.application)); }
@@ -38,26 +37,33 @@ TEST_F(CustomReportsTest, AFilterAppliesWhereItsFieldIsShown) {
                           {"Duration", "00:0" + std::string(day + 1) + ":00"}});
     }
     test_.InsertCall({{"Extension", "t9"}, {"Date", "never"}, {"Account", "7"}, {"Duration", ""}});
-    using enum CustomField;
     struct Case {
-        std::initializer_list<CustomField> shown;
+        std::initializer_list<const char*> shown;
         void (*fill)(CustomReport&);
         std::vector<std::string> rows;
     };
     const Case cases[] = {
-        {{Account}, [](CustomReport& r) { r.startDate = "01/03/2021"; }, {"&nbsp;", "&nbsp;", "&nbsp;", "7"}},
-        {{Date}, [](CustomReport& r) { r.startDate = "01/03/2021"; }, {"02/03/2021", "03/03/2021", "never"}},
-        {{Date},
+        {{"Account"},
+         [](CustomReport& r) { r.startDate = "01/03/2021"; },
+         {"&nbsp;", "&nbsp;", "&nbsp;", "7"}},
+        {{"Date"},
+         [](CustomReport& r) { r.startDate = "01/03/2021"; },
+         {"02/03/2021", "03/03/2021", "never"}},
+        {{"Date"},
          [](CustomReport& r) { r.startDate = "01/03/2021", r.endDate = "03/03/2021"; },
          {"02/03/2021", "never"}},
-        {{Date},
+        {{"Date"},
          [](CustomReport& r) { r.endDate = "x"; },
          {"01/03/2021", "02/03/2021", "03/03/2021", "never"}},
-        {{ExtensionName, Date}, [](CustomReport& r) { r.endDate = "02/03/2021"; }, {"&nbsp;,01/03/2021"}},
-        {{Duration}, [](CustomReport& r) { r.duration = "00:02:00", r.greater = true; }, {"00:03:00"}},
-        {{Duration}, [](CustomReport& r) { r.duration = "00:02:00", r.less = true; }, {"00:01:00", "&nbsp;"}},
-        {{Duration, Account}, [](CustomReport& r) { r.duration = "1", r.account = "7"; }, {"7"}},
-        {{Time}, [](CustomReport& r) { r.extension = "t9"; }, {"10:15:00"}},
+        {{"ExtName", "Date"}, [](CustomReport& r) { r.endDate = "02/03/2021"; }, {"&nbsp;,01/03/2021"}},
+        {{"Duration"},
+         [](CustomReport& r) { r.duration = "00:02:00", r.durationTest = DurationTest::Greater; },
+         {"00:03:00"}},
+        {{"Duration"},
+         [](CustomReport& r) { r.duration = "00:02:00", r.durationTest = DurationTest::Less; },
+         {"00:01:00", "&nbsp;"}},
+        {{"Duration", "Account"}, [](CustomReport& r) { r.duration = "1", r.account = "7"; }, {"7"}},
+        {{"Time"}, [](CustomReport& r) { r.extension = "t9"; }, {"10:15:00"}},
     };
     for (const Case& c : cases) {
         CustomReport report = Showing(c.shown);
@@ -70,7 +76,7 @@ TEST_F(CustomReportsTest, AFilterAppliesWhereItsFieldIsShown) {
         for (const std::string& row : c.rows) expected.push_back(row + ",");
         EXPECT_EQ(rows, expected) << "case " << &c - cases;
     }
-    CustomReport report = Showing({Time});
+    CustomReport report = Showing({"Time"});
     report.extension = "2\"0'1";
     EXPECT_EQ(Run(report), RunOutcome::NoData);
 }
@@ -79,9 +85,9 @@ TEST_F(CustomReportsTest, AFileKeepsAReportAndStaysInItsFolder) {
     const std::string location = test_.Folder().string();
     const auto folder = CustomReportsFolder(location);
     std::filesystem::create_directories(folder / "CST_");
-    CustomReport report = Showing({CustomField::Time, CustomField::Account});
+    CustomReport report = Showing({"Time", "Account"});
     report.account = "12 \"34\"";
-    report.less = true;
+    report.durationTest = DurationTest::Less;
     report.endDate = "02/03/2021";
     report.destination = Destination::InExternalApplication;
     report.application = "Microsoft Notepad";
@@ -99,7 +105,8 @@ TEST_F(CustomReportsTest, AFileKeepsAReportAndStaysInItsFolder) {
     EXPECT_EQ(read.shown, report.shown);
     EXPECT_EQ(read.account + read.endDate + read.application,
               report.account + report.endDate + report.application);
-    EXPECT_TRUE(read.less && read.destination == Destination::InExternalApplication);
+    EXPECT_TRUE(read.durationTest == DurationTest::Less &&
+                read.destination == Destination::InExternalApplication);
 
     const auto filesBefore = ListReports(folder).size();
     for (const char* name : {"/../../x", "\\..\\x", "a/b", "a\nb"}) WriteCustomReport(location, name, report);

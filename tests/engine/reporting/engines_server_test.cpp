@@ -61,14 +61,14 @@ void RunReports(TestApplication& test, const std::string& providers, const std::
     NoProgress progress;
     for (const std::string& name : ListReports(PresetReportsFolder(kData))) {
         const std::filesystem::path file = PresetReportFile(kData, name);
-        const RunDescription ways[] = {
-            {.reportName = name, .reportFile = file, .inputs = kInputs, .rules = kPresetRules},
-            {.reportName = name, .reportFile = file, .inputs = AllSites(), .rules = kPresetRules},
-            {.reportName = name, .reportFile = file, .inputs = AllSites(), .rules = kUnattendedRules},
+        const RunKind ways[] = {
+            PresetRun{.flags = flags, .reportFile = file, .inputs = kInputs},
+            PresetRun{.flags = flags, .reportFile = file, .inputs = AllSites()},
+            UnattendedRun{.flags = flags, .reportFile = file, .inputs = AllSites()},
         };
         int way = 0;
-        for (const RunDescription& description : ways) {
-            ReportRun(test.application, flags, progress).Make(description);
+        for (const RunKind& kind : ways) {
+            ReportRun(test.application, progress).Make({.reportName = name, .kind = kind});
             const std::string key = name + " " + std::to_string(++way) + " providers " + providers;
             files[key] = Replace(ReadBytes(PageFile(test.application)), test.Folder().string(), "");
         }
@@ -80,9 +80,8 @@ void RunCustomReport(TestApplication& test, Files& files) {
     CustomReport report;
     report.shown.fill(true);
     report.destination = Destination::InExternalApplication;
-    ReportFlags flags;
     NoProgress progress;
-    ReportRun(test.application, flags, progress).Make(DescribeCustomRun("Mine", report));
+    ReportRun(test.application, progress).Make({.reportName = "Mine", .kind = CustomRun{report}});
     files["custom"] = ReadBytes(PageFile(test.application));
 }
 

@@ -60,13 +60,13 @@ TEST(RefusalTest, TellsTheFirstDemandThatIsNotMet) {
         {"201", "", true, true, noAccount}, {"1e3", "7b", true, true, badAccount},
         {"", "1.5", false, true, ""},       {"1.5", "", true, false, ""},
     };
+    ReportFlags flags;
     for (const Case& c : cases) {
-        const auto refusal = RefusalOf({.reportName = "x",
+        const auto refusal = RefusalOf({.flags = flags,
                                         .reportFile = "x",
                                         .inputs = {.extension = c.extension, .account = c.account},
                                         .demandsExtension = c.demandsExtension,
-                                        .demandsAccount = c.demandsAccount,
-                                        .rules = kPresetRules});
+                                        .demandsAccount = c.demandsAccount});
         ASSERT_EQ(refusal.has_value(), !c.opening.empty()) << c.extension << ", " << c.account;
         if (!refusal) continue;
         EXPECT_EQ(refusal->text, c.opening + " report requires this value to run!");

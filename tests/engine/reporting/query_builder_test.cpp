@@ -23,7 +23,7 @@ protected:
 
     /// The statement of a report with the keys "A|B=value|...": columns, options, or the
     /// site or group that the user picked.
-    std::string Build(const std::string& keys, QueryRules rules = QueryRules::Preset,
+    std::string Build(const std::string& keys, const QueryRules& rules = kPresetQuery,
                       bool isMitel5000 = false) {
         test::TestApplication::Row data;
         test::TestApplication::Row options;
@@ -84,10 +84,8 @@ TEST_F(QueryBuilderTest, FindsTheExtensionInTheNumberColumnOfAMitel5000) {
         {"Extension|Where=WHERE Internal = 0",
          R"( WHERE Internal = 0 AND (OrigNum = "201" OR OrigNum = "201 "))"},
     };
-    for (const auto& [keys, behind] : cases)
-        EXPECT_EQ(Build(keys, QueryRules::Preset, true), kAllCalls + behind);
-    EXPECT_EQ(Build("DestNum|Extension", QueryRules::Unattended, true),
-              kAllCalls + R"( WHERE Extension = "201")");
+    for (const auto& [keys, behind] : cases) EXPECT_EQ(Build(keys, kPresetQuery, true), kAllCalls + behind);
+    EXPECT_EQ(Build("DestNum|Extension", kUnattendedQuery, true), kAllCalls + R"( WHERE Extension = "201")");
 }
 
 TEST_F(QueryBuilderTest, SchedulesApplyNoGroupsAndNoAccountBehindAClause) {
@@ -97,8 +95,7 @@ TEST_F(QueryBuilderTest, SchedulesApplyNoGroupsAndNoAccountBehindAClause) {
         {"Account|Where=WHERE Internal = 0", " WHERE Internal = 0"},
         {"Group=Sales", ""},
     };
-    for (const auto& [keys, behind] : cases)
-        EXPECT_EQ(Build(keys, QueryRules::Unattended), kAllCalls + behind);
+    for (const auto& [keys, behind] : cases) EXPECT_EQ(Build(keys, kUnattendedQuery), kAllCalls + behind);
 }
 
 }  // namespace

@@ -24,14 +24,21 @@ TestApplication::Row Columns(const std::vector<std::string>& names) {
 // Runs reports of one application as comma text and gives back their data lines.
 class ReportRunTest : public ::testing::Test {
 protected:
-    RunOutcome Run(const std::string& name, const RunInputs& inputs = {},
-                   const RunRules& rules = kPresetRules, bool commaText = true) {
-        ReportRun run(test.application, flags, progress);
-        return run.Make({.reportName = name,
-                         .reportFile = PresetReportFile(test.application.folder, name),
-                         .inputs = inputs,
-                         .commaText = commaText,
-                         .rules = rules});
+    RunOutcome Run(const std::string& name, const RunInputs& inputs = {}) {
+        return Make(
+            name,
+            PresetRun{
+                .flags = flags, .reportFile = File(name), .inputs = inputs, .output = PageOutput::CommaText});
+    }
+    RunOutcome RunScheduled(const std::string& name, const RunInputs& inputs = {}) {
+        return Make(name, UnattendedRun{.flags = flags, .reportFile = File(name), .inputs = inputs});
+    }
+    RunOutcome Make(const std::string& name, const RunKind& kind) {
+        NoProgress progress;
+        return ReportRun(test.application, progress).Make({.reportName = name, .kind = kind});
+    }
+    std::filesystem::path File(const std::string& name) const {
+        return PresetReportFile(test.application.folder, name);
     }
 
     std::vector<std::string> Lines() const {
@@ -56,7 +63,6 @@ protected:
 
     TestApplication test;
     ReportFlags flags;
-    NoProgress progress;
 };
 
 TEST_F(ReportRunTest, ResolvesEveryColumnInItsOrder) {
@@ -149,7 +155,7 @@ TEST_F(ReportRunTest, KeepsRecordsByTheirFilters) {
         const char* name;
         RunInputs inputs;
         std::vector<std::string> kept;
-        const RunRules& rules = kPresetRules;
+        bool scheduled = false;
     };
     const std::string first = "01/02/2021,08:29:59,", second = "01/02/2021,09:00:00,",
                       third = "02/02/2021,09:00:01,", fourth = "03/02/2021,17:00:00,",
@@ -163,19 +169,15 @@ TEST_F(ReportRunTest, KeepsRecordsByTheirFilters) {
         {"a start behind the end", {.startDate = "03/02/2021", .endDate = "01/02/2021"}, {}},
         {"both times are exclusive", {.timeFrom = "09:00", .timeTo = "17:00"}, {third, odd}},
         {"one time alone is no filter", {.timeFrom = "09:00"}, {first, second, third, fourth, odd}},
-        {"a schedule keeps blank numbers", {}, {first, second, third, fourth, odd, blank}, kUnattendedRules},
-        {"a schedule with both times",
-         {.timeFrom = "09:00", .timeTo = "17:00"},
-         {third, odd, blank},
-         kUnattendedRules},
-        {"a schedule with an end alone", {.timeTo = "09:00"}, {first, odd}, kUnattendedRules},
-        {"a schedule with a start alone keeps what is no time",
-         {.timeFrom = "09:00"},
-         {odd},
-         kUnattendedRules},
+        {"a schedule keeps blank numbers", {}, {first, second, third, fourth, odd, blank}, true},
+        {"a schedule with both times", {.timeFrom = "09:00", .timeTo = "17:00"}, {third, odd, blank}, true},
+        {"a schedule with an end alone", {.timeTo = "09:00"}, {first, odd}, true},
+        {"a schedule with a start alone keeps what is no time", {.timeFrom = "09:00"}, {odd}, true},
     };
     for (const Case& c : cases) {
-        ASSERT_EQ(Run("Filtered", c.inputs, c.rules), RunOutcome::Complete) << c.name;
+        const RunOutcome outcome =
+            c.scheduled ? RunScheduled("Filtered", c.inputs) : Run("Filtered", c.inputs);
+        ASSERT_EQ(outcome, RunOutcome::Complete) << c.name;
         EXPECT_EQ(Rows(), c.kept) << c.name;
     }
 }
@@ -205,7 +207,7 @@ TEST_F(ReportRunTest, BoundsTheRecordsLookedAt) {
     Run("Top");
     EXPECT_THAT(Rows(), ElementsAre("&nbsp;,01632960001,", "&nbsp;,01632960002,"))
         << "internal numbers take no place";
-    Run("Top", {}, kUnattendedRules);
+    RunScheduled("Top");
     EXPECT_EQ(Rows().size(), 3u) << "schedules take all";
 
     options["Top"] = "99999";
@@ -220,9 +222,9 @@ TEST_F(ReportRunTest, EndsWithoutDataWhereTheServerHasNoneOrRefuses) {
     for (const char* name : {"Empty", "Broken", "Missing"}) {
         EXPECT_EQ(Run(name), RunOutcome::NoData) << name;
         EXPECT_EQ(Lines()[0], std::string("Tallix Reports - ") + name);
-        EXPECT_EQ(Run(name, {}, kUnattendedRules), RunOutcome::Complete) << name;
+        EXPECT_EQ(RunScheduled(name), RunOutcome::Complete) << name;
     }
-    Run("Broken", {}, kUnattendedRules);
+    RunScheduled("Broken");
     EXPECT_THAT(Lines(), ElementsAre("Tallix Reports - Broken", "Generated On: 09/03/2021 At 14:05:30",
                                      "Created By Tallix Reports V1.4.6", "", "Date:,Cost:,", "",
                                      "Total Number Of Records: 0  |  Total Cost £0.00"));
@@ -253,11 +255,8 @@ TEST_F(ReportRunTest, WritesCoversAndAChartAndLogsTheRunOfAPersonAlone) {
     test.settings.Write("CCover", "1");
     const auto cover = test.application.tempFolder / "rptcov.tmp";
     const auto back = test.application.tempFolder / "rptbac.tmp";
-    const RunDescription charted = {.reportName = "All",
-                                    .reportFile = PresetReportFile(test.application.folder, "All"),
-                                    .drawsGraph = true,
-                                    .rules = kPresetRules};
-    EXPECT_EQ(ReportRun(test.application, flags, progress).Make(charted), RunOutcome::Complete);
+    const PresetRun charted = {.flags = flags, .reportFile = File("All"), .drawsGraph = true};
+    EXPECT_EQ(Make("All", charted), RunOutcome::Complete);
     EXPECT_TRUE(std::filesystem::exists(cover));
     EXPECT_FALSE(std::filesystem::exists(back));
     EXPECT_EQ(ReadLines(PageFile(test.application)).at(Lines().size() - 4), "</td></tr></table>");
@@ -265,7 +264,7 @@ TEST_F(ReportRunTest, WritesCoversAndAChartAndLogsTheRunOfAPersonAlone) {
 
     test.settings.Write("CCover", "");
     test.settings.Write("BBacking", "1");
-    Run("All", {}, kUnattendedRules);
+    RunScheduled("All");
     EXPECT_TRUE(std::filesystem::exists(cover)) << "a schedule leaves the covers of a person alone";
     EXPECT_FALSE(std::filesystem::exists(back));
     Run("All");
@@ -279,11 +278,8 @@ TEST_F(ReportRunTest, ARefusedRunLeavesItsSwitchesToTheNextAndNoFiles) {
     test.WriteReport("Second", {{"Site", "-"}, {"Time", "nonsense"}, {"Date", "-1"}}, {});
     Run("Second");
     EXPECT_THAT(Rows(), ElementsAre("05/03/2021,"));
-    const RunDescription first = {.reportName = "First",
-                                  .reportFile = PresetReportFile(test.application.folder, "First"),
-                                  .demandsExtension = true,
-                                  .rules = kPresetRules};
-    EXPECT_EQ(ReportRun(test.application, flags, progress).Make(first), RunOutcome::Refused);
+    const PresetRun first = {.flags = flags, .reportFile = File("First"), .demandsExtension = true};
+    EXPECT_EQ(Make("First", first), RunOutcome::Refused);
     EXPECT_TRUE(std::filesystem::is_empty(test.application.tempFolder));
     EXPECT_FALSE(test.application.session.DBConn.IsOpen());
     Run("Second");

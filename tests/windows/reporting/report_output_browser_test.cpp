@@ -13,7 +13,7 @@
 #include "support/form_test.h"
 #include "support/print_server.h"
 #include "support/run_program.h"
-#include "windows/reporting/destinations_window.h"
+#include "windows/reporting/report_delivery.h"
 
 namespace tallix {
 namespace {
@@ -57,8 +57,8 @@ protected:
         const auto file = world.WriteReport("Calls", {{"Date", "True"}, {"DestNum", "True"}}, {});
         ReportFlags flags;
         NoProgress progress;
-        ReportRun(world.application, flags, progress)
-            .Make({.reportName = "Calls", .reportFile = file, .rules = kPresetRules});
+        ReportRun(world.application, progress)
+            .Make({.reportName = "Calls", .kind = PresetRun{.flags = flags, .reportFile = file}});
     }
 
     void Deliver(const DestinationChoice& choice) {

@@ -1,7 +1,5 @@
 // Whole pages against the files in golden/, which hold UTF-8 and "\n" for the eye; the
 // program writes Windows-1252 and CR LF.
-#include "reporting/page_rendering.h"
-
 #include <gtest/gtest.h>
 
 #include "reporting/custom_reports.h"
@@ -33,18 +31,17 @@ protected:
             "'1 High Street', '', '', 'NT1 1AA')");
     }
 
-    void Run(const RunInputs& inputs, bool commaText) {
-        ReportRun run(test.application, flags, progress);
-        run.Make({.reportName = "Golden",
-                  .reportFile = PresetReportFile(test.application.folder, "Golden"),
-                  .inputs = inputs,
-                  .commaText = commaText,
-                  .rules = kPresetRules});
+    void Run(const RunInputs& inputs, PageOutput output) {
+        const auto file = PresetReportFile(test.application.folder, "Golden");
+        Make(PresetRun{.flags = flags, .reportFile = file, .inputs = inputs, .output = output});
+    }
+    void Make(const RunKind& kind) {
+        NoProgress progress;
+        ReportRun(test.application, progress).Make({.reportName = "Golden", .kind = kind});
     }
 
     TestApplication test;
     ReportFlags flags;
-    NoProgress progress;
 };
 
 TEST_F(PageTest, HasOneOfThreeShapes) {
@@ -63,16 +60,16 @@ TEST_F(PageTest, HasOneOfThreeShapes) {
         const char* golden;
         const char* v1Reports;
         const char* alignment;
-        bool commaText;
+        PageOutput output;
     };
-    const Case cases[] = {{"plain.html", "0", "L", false},
-                          {"coloured.html", "1", "middle", false},
-                          {"comma.csv", "0", "R", true},
-                          {"comma.csv", "1", "R", true}};
+    const Case cases[] = {{"plain.html", "0", "L", PageOutput::Html},
+                          {"coloured.html", "1", "middle", PageOutput::Html},
+                          {"comma.csv", "0", "R", PageOutput::CommaText},
+                          {"comma.csv", "1", "R", PageOutput::CommaText}};
     for (const Case& c : cases) {
         test.settings.Write("V1Reports", c.v1Reports);
         test.settings.Write("ReportAlign", c.alignment);
-        Run({.site = "ALL"}, c.commaText);
+        Run({.site = "ALL"}, c.output);
         EXPECT_EQ(ReadBytes(PageFile(test.application)), Golden(c.golden, test.application.folder))
             << c.golden << " with V1Reports " << c.v1Reports;
     }
@@ -97,14 +94,14 @@ TEST_F(PageTest, OfACustomReportIsBareWhateverTheSettings) {
     test.InsertCall({{"Account", "8"}});
     CustomReport report = {.account = "7",
                            .duration = "00:02:00",
-                           .greater = true,
+                           .durationTest = DurationTest::Greater,
                            .startDate = "04/03/2021",
                            .endDate = "07/03/2021"};
     report.shown.fill(true);
     for (const auto& [destination, golden] : {std::pair(Destination::OnScreen, "custom.html"),
                                               {Destination::InExternalApplication, "custom.csv"}}) {
         report.destination = destination;
-        ReportRun(test.application, flags, progress).Make(DescribeCustomRun("Golden", report));
+        Make(CustomRun{report});
         EXPECT_EQ(ReadBytes(PageFile(test.application)), Golden(golden, test.application.folder));
     }
 }
@@ -129,7 +126,7 @@ TEST_F(PageTest, RepeatsTheHeadsForEachPrintedSheet) {
     for (const Case& c : cases) {
         test.settings.Write("V1Reports", c.v1Reports);
         test.WriteReport("Golden", {{"Site", "True"}, {"Date", c.date}}, {});
-        Run({}, false);
+        Run({}, PageOutput::Html);
         int rows = 0;
         std::vector<int> sheets;
         for (const std::string& line : ReadLines(PageFile(test.application))) {

@@ -13,8 +13,8 @@ class Printers;
 }  // namespace toolkit
 
 /// Delivers the page of the latest run. `requestForm` is the name of the form that
-/// asked for it; each destination unloads that form, save the printer's when no printer
-/// has the chosen name.
+/// asked for it; each destination unloads that form. A printer that does not exist leaves
+/// it loaded.
 void DeliverReport(toolkit::Forms& forms, Application& application, toolkit::Printers& printers,
                    const DestinationChoice& choice, const char* requestForm);
 

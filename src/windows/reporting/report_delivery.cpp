@@ -1,4 +1,4 @@
-#include "windows/reporting/destinations_window.h"
+#include "windows/reporting/report_delivery.h"
 
 #include "toolkit/form_names.h"
 #include "toolkit/forms.h"
