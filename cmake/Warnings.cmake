@@ -3,20 +3,13 @@ add_library(tallix_options INTERFACE)
 target_compile_options(tallix_options INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion -Wnon-virtual-dtor -Woverloaded-virtual -Werror
   # GCC 12 reports overlaps and lengths in the string library's own "text" + string that do
-  # not occur. clang-tidy reads the same options and does not know them.
+  # not occur. clang-tidy reads the same options and reports those it does not know.
   $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict;-Wno-stringop-overflow;-Wno-array-bounds;-fpch-preprocess> -Wno-unknown-warning-option)
 
 if(TALLIX_SANITIZE)
   target_compile_options(tallix_options INTERFACE
     -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
   target_link_options(tallix_options INTERFACE -fsanitize=address,undefined)
-endif()
-
-if(TALLIX_TIDY)
-  find_program(CLANG_TIDY clang-tidy REQUIRED)
-  set(CMAKE_CXX_CLANG_TIDY ${CLANG_TIDY})
-  # What the toolkit's compilers generate is not ours to mend; a file of rules names one at least.
-  file(WRITE ${CMAKE_BINARY_DIR}/.clang-tidy "Checks: '-*,misc-unused-alias-decls'\n")
 endif()
 
 find_program(CCACHE ccache)

@@ -66,7 +66,7 @@ SQL
 
 start_postgres() {
   local dir=$1 port=$2 bin
-  bin=$(ls -d /usr/lib/postgresql/*/bin | sort -V | tail -n 1)
+  bin=$(printf '%s\n' /usr/lib/postgresql/*/bin | sort -V | tail -n 1)
   install -d -m 0700 "$dir/postgres"
   [ "$(id -u)" = 0 ] && chown postgres "$dir/postgres"
   mkdir "$dir/postgres.log.d" && chmod 0777 "$dir/postgres.log.d"
