@@ -1,10 +1,9 @@
 #include "administration/accounts.h"
 
-#include "database/recordset.h"
+#include "database/database_scope.h"
 #include "failures/attempt.h"
 #include "session/access_log.h"
 #include "session/access_rights.h"
-#include "session/database.h"
 #include "session/login.h"
 #include "text/encryption_tools.h"
 #include "text/text_conversion.h"
@@ -34,39 +33,32 @@ constexpr AccessRight kRightsOfNewAccount[] = {AccessRight::PresetReports, Acces
                                                AccessRight::PrintReport, AccessRight::PresetReportDestination,
                                                AccessRight::CustomReportDestination};
 
-// A row that another program filled in plain must not shut the administrator out.
+// A row that another program stored as plain text must not lock the administrator out.
 std::string Readable(std::string_view stored) {
     std::string text(stored);
     Attempt([&] { text = DecipherFromStorage(stored); });
     return text;
 }
 
-ado::Recordset OpenAccount(Session& session, const std::string& userName) {
-    ado::Recordset account;
-    account.Open("select * from tblusers where Username = " + Quoted(session, EncipherForStorage(userName)),
-                 OpenConnection(session));
-    return account;
+std::string AccountStatement(const DatabaseScope& database, const std::string& userName) {
+    return "select * from tblusers where Username = " + database.Quoted(EncipherForStorage(userName));
 }
 
-void LogAccount(Application& application, std::string_view event, const std::string& userName) {
-    OpenDatabase(application.session);
-    WriteLog(application.session, application.clock, std::string(event) + userName);
-    CloseDatabase(application.session);
+void LogAccount(const Application& application, std::string_view event, const std::string& userName) {
+    const Session& session = application.session;
+    WriteLog(DatabaseScope(session.database), session, application.clock, std::string(event) + userName);
 }
 
-std::string GroupIdOf(Session& session, const std::string& group) {
+std::string GroupIdOf(const DatabaseScope& database, const std::string& group) {
     if (group.empty()) return std::string(kNoGroup);
-    ado::Recordset groups;
-    groups.Open("select * from tblusergroups where Group_Name =" + Quoted(session, group),
-                OpenConnection(session));
-    return std::string(groups.RecordCount() > 0 ? groups.Text("GroupID") : kNoGroup);
+    const ado::Rows groups =
+        database.Query("select * from tblusergroups where Group_Name =" + database.Quoted(group));
+    return std::string(groups.IsEmpty() ? kNoGroup : groups.First().Text("GroupID"));
 }
 
-std::string GroupNameOf(Session& session, std::string_view groupId) {
-    ado::Recordset groups;
-    groups.Open("select * from tblusergroups", OpenConnection(session));
-    for (std::int64_t i = 1; i <= groups.RecordCount(); ++i, groups.MoveNext()) {
-        if (groups.Text("GroupID") == groupId) return std::string(groups.Text("Group_Name"));
+std::string GroupNameOf(const DatabaseScope& database, std::string_view groupId) {
+    for (const ado::Row group : database.Query("select * from tblusergroups")) {
+        if (group.Text("GroupID") == groupId) return std::string(group.Text("Group_Name"));
     }
     return {};
 }
@@ -79,32 +71,26 @@ void CollectDetails(ado::Recordset& row, const Account& account) {
 
 }  // namespace
 
-std::vector<Account> LoadAccounts(Session& session) {
-    OpenDatabase(session);
-    ado::Recordset rows;
-    rows.Open("select * from tblusers", OpenConnection(session));
+std::vector<Account> LoadAccounts(const Session& session) {
+    const ado::Rows rows = DatabaseScope(session.database).Query("select * from tblusers");
     std::vector<Account> accounts;
-    for (std::int64_t i = 1; i <= rows.RecordCount(); ++i, rows.MoveNext()) {
+    for (const ado::Row row : rows) {
         accounts.push_back(
-            {.userName = Readable(rows.Text("Username")), .email = Readable(rows.Text("Email"))});
+            {.userName = Readable(row.Text("Username")), .email = Readable(row.Text("Email"))});
     }
-    CloseDatabase(session);
     return accounts;
 }
 
-Account ReadAccount(Session& session, const std::string& userName) {
-    OpenDatabase(session);
-    Account account;
-    const ado::Recordset row = OpenAccount(session, userName);
-    if (row.RecordCount() > 0) {
-        account = {.userName = userName,
-                   .password = Readable(row.Text("Password")),
-                   .email = Readable(row.Text("Email")),
-                   .group = GroupNameOf(session, row.Text("GroupID")),
-                   .access = Readable(row.Text("AccessType"))};
-    }
-    CloseDatabase(session);
-    return account;
+Account ReadAccount(const Session& session, const std::string& userName) {
+    const DatabaseScope database(session.database);
+    const ado::Rows found = database.Query(AccountStatement(database, userName));
+    if (found.IsEmpty()) return {};
+    const ado::Row row = found.First();
+    return {.userName = userName,
+            .password = Readable(row.Text("Password")),
+            .email = Readable(row.Text("Email")),
+            .group = GroupNameOf(database, row.Text("GroupID")),
+            .access = Readable(row.Text("AccessType"))};
 }
 
 std::optional<Message> RefusalOf(const Account& account) {
@@ -127,57 +113,46 @@ std::string AccessOfNewAccount() {
     return access;
 }
 
-bool AddAccount(Application& application, const Account& account) {
-    Session& session = application.session;
+bool AddAccount(const Application& application, const Account& account) {
     LogAccount(application, "User Account Created - ", account.userName);
-    OpenDatabase(session);
-    ado::Recordset row = OpenAccount(session, account.userName);
-    const bool isNew = row.RecordCount() == 0;
-    if (isNew) {
-        row.AddNew();
-        CollectDetails(row, account);
-        row.Collect("AccessType", EncipherForStorage(AccessOfNewAccount()));
-        row.Collect("GroupID", GroupIdOf(session, account.group));
-        row.Update();
-    }
-    CloseDatabase(session);
-    return isNew;
-}
-
-void EditAccount(Application& application, const Account& account) {
-    Session& session = application.session;
-    LogAccount(application, "User Account Modified - ", account.userName);
-    OpenDatabase(session);
-    const std::string name = NormalUserName(account.userName);
-    ado::Recordset row = OpenAccount(session, name);
-    if (row.RecordCount() > 0) {
-        CollectDetails(row, account);
-        if (name != kAdministrator) {
-            row.Collect("GroupID", GroupIdOf(session, account.group));
-            row.Collect("AccessType", EncipherForStorage(account.access));
-        }
-        row.Update();
-    }
-    CloseDatabase(session);
-}
-
-bool DeleteAccount(Application& application, const std::string& userName) {
-    LogAccount(application, "User Account Deleted - ", userName);
-    if (userName == kAdministrator) return false;
-    Session& session = application.session;
-    OpenDatabase(session);
-    OpenConnection(session).Execute("DELETE FROM tblusers WHERE Username =" +
-                                    Quoted(session, EncipherForStorage(userName)));
-    CloseDatabase(session);
+    const DatabaseScope database(application.session.database);
+    ado::Recordset row = database.Edit(AccountStatement(database, account.userName));
+    if (row.RecordCount() > 0) return false;
+    row.AddNew();
+    CollectDetails(row, account);
+    row.Collect("AccessType", EncipherForStorage(AccessOfNewAccount()));
+    row.Collect("GroupID", GroupIdOf(database, account.group));
+    row.Update();
     return true;
 }
 
-// Both values stand between double quotes whatever the database.
-void StoreAccess(Session& session, const std::string& userName, const std::string& access) {
-    OpenDatabase(session);
-    OpenConnection(session).Execute("UPDATE tblusers SET AccessType = \"" + EncipherForStorage(access) +
-                                    "\" WHERE Username = \"" + EncipherForStorage(userName) + "\"");
-    CloseDatabase(session);
+void EditAccount(const Application& application, const Account& account) {
+    LogAccount(application, "User Account Modified - ", account.userName);
+    const DatabaseScope database(application.session.database);
+    const std::string name = NormalUserName(account.userName);
+    ado::Recordset row = database.Edit(AccountStatement(database, name));
+    if (row.RecordCount() == 0) return;
+    CollectDetails(row, account);
+    if (name != kAdministrator) {
+        row.Collect("GroupID", GroupIdOf(database, account.group));
+        row.Collect("AccessType", EncipherForStorage(account.access));
+    }
+    row.Update();
+}
+
+bool DeleteAccount(const Application& application, const std::string& userName) {
+    LogAccount(application, "User Account Deleted - ", userName);
+    if (userName == kAdministrator) return false;
+    const DatabaseScope database(application.session.database);
+    database.Execute("DELETE FROM tblusers WHERE Username =" + database.Quoted(EncipherForStorage(userName)));
+    return true;
+}
+
+// Both values are between double quotes for every kind of database.
+void StoreAccess(const Session& session, const std::string& userName, const std::string& access) {
+    DatabaseScope(session.database)
+        .Execute("UPDATE tblusers SET AccessType = \"" + EncipherForStorage(access) +
+                 "\" WHERE Username = \"" + EncipherForStorage(userName) + "\"");
 }
 
 }  // namespace tallix

@@ -1,7 +1,7 @@
 // Login accounts: who may log in, with which rights. Names, passwords, emails and rights
 // are stored enciphered; as equal texts give equal ciphertexts, accounts are found by the
-// enciphered name. Every action writes at once, over a connection of its own, and throws
-// DatabaseError. The actions are logged as they are asked for, refused ones included.
+// enciphered name. Every action opens the database, writes at once, and throws DatabaseError.
+// The access log gets a row for each attempt, refused ones included.
 #pragma once
 
 #include <optional>
@@ -25,31 +25,31 @@ struct Account {
 };
 
 /// Names and emails, in the table's own order.
-std::vector<Account> LoadAccounts(Session& session);
+std::vector<Account> LoadAccounts(const Session& session);
 
-/// All of one account; empty texts where there is none of that name.
-Account ReadAccount(Session& session, const std::string& userName);
+/// All of one account; empty texts for an unknown name.
+Account ReadAccount(const Session& session, const std::string& userName);
 
 /// Why what was typed cannot be an account; nothing when it can.
 std::optional<Message> RefusalOf(const Account& account);
 
-/// The rights with which every account begins, whatever was ticked: to run preset and
-/// custom reports, to print them and to choose where they go.
+/// The rights of every new account, whatever was ticked: to run preset and custom reports, to
+/// print them and to choose where they go.
 std::string AccessOfNewAccount();
 
-/// Adds an account under the normal form of its name, the first letter upper case. False
-/// where the name as it was typed is there: another way of writing it is not noticed and
-/// gives a second account of the same name.
-bool AddAccount(Application& application, const Account& account);
+/// Adds an account under the normal form of its name, the first letter upper case. Returns
+/// false when there is an account of the name as it was typed. Another spelling of a name is
+/// not noticed and makes a second account of that name.
+bool AddAccount(const Application& application, const Account& account);
 
-/// Changes password and email and, save for the administrator, group and rights. An
-/// account that is not there is passed over.
-void EditAccount(Application& application, const Account& account);
+/// Changes password and email and, except for the administrator, group and rights. Ignores an
+/// unknown account.
+void EditAccount(const Application& application, const Account& account);
 
-/// False, with nothing but a log row written, for the administrator.
-bool DeleteAccount(Application& application, const std::string& userName);
+/// Returns false for the administrator, for whom it writes only the log row.
+bool DeleteAccount(const Application& application, const std::string& userName);
 
 /// Gives an account other rights.
-void StoreAccess(Session& session, const std::string& userName, const std::string& access);
+void StoreAccess(const Session& session, const std::string& userName, const std::string& access);
 
 }  // namespace tallix

@@ -2,22 +2,16 @@
 
 #include <stdexcept>
 
-#include "database/recordset.h"
+#include "database/database_scope.h"
 #include "database/row_batch.h"
-#include "session/database.h"
 #include "text/text_lines.h"
 #include "text/text_pieces.h"
 
 namespace tallix {
 namespace {
 
-constexpr char kAllNumbers[] = "select * from tbladdressbook";
-
-ado::Recordset OpenRowsOf(Session& session, std::string_view number) {
-    OpenDatabase(session);
-    ado::Recordset rows;
-    rows.Open(std::string(kAllNumbers) + " where number=" + Quoted(session, number), OpenConnection(session));
-    return rows;
+std::string NumberStatement(const DatabaseScope& database, std::string_view number) {
+    return "select * from tbladdressbook where number=" + database.Quoted(number);
 }
 
 void AddLine(std::string_view line, ado::RowBatch& rows) {
@@ -31,56 +25,48 @@ void AddLine(std::string_view line, ado::RowBatch& rows) {
 
 }  // namespace
 
-std::vector<KnownNumber> LoadAddressBook(Session& session) {
-    OpenDatabase(session);
-    ado::Recordset rows;
-    rows.Open(kAllNumbers, OpenConnection(session));
+std::vector<KnownNumber> LoadAddressBook(const Session& session) {
+    const ado::Rows rows = DatabaseScope(session.database).Query("select * from tbladdressbook");
     std::vector<KnownNumber> entries;
-    for (std::int64_t i = 1; i <= rows.RecordCount(); ++i, rows.MoveNext()) {
-        entries.push_back({std::string(rows.Text("Name")), std::string(rows.Text("Number"))});
+    for (const ado::Row row : rows) {
+        entries.push_back({std::string(row.Text("Name")), std::string(row.Text("Number"))});
     }
-    CloseDatabase(session);
     return entries;
 }
 
-bool AddKnownNumber(Session& session, const KnownNumber& entry) {
-    ado::Recordset rows = OpenRowsOf(session, entry.number);
-    const bool isNew = rows.RecordCount() == 0;
-    if (isNew) {
-        rows.AddNew();
-        rows.Collect("Name", entry.name);
-        rows.Collect("Number", entry.number);
-        rows.Update();
-    }
-    CloseDatabase(session);
-    return isNew;
+bool AddKnownNumber(const Session& session, const KnownNumber& entry) {
+    const DatabaseScope database(session.database);
+    ado::Recordset rows = database.Edit(NumberStatement(database, entry.number));
+    if (rows.RecordCount() > 0) return false;
+    rows.AddNew();
+    rows.Collect("Name", entry.name);
+    rows.Collect("Number", entry.number);
+    rows.Update();
+    return true;
 }
 
-bool RenameKnownNumber(Session& session, const KnownNumber& entry) {
-    ado::Recordset rows = OpenRowsOf(session, entry.number);
-    const bool isThere = rows.RecordCount() > 0;
-    if (isThere) {
-        rows.Collect("Name", entry.name);
-        rows.Update();
-    }
-    CloseDatabase(session);
-    return isThere;
+bool RenameKnownNumber(const Session& session, const KnownNumber& entry) {
+    const DatabaseScope database(session.database);
+    ado::Recordset rows = database.Edit(NumberStatement(database, entry.number));
+    if (rows.RecordCount() == 0) return false;
+    rows.Collect("Name", entry.name);
+    rows.Update();
+    return true;
 }
 
-void DeleteKnownNumber(Session& session, std::string_view number) {
-    ado::Recordset rows = OpenRowsOf(session, number);
+void DeleteKnownNumber(const Session& session, std::string_view number) {
+    const DatabaseScope database(session.database);
+    ado::Recordset rows = database.Edit(NumberStatement(database, number));
     if (rows.RecordCount() > 0) rows.Delete();
-    CloseDatabase(session);
 }
 
-void ImportAddressBook(Session& session, const std::filesystem::path& file) {
+void ImportAddressBook(const Session& session, const std::filesystem::path& file) {
     TextLines lines(file);
     if (!lines.IsOpen()) throw std::runtime_error("File not found: " + file.string());
-    OpenDatabase(session);
-    ado::RowBatch rows(OpenConnection(session), "tbladdressbook", {"Name", "Number"}, ado::Refusal::Throws);
+    const DatabaseScope database(session.database);
+    ado::RowBatch rows(database.Connection(), "tbladdressbook", {"Name", "Number"}, ado::Refusal::Throws);
     while (const std::string* line = lines.Next()) AddLine(*line, rows);
     rows.Flush();
-    CloseDatabase(session);
 }
 
 }  // namespace tallix

@@ -18,23 +18,23 @@ struct KnownNumber {
     bool operator==(const KnownNumber&) const = default;
 };
 
-std::vector<KnownNumber> LoadAddressBook(Session& session);
+std::vector<KnownNumber> LoadAddressBook(const Session& session);
 
-/// False, with nothing written, where the number is there already.
-bool AddKnownNumber(Session& session, const KnownNumber& entry);
+/// Returns false, and writes nothing, when the number is in use.
+bool AddKnownNumber(const Session& session, const KnownNumber& entry);
 
-/// Gives the number its new name. False where there is no such number.
-bool RenameKnownNumber(Session& session, const KnownNumber& entry);
+/// Gives the number its new name. Returns false for an unknown number.
+bool RenameKnownNumber(const Session& session, const KnownNumber& entry);
 
-/// Harmless where there is no such number. Of several one goes, with those of its name.
-void DeleteKnownNumber(Session& session, std::string_view number);
+/// Ignores an unknown number. Of several entries with the number it removes one, and those
+/// with the name of that one.
+void DeleteKnownNumber(const Session& session, std::string_view number);
 
-/// Adds each line of a file: the number before the first comma, the name all that is behind
-/// it. Nothing heads the lines and nothing quotes in them. A line without a comma gives a row
+/// Adds each line of a file: the number is the text before the first comma, the name all after
+/// it. The file has no header line and no quoting. A line without a comma gives an entry
 /// without a number, whose name lacks the line's first character, where a comma would be.
-/// Numbers that are there already are added again. A row that the server refuses ends the
-/// import with DatabaseError; the lines before it stay. A file that cannot be read throws
-/// std::runtime_error.
-void ImportAddressBook(Session& session, const std::filesystem::path& file);
+/// Numbers that are in use are added again. Throws DatabaseError when the server refuses a row;
+/// the lines before it stay. Throws std::runtime_error when the file cannot be read.
+void ImportAddressBook(const Session& session, const std::filesystem::path& file);
 
 }  // namespace tallix

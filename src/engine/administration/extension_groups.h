@@ -15,22 +15,22 @@
 namespace tallix {
 
 /// The names in the order of the list.
-std::vector<std::string> LoadExtensionGroups(Session& session);
+std::vector<std::string> LoadExtensionGroups(const Session& session);
 
 /// A name may repeat.
-void AddExtensionGroup(Session& session, std::string_view name);
+void AddExtensionGroup(const Session& session, std::string_view name);
 
-/// Removes all groups of the name, and the members filed under `line` itself: those of the
-/// group above. The members of the group stay.
-void DeleteExtensionGroup(Session& session, std::string_view name, std::int64_t line);
+/// Removes all groups of the name, and the members filed under `line` itself, which are those
+/// of the group above. The members of the group stay.
+void DeleteExtensionGroup(const Session& session, std::string_view name, std::int64_t line);
 
 /// The extensions of the group on that line.
-std::vector<std::string> LoadGroupMembers(Session& session, std::int64_t line);
+std::vector<std::string> LoadGroupMembers(const Session& session, std::int64_t line);
 
-/// The extension need not exist, and may repeat.
-void AddGroupMember(Session& session, std::int64_t line, std::string_view extension);
+/// The extension may be unknown, and may repeat.
+void AddGroupMember(const Session& session, std::int64_t line, std::string_view extension);
 
-/// Takes the extension out of every group.
-void DeleteGroupMember(Session& session, std::string_view extension);
+/// Removes the extension from every group.
+void DeleteGroupMember(const Session& session, std::string_view extension);
 
 }  // namespace tallix

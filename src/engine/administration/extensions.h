@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "database/database_scope.h"
 #include "host/run_progress.h"
 #include "session/application.h"
 
@@ -18,18 +19,16 @@ struct Extension {
 };
 
 /// All extensions stored. Throws DatabaseError.
-std::vector<Extension> LoadExtensions(Session& session);
+std::vector<Extension> LoadExtensions(const Session& session);
 
 /// "Get From Data": the extensions of all call records that `known` lacks, each once, without
-/// a name, in the order of the records. Trunks, whose number begins with "T", and calls of no
-/// extension are passed over. Events are served; the session is to be left alone by their
-/// handlers. Throws DatabaseError.
-std::vector<Extension> FindNewExtensions(Application& application, const std::vector<Extension>& known,
+/// a name, in the order of the records. Skips trunks, whose number begins with "T", and calls
+/// without an extension. Serves events. Throws DatabaseError.
+std::vector<Extension> FindNewExtensions(const Application& application, const std::vector<Extension>& known,
                                          RunProgress& progress);
 
-/// Adds the extensions over the session's open connection, to the table that the caller has
-/// emptied. A row that the server refuses ends it with DatabaseError; those before it are
-/// stored.
-void StoreExtensions(Session& session, const std::vector<Extension>& extensions);
+/// Adds the extensions to the table, which the caller has emptied. Throws DatabaseError when
+/// the server refuses a row; those before it are stored.
+void StoreExtensions(const DatabaseScope& database, const std::vector<Extension>& extensions);
 
 }  // namespace tallix

@@ -14,7 +14,7 @@ constexpr std::string_view kSection = "Values";
 constexpr std::string_view kOn = "1";
 constexpr std::string_view kOff = "0";
 
-/// The Importer lies beside this program.
+/// The folder of the Importer is beside the program's.
 std::filesystem::path ValuesFile(const Application& application) {
     return FindIgnoringCase(application.folder.parent_path() / "Importer" / "CSV.ini");
 }

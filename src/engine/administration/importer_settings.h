@@ -1,5 +1,5 @@
-// What the Importer service goes by: whether it runs, and where each value stands among
-// the comma-separated fields of a line.
+// The settings of the Importer service: whether it runs, and the place of each value among the
+// comma-separated fields of a line.
 #pragma once
 
 #include <array>
@@ -43,8 +43,8 @@ struct ImporterSettings {
 
 ImporterSettings LoadImporterSettings(const Application& application);
 
-/// Writes all of them, an empty place as "0", and adds a row to the access log. Where the
-/// folder of the Importer is missing, the places are lost without a word.
+/// Writes all of them, an empty place as "0", and adds a row to the access log. Without the
+/// folder of the Importer the places are lost, and nothing reports it.
 void SaveImporterSettings(Application& application, const ImporterSettings& importer);
 
 }  // namespace tallix

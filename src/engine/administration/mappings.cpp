@@ -2,10 +2,9 @@
 
 #include <algorithm>
 
-#include "database/recordset.h"
+#include "database/database_scope.h"
 #include "failures/attempt.h"
 #include "session/access_log.h"
-#include "session/database.h"
 #include "text/text_conversion.h"
 
 namespace tallix {
@@ -31,15 +30,12 @@ std::string FinishColumn(const MappingItem& item) {
     return std::string(item.column) + "FN";
 }
 
-ado::Recordset Open(Session& session, std::string_view statement) {
-    ado::Recordset rows;
-    OpenDatabase(session);
-    rows.Open(statement, OpenConnection(session));
-    return rows;
+ado::Recordset Find(const DatabaseScope& database, std::string_view name) {
+    return database.Edit(std::string(kOneMapping) + database.Quoted(name));
 }
 
-/// Stands on the mapping of a name, if there is one. A name may hold the delimiter of
-/// literals and so find rows of other names, which must not be taken for it.
+/// Whether the current row is the mapping of that name. A name may hold the delimiter of
+/// literals and so find rows of other names.
 bool Holds(const ado::Recordset& mappings, std::string_view name) {
     return mappings.RecordCount() > 0 && EqualNoCase(mappings.Text(kNameColumn), name);
 }
@@ -79,50 +75,48 @@ std::optional<Positions> MapToField(const MappingItem& item, int start, int leng
     return Positions{std::to_string(first), std::to_string(last)};
 }
 
-std::vector<std::string> ReadMappingNames(Session& session) {
+std::vector<std::string> ReadMappingNames(const Session& session) {
     std::vector<std::string> names;
     Attempt([&] {
-        ado::Recordset mappings = Open(session, kAllMappings);
-        for (std::int64_t row = 1; row <= mappings.RecordCount(); ++row, mappings.MoveNext())
-            names.emplace_back(mappings.Text(kNameColumn));
+        const ado::Rows mappings = DatabaseScope(session.database).Query(kAllMappings);
+        for (const ado::Row mapping : mappings) names.emplace_back(mapping.Text(kNameColumn));
     });
-    CloseDatabase(session);
     return names;
 }
 
-std::optional<Mapping> ReadMapping(Session& session, const std::string& name) {
+std::optional<Mapping> ReadMapping(const Session& session, const std::string& name) {
     std::optional<Mapping> mapping;
     Attempt([&] {
-        const ado::Recordset found = Open(session, std::string(kOneMapping) + Quoted(session, name));
+        const DatabaseScope database(session.database);
+        const ado::Recordset found = Find(database, name);
         if (Holds(found, name)) mapping = ReadRow(found);
     });
-    CloseDatabase(session);
     return mapping;
 }
 
-bool SaveMapping(Application& application, const Mapping& mapping) {
+bool SaveMapping(const Application& application, const Mapping& mapping) {
     if (mapping.name.empty()) return false;
     if (!IsComplete(mapping)) {
         application.prompts.Show({"Value Mappings", kIncomplete, MessageIcon::Critical});
         return false;
     }
-    Session& session = application.session;
+    const Session& session = application.session;
+    const DatabaseScope database = DatabaseScope::TryOpen(session.database);
     Attempt([&] {
-        ado::Recordset found = Open(session, std::string(kOneMapping) + Quoted(session, mapping.name));
+        ado::Recordset found = Find(database, mapping.name);
         if (!Holds(found, mapping.name)) found.AddNew();
         WriteRow(found, mapping);
     });
-    Attempt([&] { WriteLog(session, application.clock, "Saved Custom Mappings"); });
-    CloseDatabase(session);
+    Attempt([&] { WriteLog(database, session, application.clock, "Saved Custom Mappings"); });
     return true;
 }
 
-void DeleteMapping(Session& session, const std::string& name) {
+void DeleteMapping(const Session& session, const std::string& name) {
     Attempt([&] {
-        ado::Recordset found = Open(session, std::string(kOneMapping) + Quoted(session, name));
+        const DatabaseScope database(session.database);
+        ado::Recordset found = Find(database, name);
         if (Holds(found, name)) found.Delete();
     });
-    CloseDatabase(session);
 }
 
 std::optional<std::string> SampleLines::First(const std::string& site) {
@@ -135,23 +129,20 @@ std::optional<std::string> SampleLines::First(const std::string& site) {
     return Read();
 }
 
-std::optional<std::string> SampleLines::Step(const std::string& site, int step) {
+std::optional<std::string> SampleLines::Step(const std::string& site, Direction direction) {
     if (site.empty() || site != site_) return First(site);
-    place_ += step;
+    place_ += direction == Direction::Forward ? 1 : -1;
     return Read();
 }
 
 std::string SampleLines::Read() {
     std::string line = kNoLine;
-    Session& session = application_.session;
     Attempt([&] {
-        ado::Recordset lines = Open(session, std::string(kSiteLines) + Quoted(session, site_));
-        place_ = std::clamp<std::int64_t>(place_, -1, lines.RecordCount());
-        if (place_ < 0 || place_ == lines.RecordCount()) return;
-        for (std::int64_t row = 0; row < place_; ++row) lines.MoveNext();
-        line = lines.Text("Data");
+        const DatabaseScope database(application_.session.database);
+        const ado::Rows lines = database.Query(std::string(kSiteLines) + database.Quoted(site_));
+        place_ = std::clamp<std::int64_t>(place_, -1, lines.Count());
+        if (place_ >= 0 && place_ < lines.Count()) line = lines[place_].Text("Data");
     });
-    CloseDatabase(session);
     return line;
 }
 

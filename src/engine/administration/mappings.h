@@ -1,8 +1,7 @@
-// Custom mappings: for each of fifteen data items, where it stands in a line of a telephone
-// system's output. They are kept in tblphonemapping, for the Processor to apply.
+// Custom mappings: for each of fifteen data items, its place in a line of a telephone system's
+// output. They are stored in tblphonemapping, and the Processor applies them.
 //
-// What reads and writes here opens the database for itself, closes it, and works in
-// continue-on-error mode: what the server refuses is passed over without a word.
+// The functions that read and write continue on errors: they ignore what the server refuses.
 #pragma once
 
 #include <array>
@@ -45,8 +44,8 @@ inline constexpr std::array<MappingItem, 15> kMappingItems{{
 inline constexpr std::array<std::string_view, 12> kSampleSites{"001", "002", "003", "004", "005", "006",
                                                                "007", "008", "009", "010", "011", "012"};
 
-/// Positions of the first and the last character of an item, counted from 1, as texts of
-/// their two boxes; empty while there are none.
+/// Positions of the first and the last character of an item, counted from 1, as the texts of
+/// their two boxes. Empty for an item that is not mapped.
 struct Positions {
     std::string start;
     std::string finish;
@@ -63,38 +62,40 @@ struct Mapping {
 /// characters; nothing when that is too long for the item.
 std::optional<Positions> MapToField(const MappingItem& item, int start, int length);
 
-std::vector<std::string> ReadMappingNames(Session& session);
+std::vector<std::string> ReadMappingNames(const Session& session);
 
-/// The mapping of that name; nothing where there is none.
-std::optional<Mapping> ReadMapping(Session& session, const std::string& name);
+/// The mapping of that name; nothing for an unknown name.
+std::optional<Mapping> ReadMapping(const Session& session, const std::string& name);
 
 /// Stores a mapping over the one of its name, or as a new one, and adds a row to the access
-/// log. A mapping without a name is left alone, and one that lacks a start is refused with
-/// a message; false comes back for both.
-bool SaveMapping(Application& application, const Mapping& mapping);
+/// log. Returns false, and writes nothing, for a mapping without a name and for one that lacks
+/// a start, which it refuses with a message.
+bool SaveMapping(const Application& application, const Mapping& mapping);
 
-void DeleteMapping(Session& session, const std::string& name);
+void DeleteMapping(const Session& session, const std::string& name);
 
-/// The sample lines of a site, one at a time. The lines are read anew at each step, since
-/// the services go on collecting.
+enum class Direction { Back, Forward };
+
+/// The sample lines of a site, one at a time. Each step reads them again, since the services
+/// go on collecting.
 class SampleLines {
 public:
     /// `application` must outlive the object.
-    explicit SampleLines(Application& application) : application_(application) {}
+    explicit SampleLines(const Application& application) : application_(application) {}
 
-    // Each returns the text to be shown: a line, or a text that says there is none.
-    // Without a site a message asks for one, and nothing comes back.
+    // Each returns the text to show: a line, or a text that says there is none. Without a site
+    // they ask for one with a message and return nothing.
 
     std::optional<std::string> First(const std::string& site);
 
-    /// One line forward (1) or back (-1), past either end at most once. Another site than
-    /// before begins at its first line.
-    std::optional<std::string> Step(const std::string& site, int step);
+    /// The next or the previous line, at most one step past either end. A site other than the
+    /// last one starts at its first line.
+    std::optional<std::string> Step(const std::string& site, Direction direction);
 
 private:
     std::string Read();
 
-    Application& application_;
+    const Application& application_;
     std::string site_;
     std::int64_t place_ = 0;  ///< from -1, before the first line, to their count
 };

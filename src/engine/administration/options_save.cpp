@@ -2,17 +2,15 @@
 
 #include "backup/backup_task.h"
 #include "session/access_log.h"
-#include "session/database.h"
 
 namespace tallix {
 namespace {
 
 constexpr char kAnyAddress[] = "Any";
 
-void LogSave(Application& application) {
-    OpenDatabase(application.session);
-    WriteLog(application.session, application.clock, "System Settings Saved");
-    CloseDatabase(application.session);
+void LogSave(const Application& application) {
+    const Session& session = application.session;
+    WriteLog(DatabaseScope(session.database), session, application.clock, "System Settings Saved");
 }
 
 /// The Collector's own address comes from the currency list, which replaced a list of
@@ -29,16 +27,15 @@ void WriteCommandFiles(const Application& application, const OptionsValues& valu
 }
 
 /// The table stays empty while the settings are written that come before its rows.
-void ReplaceExtensions(Application& application, const OptionsOnScreen& screen) {
+void ReplaceExtensions(const Application& application, const OptionsOnScreen& screen) {
     const SettingsStore& settings = application.settings;
-    OpenDatabase(application.session);
-    OpenConnection(application.session).Execute("DELETE FROM tblextensions");
+    const DatabaseScope database(application.session.database);
+    database.Execute("DELETE FROM tblextensions");
     WriteSettings(settings, screen.values, SaveStep::Collection);
     WriteCollectorAddress(settings, screen.values);
     WriteCommandFiles(application, screen.values);
     WriteSettings(settings, screen.values, SaveStep::General);
-    StoreExtensions(application.session, screen.extensions);
-    CloseDatabase(application.session);
+    StoreExtensions(database, screen.extensions);
 }
 
 }  // namespace

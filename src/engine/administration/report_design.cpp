@@ -11,7 +11,7 @@ namespace {
 constexpr std::uint32_t kParts = 256;
 constexpr std::size_t kDigits = 3;
 
-/// Nothing where the digits from `start`, which counts from one, give no part of a colour.
+/// The part of a colour from `start`, counted from one; nothing for other text.
 std::optional<int> PartOf(std::string_view digits, std::size_t start) {
     std::int16_t part = -1;
     Attempt([&] { part = ToInteger16(Mid(digits, start, kDigits)); });

@@ -34,11 +34,11 @@ std::uint32_t ColourCode(const Colour& colour);
 /// The nine digits of such a number.
 std::string ColorCodeToRGB(std::uint32_t code);
 
-/// The colour of nine digits. Nothing where they are no such text.
+/// The colour of nine digits; nothing for any other text.
 std::optional<Colour> ColourOfDigits(std::string_view digits);
 
-/// Asks for a colour. Nothing when cancelled, and nothing for black, which the colour
-/// dialog's answer cannot be told from a cancel.
+/// Asks for a colour. Returns nothing for black and when cancelled, which the answer of the
+/// colour dialog does not distinguish.
 std::optional<Colour> ChooseColour(Prompts& prompts);
 
 /// Writes the usual colours where "Restore Defaults" does. The colours of the reports

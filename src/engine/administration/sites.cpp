@@ -4,11 +4,10 @@
 #include <span>
 
 #include "compat/service_script.h"
-#include "database/recordset.h"
+#include "database/database_scope.h"
 #include "failures/attempt.h"
 #include "platform/paths.h"
 #include "session/access_log.h"
-#include "session/database.h"
 #include "text/ip_address.h"
 #include "text/text_conversion.h"
 
@@ -74,10 +73,10 @@ bool IsConfirmed(Prompts& prompts, Message question) {
     return prompts.Show(question) == Answer::Yes;
 }
 
-SiteRecord ReadSite(const ado::Recordset& sites) {
+SiteRecord ReadSite(const ado::Row& row) {
     SiteRecord site;
-    Attempt([&] { site.id = sites.Text("ID"); });
-    for (const Field& field : kFields) Attempt([&] { site.*field.value = sites.Text(field.column); });
+    Attempt([&] { site.id = row.Text("ID"); });
+    for (const Field& field : kFields) Attempt([&] { site.*field.value = row.Text(field.column); });
     return site;
 }
 
@@ -103,17 +102,17 @@ std::string_view ThirdPartySystem(std::string_view code) {
     return kThirdPartySystems.front().name;
 }
 
-std::vector<SiteRecord> ReadSites(Session& session) {
+std::vector<SiteRecord> ReadSites(const Session& session) {
     std::vector<SiteRecord> all;
     Attempt([&] {
-        OpenDatabase(session);
-        ado::Recordset sites;
-        sites.Open(kAllSites, OpenConnection(session));
-        for (std::int64_t row = 1; row <= sites.RecordCount(); ++row, sites.MoveNext())
-            all.push_back(ReadSite(sites));
+        const ado::Rows sites = DatabaseScope(session.database).Query(kAllSites);
+        for (const ado::Row site : sites) all.push_back(ReadSite(site));
     });
-    CloseDatabase(session);
     return all;
+}
+
+std::int64_t CountSites(const Session& session) {
+    return DatabaseScope(session.database).Query(kAllSites).Count();
 }
 
 bool MaySaveSite(Prompts& prompts, const SiteRecord& site, SiteEntry entry, std::size_t sites) {
@@ -131,40 +130,33 @@ bool MaySaveSite(Prompts& prompts, const SiteRecord& site, SiteEntry entry, std:
     return true;
 }
 
-void AddSite(Session& session, const SiteRecord& site, std::size_t sites) {
+void AddSite(const Session& session, const SiteRecord& site, std::size_t sites) {
     Attempt([&] {
-        OpenDatabase(session);
-        ado::Recordset table;
-        table.Open(kAllSites, OpenConnection(session));
+        const DatabaseScope database(session.database);
+        ado::Recordset table = database.Edit(kAllSites);
         table.AddNew();
         table.Collect("ID", std::to_string(sites + 1));
         Store(table, site);
     });
-    CloseDatabase(session);
 }
 
-void UpdateSite(Session& session, const SiteRecord& site) {
+void UpdateSite(const Session& session, const SiteRecord& site) {
     Attempt([&] {
-        OpenDatabase(session);
-        ado::Recordset table;
-        table.Open(std::string(kAllSites) + " where ID = " + Quoted(session, site.id),
-                   OpenConnection(session));
+        const DatabaseScope database(session.database);
+        ado::Recordset table =
+            database.Edit(std::string(kAllSites) + " where ID = " + database.Quoted(site.id));
         if (table.RecordCount() > 0 && table.Text("ID") == site.id) Store(table, site);
     });
-    CloseDatabase(session);
 }
 
-void DeleteSite(Application& application, const SiteRecord& site) {
+void DeleteSite(const Application& application, const SiteRecord& site) {
     const std::string question = "Are you sure you wish to delete site " + site.name + "?";
     if (!IsConfirmed(application.prompts, {"Delete Site?", question, MessageIcon::Question})) return;
-    // What is no number would stand in the statement as a name or a condition.
+    // Any other text would be a name or a condition in the statement.
     if (!IsNumeric(site.id)) return;
-    Session& session = application.session;
     Attempt([&] {
-        OpenDatabase(session);
-        OpenConnection(session).Execute("DELETE FROM tblSite WHERE ID = " + site.id);
+        DatabaseScope(application.session.database).Execute("DELETE FROM tblSite WHERE ID = " + site.id);
     });
-    CloseDatabase(session);
 }
 
 bool WantsSitesAppliedNow(Prompts& prompts) {
@@ -179,7 +171,7 @@ void RestartCollector(const Application& application) {
     }
 }
 
-void TellSitesSaved(Application& application) {
+void ReportSitesSaved(const Application& application) {
     application.prompts.Show({"Save Site Settings", "Site Settings saved!", MessageIcon::Information});
     LogOnItsOwn(application.session, application.clock, "Site Settings Saved");
 }

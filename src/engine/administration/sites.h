@@ -2,12 +2,12 @@
 // reports their address block, the mail its recipient, and the services their connection
 // and line layout. The table's first row is the default site.
 //
-// Everything here opens the database for itself, closes it, and works in
-// continue-on-error mode: what the server refuses is passed over without a word.
+// The functions that read and write continue on errors: they ignore what the server refuses.
 #pragma once
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -41,54 +41,57 @@ struct SiteRecord {
     std::string thirdPartyName{};
 };
 
-/// A choice on the screen and what is stored for it.
+/// A choice on the screen and the code that is stored for it.
 struct NamedCode {
     std::string_view name;
     std::string_view code;
 };
 
-/// The layouts that the services know by themselves, and the outside systems.
+/// The layouts that are built into the services, and the outside systems.
 inline constexpr std::array<NamedCode, 4> kBuiltInMappings{
     {{"Mitel 3300", "1"}, {"Samsung OfficeServ 7200", "2"}, {"Avaya V7", "3"}, {"Mitel 5000", "4"}}};
 inline constexpr std::array<NamedCode, 3> kThirdPartySystems{
     {{"None", "0"}, {"Asterisk", "1"}, {"FreePBX", "2"}}};
 
-/// What is stored for a layout: "C" for a custom one.
+/// The code of a layout: "C" for a custom one.
 std::string_view SystemCode(std::string_view mapping);
 
-/// What is stored for an outside system; none for an unknown one. ThirdPartySystem is the
-/// way back.
+/// The code of an outside system, and the system of a code. Unknown ones give the first of
+/// kThirdPartySystems.
 std::string_view ThirdPartyCode(std::string_view system);
 std::string_view ThirdPartySystem(std::string_view code);
 
 /// All sites in the table's own order.
-std::vector<SiteRecord> ReadSites(Session& session);
+std::vector<SiteRecord> ReadSites(const Session& session);
+
+/// The number of sites. Throws DatabaseError.
+std::int64_t CountSites(const Session& session);
 
 enum class SiteEntry { Added, Edited };
 
-/// Says what is amiss with a site that is to be saved. Returns whether the save goes on:
-/// without an address or a port it does, with a wrong address or too many sites it does not.
+/// Shows what is wrong with a site that is to be saved. Returns whether the save goes on: it
+/// does without an address or a port, but not with a wrong address or too many sites.
 bool MaySaveSite(Prompts& prompts, const SiteRecord& site, SiteEntry entry, std::size_t sites);
 
-/// Adds a site with the number behind that of `sites`. A number that is taken, as it can be
-/// once a site was deleted, is refused by the table's key.
-void AddSite(Session& session, const SiteRecord& site, std::size_t sites);
+/// Adds a site with the number `sites` + 1. The table's key refuses a number that is taken,
+/// which can happen after a site was deleted.
+void AddSite(const Session& session, const SiteRecord& site, std::size_t sites);
 
 /// Stores all but the number over the site of that number.
-void UpdateSite(Session& session, const SiteRecord& site);
+void UpdateSite(const Session& session, const SiteRecord& site);
 
 /// Asks, then deletes the site; the numbers of the others stay.
-void DeleteSite(Application& application, const SiteRecord& site);
+void DeleteSite(const Application& application, const SiteRecord& site);
 
-/// Asks whether the Collector takes the sites up now, which restarts it.
+/// Asks whether the new sites take effect now, which restarts the Collector.
 bool WantsSitesAppliedNow(Prompts& prompts);
 
-/// Runs the two scripts that stop and start the services, one after the other. Each is
-/// waited for a minute at most, while events are served.
+/// Runs the two scripts that stop and start the services, one after the other. Waits at most a
+/// minute for each, and serves events meanwhile.
 void RestartCollector(const Application& application);
 
-/// Says that the sites are saved, here and in the access log.
-void TellSitesSaved(Application& application);
+/// Reports the save in a message and in the access log.
+void ReportSitesSaved(const Application& application);
 
 /// Asks whether to leave without saving. The sites that were saved one by one stay saved.
 bool WantsToLeaveSites(Prompts& prompts);

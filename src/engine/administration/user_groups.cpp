@@ -1,23 +1,17 @@
 #include "administration/user_groups.h"
 
-#include "database/recordset.h"
-#include "session/database.h"
+#include "database/database_scope.h"
 #include "text/encryption_tools.h"
 
 namespace tallix {
 namespace {
 
-ado::Recordset OpenGroup(Session& session, const std::string& name) {
-    OpenDatabase(session);
-    ado::Recordset group;
-    group.Open("select * from tblusergroups where group_name=" + Quoted(session, name),
-               OpenConnection(session));
-    return group;
+ado::Recordset FindGroup(const DatabaseScope& database, const std::string& name) {
+    return database.Edit("select * from tblusergroups where group_name=" + database.Quoted(name));
 }
 
-void ReleaseMembers(Session& session, const std::string& groupId) {
-    ado::Recordset members;
-    members.Open("select * from tblusers where groupid=" + groupId, OpenConnection(session));
+void ReleaseMembers(const DatabaseScope& database, std::string_view groupId) {
+    ado::Recordset members = database.Edit("select * from tblusers where groupid=" + std::string(groupId));
     for (std::int64_t i = 1; i <= members.RecordCount(); ++i, members.MoveNext()) {
         members.Collect("GroupID", "0");
         members.Update();
@@ -26,56 +20,44 @@ void ReleaseMembers(Session& session, const std::string& groupId) {
 
 }  // namespace
 
-std::vector<std::string> LoadUserGroups(Session& session) {
-    OpenDatabase(session);
-    ado::Recordset groups;
-    groups.Open("select * from tblusergroups", OpenConnection(session));
+std::vector<std::string> LoadUserGroups(const Session& session) {
+    const ado::Rows groups = DatabaseScope(session.database).Query("select * from tblusergroups");
     std::vector<std::string> names;
-    for (std::int64_t i = 1; i <= groups.RecordCount(); ++i, groups.MoveNext()) {
-        names.emplace_back(groups.Text("Group_Name"));
-    }
-    CloseDatabase(session);
+    for (const ado::Row group : groups) names.emplace_back(group.Text("Group_Name"));
     return names;
 }
 
-std::string ReadGroupAccess(Session& session, const std::string& name) {
-    const ado::Recordset group = OpenGroup(session, name);
-    const bool found = group.RecordCount() > 0;
-    std::string access = found ? DecipherFromStorage(group.Text("Group_Access")) : "";
-    CloseDatabase(session);
-    return access;
+std::string ReadGroupAccess(const Session& session, const std::string& name) {
+    const DatabaseScope database(session.database);
+    const ado::Recordset group = FindGroup(database, name);
+    return group.RecordCount() > 0 ? DecipherFromStorage(group.Text("Group_Access")) : "";
 }
 
-bool AddUserGroup(Session& session, const std::string& name, const std::string& access) {
-    ado::Recordset group = OpenGroup(session, name);
-    const bool isNew = group.RecordCount() == 0;
-    if (isNew) {
-        group.AddNew();
-        group.Collect("Group_Name", name);
-        group.Collect("Group_Access", EncipherForStorage(access));
-        group.Update();
-    }
-    CloseDatabase(session);
-    return isNew;
+bool AddUserGroup(const Session& session, const std::string& name, const std::string& access) {
+    const DatabaseScope database(session.database);
+    ado::Recordset group = FindGroup(database, name);
+    if (group.RecordCount() > 0) return false;
+    group.AddNew();
+    group.Collect("Group_Name", name);
+    group.Collect("Group_Access", EncipherForStorage(access));
+    group.Update();
+    return true;
 }
 
-bool EditUserGroup(Session& session, const std::string& name, const std::string& access) {
-    ado::Recordset group = OpenGroup(session, name);
-    const bool found = group.RecordCount() > 0;
-    if (found) {
-        group.Collect("Group_Access", EncipherForStorage(access));
-        group.Update();
-    }
-    CloseDatabase(session);
-    return found;
+bool EditUserGroup(const Session& session, const std::string& name, const std::string& access) {
+    const DatabaseScope database(session.database);
+    ado::Recordset group = FindGroup(database, name);
+    if (group.RecordCount() == 0) return false;
+    group.Collect("Group_Access", EncipherForStorage(access));
+    group.Update();
+    return true;
 }
 
-void DeleteUserGroup(Session& session, const std::string& name) {
-    const ado::Recordset group = OpenGroup(session, name);
-    if (group.RecordCount() > 0) ReleaseMembers(session, std::string(group.Text("GroupID")));
-    OpenConnection(session).Execute("DELETE FROM tblusergroups WHERE group_name =" + Quoted(session, name) +
-                                    ";");
-    CloseDatabase(session);
+void DeleteUserGroup(const Session& session, const std::string& name) {
+    const DatabaseScope database(session.database);
+    const ado::Recordset group = FindGroup(database, name);
+    if (group.RecordCount() > 0) ReleaseMembers(database, group.Text("GroupID"));
+    database.Execute("DELETE FROM tblusergroups WHERE group_name =" + database.Quoted(name) + ";");
 }
 
 }  // namespace tallix

@@ -1,7 +1,6 @@
 // User groups: names with a set of rights, which replace those of their members at login.
-// Every action writes at once, over a connection of its own, and throws DatabaseError. A
-// name goes into the statements as it is: one that holds the session's quote ends its
-// literal there, which the server mostly refuses.
+// Every action opens the database, writes at once, and throws DatabaseError. Names are not
+// escaped: a server mostly refuses a name that holds the delimiter of literals.
 #pragma once
 
 #include <string>
@@ -11,18 +10,18 @@
 
 namespace tallix {
 
-std::vector<std::string> LoadUserGroups(Session& session);
+std::vector<std::string> LoadUserGroups(const Session& session);
 
-/// The access string of a group; empty where there is no such group.
-std::string ReadGroupAccess(Session& session, const std::string& name);
+/// The access string of a group; empty for an unknown group.
+std::string ReadGroupAccess(const Session& session, const std::string& name);
 
-/// False, with nothing written, where the name is there already.
-bool AddUserGroup(Session& session, const std::string& name, const std::string& access);
+/// Returns false, and writes nothing, when the name is taken.
+bool AddUserGroup(const Session& session, const std::string& name, const std::string& access);
 
-/// Gives a group other rights. False where there is no such group.
-bool EditUserGroup(Session& session, const std::string& name, const std::string& access);
+/// Gives a group other rights. Returns false for an unknown group.
+bool EditUserGroup(const Session& session, const std::string& name, const std::string& access);
 
-/// Deletes a group. Its members are in no group then and have their own rights.
-void DeleteUserGroup(Session& session, const std::string& name);
+/// Deletes a group. Its members are then without a group and have their own rights.
+void DeleteUserGroup(const Session& session, const std::string& name);
 
 }  // namespace tallix

@@ -4,9 +4,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "database/recordset.h"
+#include "administration/sites.h"
 #include "session/access_rights.h"
-#include "session/database.h"
 #include "toolkit/form_names.h"
 #include "toolkit/style.h"
 
@@ -16,14 +15,6 @@ namespace {
 constexpr char kPurpose[] =
     "Tallix supports a multi-site configuration.     To configure multiple sites (or just a single site) "
     "Please click the button below:";
-
-std::int64_t CountSites(Session& session) {
-    OpenDatabase(session);
-    ado::Recordset sites;
-    sites.Open("select * from tblsite", OpenConnection(session));
-    CloseDatabase(session);
-    return sites.RecordCount();
-}
 
 }  // namespace
 

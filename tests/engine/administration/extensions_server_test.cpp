@@ -20,9 +20,7 @@ using testing::IsEmpty;
 class AdminLists : public test::EngineTest {
 protected:
     void Store(const std::vector<Extension>& extensions) {
-        OpenDatabase(session_);
-        StoreExtensions(session_, extensions);
-        CloseDatabase(session_);
+        StoreExtensions(DatabaseScope(session_.database), extensions);
     }
 
     void Import(const std::string& bytes) {

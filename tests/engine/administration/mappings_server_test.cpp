@@ -66,10 +66,13 @@ TEST_P(MappingsOnServers, StepThroughTheLinesOfASite) {
     EXPECT_EQ(test_.prompts.messages.back().title, "Tallix Reports");
     EXPECT_EQ(lines.First("001"), "one");
     std::vector<std::string> shown;
-    for (const int step : {-1, -1, 1, 1, 1, 1, -1}) shown.push_back(*lines.Step("001", step));
+    using enum Direction;
+    for (const Direction step : {Back, Back, Forward, Forward, Forward, Forward, Back}) {
+        shown.push_back(*lines.Step("001", step));
+    }
     const std::string none = "NO DATA AVAILABLE!";
     EXPECT_THAT(shown, ElementsAre(none, none, "one", "it's \"two\"", none, none, "it's \"two\""));
-    EXPECT_EQ(lines.Step("002", 1), "other");
+    EXPECT_EQ(lines.Step("002", Forward), "other");
 }
 
 }  // namespace

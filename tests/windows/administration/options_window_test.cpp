@@ -6,9 +6,7 @@
 #include <QRadioButton>
 #include <QTest>
 
-#include "database/recordset.h"
 #include "session/access_rights.h"
-#include "session/database.h"
 #include "support/form_test.h"
 #include "toolkit/report_preview.h"
 
@@ -174,10 +172,7 @@ TEST_F(OptionsWindowTest, TestsTheMailOnlyWithAServerAndAPort) {
 TEST_F(OptionsWindowTest, ComputesCostsOnYes) {
     world.InsertCall();
     const auto count = [&] {
-        OpenDatabase(world.application.session);
-        ado::Recordset costs;
-        costs.Open("SELECT * FROM tblcostcount", OpenConnection(world.application.session));
-        return costs.RecordCount();
+        return DatabaseScope(world.application.session.database).Query("SELECT * FROM tblcostcount").Count();
     };
     Click("Compute Costs");
     EXPECT_EQ(count(), 0) << "No was the answer";
