@@ -2,12 +2,10 @@
 
 #include "administration/user_groups.h"
 #include "session/access_rights.h"
-#include "toolkit/style.h"
+#include "toolkit/button_row.h"
 
 namespace tallix {
 namespace {
-
-enum ListCell : int { kUserName, kEmail };
 
 const Message kNameTaken = {"Username Taken",
                             "This username has already been taken, please choose another one",
@@ -27,14 +25,10 @@ constexpr char kAccessWarning[] =
 }  // namespace
 
 AccountsPage::AccountsPage(Application& application, QWidget* parent)
-    : OptionsPage(parent),
-      application_(application),
-      list_(new toolkit::ListView(
-          {{"Username", 2 * toolkit::kPlainColumnWidth}, {"Email", 3 * toolkit::kPlainColumnWidth}})),
-      add_(ActionButton(this, "Add", "Click to add an account", &AccountsPage::OpenAdd)),
-      edit_(ActionButton(this, "Edit", "", &AccountsPage::OpenEdit)),
-      delete_(ActionButton(this, "Delete", "", &AccountsPage::Delete)),
-      access_(ActionButton(this, "Access", "Click to set account access rights", &AccountsPage::OpenAccess)),
+    : ListPage(application, AccessRight::Users, parent),
+      list_(*AddList<Account>("User Accounts",
+                              {{"Username", &Account::userName, 2 * toolkit::kPlainColumnWidth},
+                               {"Email", &Account::email, 3 * toolkit::kPlainColumnWidth}})),
       userName_(new QLineEdit),
       password_(new QLineEdit),
       email_(new QLineEdit),
@@ -42,12 +36,22 @@ AccountsPage::AccountsPage(Application& application, QWidget* parent)
       permissions_(new toolkit::PermissionList),
       accessUser_(new QLabel),
       accessRights_(new toolkit::PermissionList) {
-    ArrangePage(*this, {OnlyList("User Accounts", *list_), ListButtons({access_}, {add_, edit_, delete_})});
+    AddButtons();
+    Arrange({list_.Layout(Heading::Hidden)});
     MakeAccountPanel();
     MakeAccessPanel();
-    PressOnActivation(*list_, *edit_);
-    connect(list_, &toolkit::ListView::SelectionMoved, this, &AccountsPage::EnableButtons);
-    EnableButtons();
+}
+
+void AccountsPage::AddButtons() {
+    using enum AccessRight;
+    list_.AddButton({"Access", "Click to set account access rights", ActsOn::Record, Side::Left},
+                    [this] { OpenAccess(); });
+    list_.AddButton({.caption = "Add", .tip = "Click to add an account", .right = AddUser},
+                    [this] { OpenAdd(); });
+    list_.PressOnActivation(list_.AddButton({.caption = "Edit", .actsOn = ActsOn::Record, .right = EditUser},
+                                            [this] { OpenEdit(); }));
+    list_.AddButton({.caption = "Delete", .actsOn = ActsOn::Record, .right = DeleteUser},
+                    [this] { Delete(); });
 }
 
 void AccountsPage::MakeAccountPanel() {
@@ -74,61 +78,41 @@ void AccountsPage::MakeAccessPanel() {
     auto* none = new QPushButton("Unselect All");
     none->setToolTip("Click here to clear all items");
     connect(none, &QPushButton::clicked, this, [this] { accessRights_->TickAll(false); });
-    accessPanel_->AddRow(ListButtons({all, none}, {}));
+    accessPanel_->AddRow(toolkit::ButtonRow({all, none}, {}));
     accessPanel_->SaveButton().setToolTip("Click here to save changes");
     accessPanel_->CancelButton().setToolTip("Click here to cancel changes");
     connect(accessPanel_, &toolkit::EntryPanel::Saved, this, &AccountsPage::SaveAccess);
 }
 
 void AccountsPage::Load() {
-    std::vector<toolkit::ListRow> rows;
-    for (const Account& account : LoadAccounts(application_.session)) {
-        rows.push_back({account.userName, account.email});
-    }
-    list_->Rows().Set(std::move(rows));
-    EnableButtons();
+    list_.Set(LoadAccounts(Program().session));
 }
 
 void AccountsPage::ApplyRights(std::string_view access) {
-    add_->setVisible(Allows(access, AccessRight::AddUser));
-    edit_->setVisible(Allows(access, AccessRight::EditUser));
-    delete_->setVisible(Allows(access, AccessRight::DeleteUser));
+    ListPage::ApplyRights(access);
     for (QWidget* widget : {static_cast<QWidget*>(groupLabel_), static_cast<QWidget*>(group_)}) {
         widget->setEnabled(Allows(access, AccessRight::Groups));
     }
 }
 
-bool AccountsPage::IsGranted(std::string_view access) const {
-    return Allows(access, AccessRight::Users);
-}
-
-void AccountsPage::EnableButtons() {
-    const bool selected = list_->SelectedRow() >= 0;
-    for (QPushButton* button : {edit_, delete_, access_}) button->setEnabled(selected);
-}
-
-std::string AccountsPage::SelectedName() const {
-    return list_->Rows().Text(list_->SelectedRow(), kUserName).toStdString();
-}
-
 // Shows the rights that the account gets, whatever is ticked.
 void AccountsPage::OpenAdd() {
-    edits_ = false;
+    entry_ = Entry::New;
     OpenAccount("Add User", {.access = AccessOfNewAccount()});
 }
 
 void AccountsPage::OpenEdit() {
-    edits_ = true;
-    OpenAccount("Edit User", ReadAccount(application_.session, SelectedName()));
+    entry_ = Entry::Existing;
+    OpenAccount("Edit User", ReadAccount(Program().session, list_.Selected()->userName));
 }
 
 void AccountsPage::OpenAccount(const char* title, const Account& account) {
     group_->clear();
     group_->addItem("");
-    for (const std::string& name : LoadUserGroups(application_.session)) {
+    for (const std::string& name : LoadUserGroups(Program().session)) {
         group_->addItem(QString::fromStdString(name));
     }
-    userName_->setEnabled(!edits_);
+    userName_->setEnabled(entry_ == Entry::New);
     userName_->setText(QString::fromStdString(account.userName));
     password_->setText(QString::fromStdString(account.password));
     email_->setText(QString::fromStdString(account.email));
@@ -148,10 +132,10 @@ Account AccountsPage::Typed() const {
 void AccountsPage::SaveAccount() {
     const Account account = Typed();
     if (const auto refusal = RefusalOf(account)) {
-        application_.prompts.Show(*refusal);
+        Program().prompts.Show(*refusal);
         return;
     }
-    if (edits_) {
+    if (entry_ == Entry::Existing) {
         Edit(account);
     } else if (!Add(account)) {
         return;
@@ -160,48 +144,44 @@ void AccountsPage::SaveAccount() {
 }
 
 bool AccountsPage::Add(const Account& account) {
-    if (!AddAccount(application_, account)) {
-        application_.prompts.Show(kNameTaken);
+    if (!AddAccount(Program(), account)) {
+        Program().prompts.Show(kNameTaken);
         return false;
     }
     Load();
     return true;
 }
 
-// The row stays selected: its rights may be next.
+// The account stays selected: its rights may be next.
 void AccountsPage::Edit(const Account& account) {
-    EditAccount(application_, account);
-    list_->Rows().SetText(list_->SelectedRow(), kEmail, QString::fromStdString(account.email));
+    EditAccount(Program(), account);
+    list_.ReplaceSelected({.userName = list_.Selected()->userName, .email = account.email});
 }
 
 // Nothing is asked before.
 void AccountsPage::Delete() {
-    if (!DeleteAccount(application_, SelectedName())) {
-        application_.prompts.Show(kNotDeleted);
+    if (!DeleteAccount(Program(), list_.Selected()->userName)) {
+        Program().prompts.Show(kNotDeleted);
         return;
     }
-    list_->Rows().Remove(list_->SelectedRow());
-    list_->clearSelection();
-    EnableButtons();
+    list_.RemoveSelected();
 }
 
 void AccountsPage::OpenAccess() {
-    const std::string name = SelectedName();
+    const std::string name = list_.Selected()->userName;
     if (name == kAdministrator) {
-        application_.prompts.Show(kNotEdited);
+        Program().prompts.Show(kNotEdited);
         return;
     }
     accessUser_->setText("User: " + QString::fromStdString(name));
-    accessRights_->ShowAccess(ReadAccount(application_.session, name).access);
+    accessRights_->ShowAccess(ReadAccount(Program().session, name).access);
     accessPanel_->Open("Set Access Details");
 }
 
 void AccountsPage::SaveAccess() {
-    const std::string name = SelectedName();
-    const Message question = {"Access Changes", kAccessWarning + name, MessageIcon::Exclamation,
-                              MessageButtons::YesNo};
-    if (application_.prompts.Show(question) == Answer::Yes) {
-        StoreAccess(application_.session, name, accessRights_->Access());
+    const std::string name = list_.Selected()->userName;
+    if (Confirms({"Access Changes", kAccessWarning + name, MessageIcon::Exclamation})) {
+        StoreAccess(Program().session, name, accessRights_->Access());
     }
     accessPanel_->hide();
 }

@@ -9,11 +9,10 @@
 #include "toolkit/entry_panel.h"
 #include "toolkit/permission_list.h"
 #include "windows/administration/list_page.h"
-#include "windows/administration/options_page.h"
 
 namespace tallix {
 
-class AccountsPage : public OptionsPage {
+class AccountsPage : public ListPage {
     Q_OBJECT
 public:
     /// `application` must outlive the page.
@@ -21,31 +20,24 @@ public:
 
     void Load() override;
     void ApplyRights(std::string_view access) override;
-    bool IsGranted(std::string_view access) const override;
 
 private:
+    void AddButtons();
     void MakeAccountPanel();
     void MakeAccessPanel();
-    void EnableButtons();
-    std::string SelectedName() const;
 
     void OpenAdd();
     void OpenEdit();
     void OpenAccount(const char* title, const Account& account);
     Account Typed() const;
     void SaveAccount();
-    bool Add(const Account& account);  // false where the name is taken
+    bool Add(const Account& account);  // false when the name is taken
     void Edit(const Account& account);
     void Delete();
     void OpenAccess();
     void SaveAccess();
 
-    Application& application_;
-    toolkit::ListView* list_;
-    QPushButton* add_;
-    QPushButton* edit_;
-    QPushButton* delete_;
-    QPushButton* access_;
+    RecordList<Account>& list_;
 
     toolkit::EntryPanel* accountPanel_ = nullptr;
     QLineEdit* userName_;
@@ -54,7 +46,7 @@ private:
     QLabel* groupLabel_ = nullptr;
     QComboBox* group_;
     toolkit::PermissionList* permissions_;
-    bool edits_ = false;  ///< whether the panel is for an account that is there
+    Entry entry_ = Entry::New;
 
     toolkit::EntryPanel* accessPanel_ = nullptr;
     QLabel* accessUser_;

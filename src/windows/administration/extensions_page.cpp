@@ -2,88 +2,66 @@
 
 #include <algorithm>
 
-#include "session/access_rights.h"
 #include "toolkit/wait_panel.h"
 
 namespace tallix {
 namespace {
-
-enum ListCell : int { kNumber, kName };
 
 constexpr char kGetQuestion[] =
     "Tallix will now search all your call history records to determine extension numbers in use, this "
     "process may take some time. It will also clear all current extensions listed below.\r\n"
     "Do you wish to continue?";
 
-toolkit::ListRow RowOf(const Extension& extension) {
-    return {extension.number, extension.name};
-}
-
 }  // namespace
 
 ExtensionsPage::ExtensionsPage(Application& application, QWidget* parent)
-    : OptionsPage(parent),
-      application_(application),
-      list_(new toolkit::ListView({{"Extension Number", 2 * toolkit::kPlainColumnWidth}, {"Name"}})),
-      getFromData_(ActionButton(this, "Get From Data", "Click to get extensions from call data",
-                                &ExtensionsPage::GetFromData)),
-      add_(ActionButton(this, "Add", "Click to add an extension", &ExtensionsPage::OpenAdd)),
-      edit_(ActionButton(this, "Edit", "", &ExtensionsPage::OpenEdit)),
-      delete_(ActionButton(this, "Delete", "", &ExtensionsPage::Delete)),
+    : ListPage(application, AccessRight::Extensions, parent),
+      list_(*AddList<Extension>("Extensions Data",
+                                {{"Extension Number", &Extension::number, 2 * toolkit::kPlainColumnWidth},
+                                 {"Name", &Extension::name}})),
+      panel_(new toolkit::EntryPanel(*this)),
       number_(new QLineEdit),
       name_(new QLineEdit) {
-    ArrangePage(*this,
-                {NamedList("Extensions Data", *list_), ListButtons({getFromData_}, {add_, edit_, delete_})});
-    PressOnActivation(*list_, *edit_);
-    panel_ = new toolkit::EntryPanel(*this);
+    AddButtons();
+    Arrange({list_.Layout(Heading::Shown)});
     panel_->AddInput("Number:", number_);
     panel_->AddInput("Name:", name_);
     connect(panel_, &toolkit::EntryPanel::Saved, this, &ExtensionsPage::Save);
 }
 
+void ExtensionsPage::AddButtons() {
+    list_.AddButton({"Get From Data", "Click to get extensions from call data", ActsOn::List, Side::Left,
+                     AccessRight::GetFromData},
+                    [this] { GetFromData(); });
+    list_.AddButton(
+        {.caption = "Add", .tip = "Click to add an extension", .right = AccessRight::AddExtension},
+        [this] { OpenAdd(); });
+    list_.PressOnActivation(
+        list_.AddButton({.caption = "Edit", .actsOn = ActsOn::Record, .right = AccessRight::EditExtension},
+                        [this] { OpenEdit(); }));
+    list_.AddButton({.caption = "Delete", .actsOn = ActsOn::Record, .right = AccessRight::DeleteExtension},
+                    [this] { list_.RemoveSelected(); });
+}
+
 void ExtensionsPage::Load() {
-    std::vector<toolkit::ListRow> rows;
-    for (const Extension& extension : LoadExtensions(application_.session)) {
-        rows.push_back(RowOf(extension));
-    }
-    list_->Rows().Set(std::move(rows));
+    list_.Set(LoadExtensions(Program().session));
     changed_ = false;
 }
 
-void ExtensionsPage::ApplyRights(std::string_view access) {
-    getFromData_->setVisible(Allows(access, AccessRight::GetFromData));
-    add_->setVisible(Allows(access, AccessRight::AddExtension));
-    edit_->setVisible(Allows(access, AccessRight::EditExtension));
-    delete_->setVisible(Allows(access, AccessRight::DeleteExtension));
-}
-
-bool ExtensionsPage::IsGranted(std::string_view access) const {
-    return Allows(access, AccessRight::Extensions);
-}
-
-std::vector<Extension> ExtensionsPage::Extensions() const {
-    std::vector<Extension> extensions;
-    for (const toolkit::ListRow& row : list_->Rows().All()) {
-        extensions.push_back({row.at(kNumber), row.at(kName)});
-    }
-    return extensions;
-}
-
-// The question speaks of clearing the list, and yet what is listed stays, with its names.
+// The question mentions clearing the list, but what is listed stays, with its names.
 void ExtensionsPage::GetFromData() {
     toolkit::WaitPanel wait(*this, "Please Wait...", "Building Extension List");
-    toolkit::ProgressLine& calls = wait.AddLine(application_.events, "Processing Record %1 Of %2");
+    toolkit::ProgressLine& calls = wait.AddLine(Program().events, "Processing Record %1 Of %2");
     wait.Show();
-    const Answer answer = application_.prompts.Show(
-        {"Get Extensions", kGetQuestion, MessageIcon::Information, MessageButtons::YesNo});
-    if (answer != Answer::Yes) return;
-    for (const Extension& extension : FindNewExtensions(application_, Extensions(), calls)) {
-        list_->Rows().Append(RowOf(extension));
+    if (!Confirms({"Get Extensions", kGetQuestion, MessageIcon::Information})) return;
+    for (const Extension& extension : FindNewExtensions(Program(), Extensions(), calls)) {
+        list_.Append(extension);
     }
     changed_ = true;
 }
 
 void ExtensionsPage::OpenAdd() {
+    entry_ = Entry::New;
     number_->clear();
     name_->clear();
     number_->setEnabled(true);
@@ -91,37 +69,27 @@ void ExtensionsPage::OpenAdd() {
 }
 
 void ExtensionsPage::OpenEdit() {
-    const int row = list_->SelectedRow();
-    if (row < 0) return;
-    number_->setText(list_->Rows().Text(row, kNumber));
-    name_->setText(list_->Rows().Text(row, kName));
+    entry_ = Entry::Existing;
+    number_->setText(QString::fromStdString(list_.Selected()->number));
+    name_->setText(QString::fromStdString(list_.Selected()->name));
     number_->setEnabled(false);
     panel_->Open("Edit Extension");
 }
 
-void ExtensionsPage::Delete() {
-    if (const int row = list_->SelectedRow(); row >= 0) list_->Rows().Remove(row);
-}
-
 void ExtensionsPage::Save() {
-    if (number_->isEnabled()) return AddLine();
-    if (const int row = list_->SelectedRow(); row >= 0) list_->Rows().SetText(row, kName, name_->text());
+    const Extension extension{number_->text().toStdString(), name_->text().toStdString()};
+    if (entry_ == Entry::New) return Add(extension);
+    list_.ReplaceSelected(extension);
     panel_->hide();
 }
 
-// The panel stays for the next one. A number that is listed already is not added, without a
-// word.
-void ExtensionsPage::AddLine() {
-    const Extension extension{number_->text().toStdString(), name_->text().toStdString()};
-    if (!IsListed(extension.number)) list_->Rows().Append(RowOf(extension));
+// The panel stays open for the next one. A number that is listed already is ignored.
+void ExtensionsPage::Add(const Extension& extension) {
+    const bool isListed = std::ranges::count(list_.All(), extension.number, &Extension::number) > 0;
+    if (!isListed) list_.Append(extension);
     number_->clear();
     name_->clear();
     number_->setFocus();
-}
-
-bool ExtensionsPage::IsListed(const std::string& number) const {
-    return std::ranges::any_of(list_->Rows().All(),
-                               [&](const toolkit::ListRow& row) { return row.at(kNumber) == number; });
 }
 
 }  // namespace tallix

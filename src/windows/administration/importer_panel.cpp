@@ -1,4 +1,4 @@
-#include "windows/administration/importer_window.h"
+#include "windows/administration/importer_panel.h"
 
 #include <QGridLayout>
 #include <QIntValidator>

@@ -1,4 +1,4 @@
-// The panel "Data Items" of the Custom Mappings window: what the Importer service goes by.
+// The panel "Data Items" of the Custom Mappings window: the settings of the Importer service.
 #pragma once
 
 #include <QCheckBox>

@@ -1,43 +1,27 @@
 #include "windows/administration/list_page.h"
 
-#include "toolkit/button_row.h"
 #include "toolkit/style.h"
 
 namespace tallix {
 
-QBoxLayout* OnlyList(const QString& name, toolkit::ListView& list) {
-    list.setObjectName(name);
-    list.setAccessibleName(name);
-    auto* rows = new QVBoxLayout;
-    rows->setSpacing(toolkit::kSpacing);
-    rows->addWidget(&list, 1);
-    return rows;
+ListPage::ListPage(Application& application, AccessRight right, QWidget* parent)
+    : OptionsPage(parent), application_(application), right_(right) {}
+
+void ListPage::ApplyRights(std::string_view access) {
+    for (ButtonedList* list : lists_) list->ApplyRights(access);
 }
 
-QBoxLayout* NamedList(const QString& name, toolkit::ListView& list) {
-    auto* label = new QLabel(name);
-    label->setBuddy(&list);
-    QBoxLayout* rows = OnlyList(name, list);
-    rows->insertWidget(0, label);
-    return rows;
+void ListPage::Arrange(const QList<QLayout*>& columns) {
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(toolkit::kMargin);
+    for (QLayout* column : columns) row->addLayout(column, 1);
 }
 
-// A hidden button can be clicked by the program.
-void PressOnActivation(const toolkit::ListView& list, QPushButton& button) {
-    QObject::connect(&list, &toolkit::ListView::activated, &button, [&button] {
-        if (button.isVisible()) button.click();
-    });
-}
-
-QBoxLayout* ListButtons(const QList<QPushButton*>& forList, const QList<QPushButton*>& forRow) {
-    return toolkit::ButtonRow(forList, forRow);
-}
-
-void ArrangePage(QWidget& page, const QList<QLayout*>& parts) {
-    auto* rows = new QVBoxLayout(&page);
-    rows->setContentsMargins(0, 0, 0, 0);
-    rows->setSpacing(2 * toolkit::kSpacing);
-    for (QLayout* part : parts) rows->addLayout(part, part == parts.first() ? 1 : 0);
+bool ListPage::Confirms(const Message& question) const {
+    Message message = question;
+    message.buttons = MessageButtons::YesNo;
+    return application_.prompts.Show(message) == Answer::Yes;
 }
 
 }  // namespace tallix

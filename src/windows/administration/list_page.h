@@ -1,37 +1,52 @@
-// What the pages of the Options window with lists are put together of.
+// The pages of the Options window with lists. A page puts its lists together from RecordLists
+// and gives each its buttons:
+//
+//     list_(*AddList<KnownNumber>("Current Numbers", {{"Name", &KnownNumber::name}, ...}))
+//     ...
+//     list_.AddButton({"Add Number", "Click to add a number"}, [this] { OpenAdd(); });
+//     Arrange(list_.Layout(Heading::Shown));
 #pragma once
 
-#include <QBoxLayout>
-#include <QLabel>
-#include <QPushButton>
-
-#include "toolkit/list_view.h"
+#include "session/application.h"
+#include "windows/administration/options_page.h"
+#include "windows/administration/record_list.h"
 
 namespace tallix {
 
-/// A button that runs a method of its page.
-template <typename Page>
-QPushButton* ActionButton(Page* page, const QString& caption, const QString& tip, void (Page::*action)()) {
-    auto* button = new QPushButton(caption);
-    button->setToolTip(tip);
-    QObject::connect(button, &QPushButton::clicked, page, action);
-    return button;
-}
+/// What an entry panel was opened for.
+enum class Entry { New, Existing };
 
-/// The list of a page whose title says what is listed.
-QBoxLayout* OnlyList(const QString& name, toolkit::ListView& list);
+class ListPage : public OptionsPage {
+    Q_OBJECT
+public:
+    /// Shows the buttons whose right is granted. Those without a right always show.
+    void ApplyRights(std::string_view access) override;
 
-/// A list below the label that names it.
-QBoxLayout* NamedList(const QString& name, toolkit::ListView& list);
+    bool IsGranted(std::string_view access) const override { return Allows(access, right_); }
 
-/// Enter and a double click on a row press the button, where it shows.
-void PressOnActivation(const toolkit::ListView& list, QPushButton& button);
+protected:
+    /// `right` grants the page. `application` must outlive it.
+    ListPage(Application& application, AccessRight right, QWidget* parent);
 
-/// Buttons side by side: what concerns the whole list, then, at the far end, what concerns
-/// a row of it.
-QBoxLayout* ListButtons(const QList<QPushButton*>& forList, const QList<QPushButton*>& forRow);
+    Application& Program() const { return application_; }
 
-/// The rows of a page: its parts below each other, the first of which takes the room.
-void ArrangePage(QWidget& page, const QList<QLayout*>& parts);
+    template <typename Record>
+    RecordList<Record>* AddList(const QString& name, std::vector<toolkit::Column<Record>> columns) {
+        auto* list = new RecordList<Record>(name, std::move(columns), *this);
+        lists_.append(list);
+        return list;
+    }
+
+    /// Fills the page with the columns, side by side.
+    void Arrange(const QList<QLayout*>& columns);
+
+    /// Asks a question with Yes and No.
+    bool Confirms(const Message& question) const;
+
+private:
+    Application& application_;
+    AccessRight right_;
+    QList<ButtonedList*> lists_;
+};
 
 }  // namespace tallix

@@ -1,4 +1,4 @@
-#include "windows/administration/mapping_item_window.h"
+#include "windows/administration/mapping_item_row.h"
 
 #include <QIntValidator>
 #include <QPainter>
@@ -76,7 +76,7 @@ MappingItemRow::MappingItemRow(const MappingItem& item, QWidget& window, QGridLa
         connect(box, &QLineEdit::textEdited, this, &MappingItemRow::FollowTyping);
 }
 
-/// As wide as its words in bold, in which they stand while the item is being mapped.
+/// As wide as its text in bold, which marks the item that is being mapped.
 void MappingItemRow::MakeName() {
     name_->setCheckable(true);
     toolkit::MakeLink(*name_);

@@ -14,10 +14,10 @@ namespace tallix {
 
 enum class LampState { NotMapped, BeingMapped, Mapped };
 
-/// A small round light. What it says has a name for those who do not see its colour.
+/// A small round light. Its accessible name says what the colour means.
 class Lamp : public QWidget {
 public:
-    /// `item` is what the lamp speaks of.
+    /// `item` is the name of the item.
     Lamp(QString item, QWidget* parent);
 
     LampState State() const { return state_; }
@@ -34,7 +34,7 @@ private:
 class MappingItemRow : public QObject {
     Q_OBJECT
 public:
-    /// Belongs to `window`, and stands in the grid's four columns from `column` on.
+    /// Belongs to `window`. Takes four columns of the grid from `column` on.
     MappingItemRow(const MappingItem& item, QWidget& window, QGridLayout& grid, int row, int column);
 
     Positions Shown() const;
@@ -42,8 +42,8 @@ public:
     /// Fills the boxes and lights the lamp green, or red where there are no positions.
     void Show(const Positions& positions);
 
-    /// Marks the item that is being mapped, or takes the mark away. The lamp turns yellow
-    /// or, unless it is green, red; the boxes keep what they have.
+    /// Marks the item that is being mapped, with a yellow lamp, or removes the mark: the lamp
+    /// turns red unless it is green. The boxes stay as they are.
     void SetCurrent(bool current);
 
 signals:

@@ -3,6 +3,7 @@
 #include <QFontDatabase>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
+#include <functional>
 
 #include "toolkit/dialog_keys.h"
 #include "toolkit/form_names.h"
@@ -20,7 +21,7 @@ constexpr int kSampleWidth = 88 * toolkit::kGrid;
 constexpr int kSampleHeight = 6 * toolkit::kGrid;
 constexpr int kNameWidth = 36 * toolkit::kGrid;
 constexpr int kItemRows = 5;
-constexpr int kItemWidth = 5;  ///< in columns of the grid, the gap behind it included
+constexpr int kItemWidth = 5;  ///< in columns of the grid, the gap after it included
 
 std::string TextOf(const QLineEdit& box) {
     return box.text().toStdString();
@@ -44,7 +45,7 @@ MappingsWindow::MappingsWindow(toolkit::Forms& forms, Application& application)
     : Form(forms, "Tallix Reports Tool - Custom Mappings"),
       application_(application),
       lines_(application),
-      list_(new toolkit::ListView({{"Mapping", kListTwips}}, this)),
+      list_(*new RecordList<std::string>("Mappings", {{"Mapping", std::identity(), kListTwips}}, *this)),
       selection_(new QLabel(kNothingSelected, this)) {
     auto* columns = new QHBoxLayout(this);
     columns->setContentsMargins(toolkit::kMargin, toolkit::kMargin, toolkit::kMargin, toolkit::kMargin);
@@ -62,22 +63,16 @@ QPushButton* MappingsWindow::Button(const QString& caption, void (MappingsWindow
 }
 
 QLayout* MappingsWindow::ListColumn() {
-    list_->setAccessibleName("Mappings");
-    list_->setFixedWidth(list_->sizeHint().width());
-    select_ = Button("Select", &MappingsWindow::SelectMapping);
-    delete_ = Button("Delete", &MappingsWindow::DeleteListed);
-    connect(list_, &toolkit::ListView::SelectionMoved, this, &MappingsWindow::EnableListButtons);
-    connect(list_, &toolkit::ListView::activated, this, &MappingsWindow::SelectMapping);
+    list_.View().setFixedWidth(list_.View().sizeHint().width());
+    list_.PressOnActivation(
+        list_.AddButton({"Select", "", ActsOn::Record, Side::Left}, [this] { SelectMapping(); }));
+    QPushButton& remove =
+        list_.AddButton({.caption = "Delete", .actsOn = ActsOn::Record}, [this] { DeleteSelected(); });
+    connect(&list_, &ButtonedList::SelectionMoved, &remove,
+            [this, &remove] { remove.setEnabled(IsMappingSelected()); });
     auto* importer = new QPushButton("Importer", this);
     connect(importer, &QPushButton::clicked, this, [this] { importer_->OpenStored(); });
-    auto* buttons = Row();
-    buttons->addWidget(select_, 1);
-    buttons->addWidget(delete_, 1);
-    auto* rows = new QVBoxLayout;
-    rows->setSpacing(toolkit::kSpacing);
-    rows->addWidget(list_, 1);
-    rows->addLayout(buttons);
-    rows->addSpacing(toolkit::kSpacing);
+    QBoxLayout* rows = list_.Layout(Heading::Hidden);
     rows->addWidget(importer);
     return rows;
 }
@@ -116,11 +111,13 @@ QLayout* MappingsWindow::SampleRow() {
     row->addWidget(Labelled("Site:", site_));
     row->addWidget(site_);
     row->addWidget(Button("Get Data", &MappingsWindow::GetData));
-    for (const auto& [sign, name, step] : {std::tuple("<", "Previous Line", -1), {">", "Next Line", 1}}) {
+    for (const auto& [sign, name, direction] :
+         {std::tuple("<", "Previous Line", Direction::Back), {">", "Next Line", Direction::Forward}}) {
         auto* button = new QPushButton(sign, this);
         button->setAccessibleName(name);
         button->setToolTip(name);
-        connect(button, &QPushButton::clicked, this, [this, step = step] { StepSample(step); });
+        connect(button, &QPushButton::clicked, this,
+                [this, direction = direction] { StepSample(direction); });
         row->addWidget(button);
     }
     MakeSampleBox();
@@ -128,8 +125,8 @@ QLayout* MappingsWindow::SampleRow() {
     return row;
 }
 
-// The text cannot be typed in; its selection is what the window works on, and stays to be
-// seen when another input has the focus.
+// The text is read-only. The window works on its selection, which stays visible when another
+// input has the focus.
 void MappingsWindow::MakeSampleBox() {
     sample_ = new QPlainTextEdit(this);
     sample_->setReadOnly(true);
@@ -186,42 +183,26 @@ void MappingsWindow::OnLoad() {
 }
 
 void MappingsWindow::FillList() {
-    std::vector<toolkit::ListRow> rows{{kCreateNew}};
-    for (std::string& name : ReadMappingNames(application_.session)) rows.push_back({std::move(name)});
-    list_->Rows().Set(std::move(rows));
-    EnableListButtons();
-}
-
-QString MappingsWindow::ListedName() const {
-    return list_->Rows().Text(list_->SelectedRow(), 0);
-}
-
-/// Whether a mapping is selected in the list, and not its fixed entry.
-bool MappingsWindow::IsMappingListed() const {
-    return list_->SelectedRow() > 0;
-}
-
-void MappingsWindow::EnableListButtons() {
-    select_->setEnabled(list_->SelectedRow() >= 0);
-    delete_->setEnabled(IsMappingListed());
+    std::vector<std::string> entries = ReadMappingNames(application_.session);
+    entries.insert(entries.begin(), kCreateNew);
+    list_.Set(std::move(entries));
 }
 
 void MappingsWindow::SelectMapping() {
-    if (!IsMappingListed()) {
+    if (!IsMappingSelected()) {
         name_->clear();
         name_->setFocus();
         return;
     }
-    const std::optional<Mapping> mapping = ReadMapping(application_.session, ListedName().toStdString());
+    const std::optional<Mapping> mapping = ReadMapping(application_.session, *list_.Selected());
     if (!mapping) return;
     name_->setText(QString::fromStdString(mapping->name));
     for (std::size_t i = 0; i < items_.size(); ++i) items_.at(i)->Show(mapping->items.at(i));
 }
 
-void MappingsWindow::DeleteListed() {
-    DeleteMapping(application_.session, ListedName().toStdString());
-    list_->Rows().Remove(list_->SelectedRow());
-    EnableListButtons();
+void MappingsWindow::DeleteSelected() {
+    DeleteMapping(application_.session, *list_.Selected());
+    list_.RemoveSelected();
 }
 
 void MappingsWindow::ShowSample(const std::optional<std::string>& line) {
@@ -232,8 +213,8 @@ void MappingsWindow::GetData() {
     ShowSample(lines_.First(site_->currentText().toStdString()));
 }
 
-void MappingsWindow::StepSample(int step) {
-    ShowSample(lines_.Step(site_->currentText().toStdString(), step));
+void MappingsWindow::StepSample(Direction direction) {
+    ShowSample(lines_.Step(site_->currentText().toStdString(), direction));
 }
 
 void MappingsWindow::ShowSelection() {

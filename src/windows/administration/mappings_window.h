@@ -1,5 +1,5 @@
 // Custom Mappings ("Form15"): describes the layout of a telephone system's output by
-// pointing at a sample line, and edits what the Importer service goes by. Closing it shows
+// pointing at a sample line, and edits the settings of the Importer service. Closing it shows
 // the Options window again.
 #pragma once
 
@@ -13,9 +13,9 @@
 #include "administration/mappings.h"
 #include "session/application.h"
 #include "toolkit/form.h"
-#include "toolkit/list_view.h"
-#include "windows/administration/importer_window.h"
-#include "windows/administration/mapping_item_window.h"
+#include "windows/administration/importer_panel.h"
+#include "windows/administration/mapping_item_row.h"
+#include "windows/administration/record_list.h"
 
 namespace tallix {
 
@@ -41,15 +41,13 @@ private:
     void MakeSampleBox();
 
     void FillList();
-    QString ListedName() const;
-    bool IsMappingListed() const;
-    void EnableListButtons();
+    bool IsMappingSelected() const { return list_.View().SelectedRow() > 0; }
     void SelectMapping();
-    void DeleteListed();
+    void DeleteSelected();
 
     void ShowSample(const std::optional<std::string>& line);
     void GetData();
-    void StepSample(int step);
+    void StepSample(Direction direction);
     void ShowSelection();
     void ChooseItem(std::size_t item);
     void MapSelection();
@@ -59,9 +57,7 @@ private:
     Application& application_;
     SampleLines lines_;
     std::size_t current_ = kMappingItems.size();  ///< the item being mapped; past the end for none
-    toolkit::ListView* list_;
-    QPushButton* select_ = nullptr;
-    QPushButton* delete_ = nullptr;
+    RecordList<std::string>& list_;               ///< the entry for a new mapping, and the names
     QLineEdit* name_ = nullptr;
     QComboBox* site_ = nullptr;
     QPlainTextEdit* sample_ = nullptr;

@@ -1,4 +1,4 @@
-#include "windows/administration/site_entry_window.h"
+#include "windows/administration/site_entry_panel.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -113,8 +113,8 @@ SiteRecord SiteEntryPanel::Entered() const {
     return site;
 }
 
-// The Collector fetches from the sites that have an address and a port, and nothing else
-// of a site tells whether it does: the box says so, and does it.
+// The Collector fetches from the sites that have an address and a port. The box shows that, and
+// sets it.
 void SiteEntryPanel::ShowWhetherIncluded() {
     included_->setChecked(!switchIp_->text().isEmpty() || !switchPort_->text().isEmpty());
 }

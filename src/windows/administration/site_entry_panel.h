@@ -1,4 +1,4 @@
-// The entry frame "Site Data" of the Site Configuration window.
+// The panel "Site Data" of the Site Configuration window.
 #pragma once
 
 #include <QCheckBox>
@@ -20,12 +20,12 @@ class SiteEntryPanel : public toolkit::EntryPanel {
 public:
     explicit SiteEntryPanel(QWidget& window);
 
-    /// Opens the frame with a site in it. `customMappings` are offered behind the layouts
-    /// that are built in.
+    /// Opens the panel with a site in it. `customMappings` are offered after the built-in
+    /// layouts.
     void OpenFor(const SiteRecord& site, const std::vector<std::string>& customMappings);
 
-    /// What the inputs hold, with the codes that go with it. It has the number of the site
-    /// that the frame was opened for.
+    /// What the inputs hold, with the matching codes and the number of the site that the panel
+    /// was opened for.
     SiteRecord Entered() const;
 
 private:

@@ -17,42 +17,24 @@ namespace {
 constexpr int kWidth = 120 * toolkit::kGrid;
 constexpr int kHeight = 64 * toolkit::kGrid;
 
-struct SiteColumn {
-    const char* title;
-    int twips;
-    std::string SiteRecord::*value;
-};
-
-constexpr SiteColumn kColumns[] = {
-    {"Site", 700, &SiteRecord::id},
-    {"Name", 3000, &SiteRecord::name},
-    {"Email", 2600, &SiteRecord::email},
-    {"Address 1", 2000, &SiteRecord::address1},
-    {"Address 2", 2000, &SiteRecord::address2},
-    {"Address 3", toolkit::kPlainColumnWidth, &SiteRecord::address3},
-    {"Address 4", toolkit::kPlainColumnWidth, &SiteRecord::address4},
-    {"Postcode", 1100, &SiteRecord::postcode},
-    {"Area", 900, &SiteRecord::area},
-    {"Switch IP", toolkit::kPlainColumnWidth, &SiteRecord::switchIp},
-    {"Switch Port", 1200, &SiteRecord::switchPort},
-    {"Switch Map", 2300, &SiteRecord::switchMapping},
-    {"Code", 700, &SiteRecord::systemCode},
-    {"3PTDatabase", toolkit::kPlainColumnWidth, &SiteRecord::thirdPartyDatabase},
-    {"3PTUser", toolkit::kPlainColumnWidth, &SiteRecord::thirdPartyUser},
-    {"3PTPass", toolkit::kPlainColumnWidth, &SiteRecord::thirdPartyPassword},
-    {"3PTName", toolkit::kPlainColumnWidth, &SiteRecord::thirdPartyName},
-};
-
-std::vector<toolkit::ListColumn> ListColumns() {
-    std::vector<toolkit::ListColumn> columns;
-    for (const SiteColumn& column : kColumns) columns.push_back({column.title, column.twips});
-    return columns;
-}
-
-toolkit::ListRow RowOf(const SiteRecord& site) {
-    toolkit::ListRow row;
-    for (const SiteColumn& column : kColumns) row.push_back(site.*column.value);
-    return row;
+std::vector<toolkit::Column<SiteRecord>> Columns() {
+    return {{"Site", &SiteRecord::id, 700},
+            {"Name", &SiteRecord::name, 3000},
+            {"Email", &SiteRecord::email, 2600},
+            {"Address 1", &SiteRecord::address1, 2000},
+            {"Address 2", &SiteRecord::address2, 2000},
+            {"Address 3", &SiteRecord::address3},
+            {"Address 4", &SiteRecord::address4},
+            {"Postcode", &SiteRecord::postcode, 1100},
+            {"Area", &SiteRecord::area, 900},
+            {"Switch IP", &SiteRecord::switchIp},
+            {"Switch Port", &SiteRecord::switchPort, 1200},
+            {"Switch Map", &SiteRecord::switchMapping, 2300},
+            {"Code", &SiteRecord::systemCode, 700},
+            {"3PTDatabase", &SiteRecord::thirdPartyDatabase},
+            {"3PTUser", &SiteRecord::thirdPartyUser},
+            {"3PTPass", &SiteRecord::thirdPartyPassword},
+            {"3PTName", &SiteRecord::thirdPartyName}};
 }
 
 }  // namespace
@@ -60,7 +42,8 @@ toolkit::ListRow RowOf(const SiteRecord& site) {
 SitesWindow::SitesWindow(toolkit::Forms& forms, Application& application)
     : Form(forms, "Tallix Reports Tool - Site Configuration"),
       application_(application),
-      list_(new toolkit::ListView(ListColumns(), this)),
+      sites_(new toolkit::RecordModel<SiteRecord>(Columns(), this)),
+      list_(new toolkit::ListView(*sites_, this)),
       add_(new QPushButton("Add Site", this)),
       edit_(new QPushButton("Edit Site", this)),
       delete_(new QPushButton("Delete Site", this)),
@@ -103,19 +86,15 @@ void SitesWindow::OnLoad() {
 }
 
 void SitesWindow::ShowSites(int selectedRow) {
-    sites_ = ReadSites(application_.session);
-    std::vector<toolkit::ListRow> rows;
-    for (const SiteRecord& site : sites_) rows.push_back(RowOf(site));
-    list_->Rows().Set(std::move(rows));
-    if (selectedRow >= 0) list_->setCurrentIndex(list_->Rows().index(selectedRow, 0));
+    sites_->Set(ReadSites(application_.session));
+    if (selectedRow >= 0) list_->setCurrentIndex(sites_->index(selectedRow, 0));
     EnableButtons();
 }
 
-/// Null without a row, or for one that has no text to be called by.
+/// Null without a selected row, and for a row without text.
 const SiteRecord* SitesWindow::Selected() const {
     const int row = list_->SelectedRow();
-    if (row < 0 || sites_.at(row).id.empty()) return nullptr;
-    return &sites_.at(row);
+    return row < 0 || sites_->At(row).id.empty() ? nullptr : &sites_->At(row);
 }
 
 void SitesWindow::EnableButtons() {
@@ -140,10 +119,10 @@ void SitesWindow::CloseEntry() {
 
 void SitesWindow::SaveSite() {
     const SiteRecord site = entry_->Entered();
-    if (!MaySaveSite(application_.prompts, site, entryKind_, sites_.size())) return;
+    if (!MaySaveSite(application_.prompts, site, entryKind_, sites_->All().size())) return;
     const bool added = entryKind_ == SiteEntry::Added;
     if (added)
-        AddSite(application_.session, site, sites_.size());
+        AddSite(application_.session, site, sites_->All().size());
     else
         UpdateSite(application_.session, site);
     const int row = added ? -1 : list_->SelectedRow();
@@ -170,7 +149,7 @@ void SitesWindow::SaveAndExit() {
         restarting_ = false;
         restart_->hide();
     }
-    TellSitesSaved(application_);
+    ReportSitesSaved(application_);
     Unload();
 }
 

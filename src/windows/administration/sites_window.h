@@ -1,5 +1,5 @@
-// Site Configuration ("Form14"): lists the sites, adds, edits and deletes them, and has the
-// services take them up. Closing it shows the Options window again.
+// Site Configuration ("Form14"): lists the sites, adds, edits and deletes them, and restarts
+// the services that use them. Closing it shows the Options window again.
 #pragma once
 
 #include <QPushButton>
@@ -10,7 +10,7 @@
 #include "toolkit/form.h"
 #include "toolkit/list_view.h"
 #include "toolkit/progress_panel.h"
-#include "windows/administration/site_entry_window.h"
+#include "windows/administration/site_entry_panel.h"
 
 namespace tallix {
 
@@ -24,7 +24,7 @@ protected:
     void OnLoad() override;
     void OnUnload() override;
 
-    /// Not followed while the services restart, since events are served meanwhile.
+    /// Ignored while the services restart, which serves events.
     void closeEvent(QCloseEvent* event) override;
 
 private:
@@ -42,7 +42,7 @@ private:
     void ExitWithoutSaving();
 
     Application& application_;
-    std::vector<SiteRecord> sites_;  ///< in the order of the list
+    toolkit::RecordModel<SiteRecord>* sites_;
     toolkit::ListView* list_;
     QPushButton* add_;
     QPushButton* edit_;

@@ -1,7 +1,8 @@
 #include "windows/administration/user_groups_page.h"
 
+#include <functional>
+
 #include "administration/user_groups.h"
-#include "session/access_rights.h"
 
 namespace tallix {
 namespace {
@@ -17,30 +18,32 @@ const Message kDeleteQuestion = {
     "Delete Group?",
     "This will delete the selected group from the system. Doing so will revert all group members to their "
     "original access permissions. Are you sure you wish to do this?",
-    MessageIcon::Question, MessageButtons::YesNo};
+    MessageIcon::Question};
 
 }  // namespace
 
 UserGroupsPage::UserGroupsPage(Application& application, QWidget* parent)
-    : OptionsPage(parent),
-      application_(application),
-      list_(new toolkit::ListView({{"Group Name", 4 * toolkit::kPlainColumnWidth}})),
-      edit_(ActionButton(this, "Edit", "", &UserGroupsPage::OpenEdit)),
-      delete_(ActionButton(this, "Delete", "", &UserGroupsPage::Delete)),
+    : ListPage(application, AccessRight::Groups, parent),
+      list_(*AddList<std::string>("User Groups",
+                                  {{"Group Name", std::identity(), 4 * toolkit::kPlainColumnWidth}})),
+      panel_(new toolkit::EntryPanel(*this)),
       name_(new QLineEdit),
       rights_(new toolkit::PermissionList) {
-    auto* add = ActionButton(this, "Add", "Add a user group", &UserGroupsPage::OpenAdd);
-    ArrangePage(*this, {OnlyList("User Groups", *list_), ListButtons({}, {add, edit_, delete_})});
+    AddButtons();
+    Arrange({list_.Layout(Heading::Hidden)});
     MakePanel();
-    PressOnActivation(*list_, *edit_);
-    connect(list_, &toolkit::ListView::SelectionMoved, this, &UserGroupsPage::EnableButtons);
-    EnableButtons();
+}
+
+void UserGroupsPage::AddButtons() {
+    list_.AddButton({"Add", "Add a user group"}, [this] { OpenAdd(); });
+    list_.PressOnActivation(
+        list_.AddButton({.caption = "Edit", .actsOn = ActsOn::Record}, [this] { OpenEdit(); }));
+    list_.AddButton({.caption = "Delete", .actsOn = ActsOn::Record}, [this] { Delete(); });
 }
 
 void UserGroupsPage::MakePanel() {
     name_->setToolTip("Enter a group name");
     rights_->setToolTip("Select access rights");
-    panel_ = new toolkit::EntryPanel(*this);
     panel_->AddInput("Group Name:", name_);
     panel_->AddInput("Group Access:", rights_);
     rights_->setAccessibleName("Group Access:");
@@ -50,65 +53,48 @@ void UserGroupsPage::MakePanel() {
 }
 
 void UserGroupsPage::Load() {
-    std::vector<toolkit::ListRow> rows;
-    for (const std::string& name : LoadUserGroups(application_.session)) rows.push_back({name});
-    list_->Rows().Set(std::move(rows));
-    EnableButtons();
-}
-
-bool UserGroupsPage::IsGranted(std::string_view access) const {
-    return Allows(access, AccessRight::Groups);
-}
-
-std::string UserGroupsPage::SelectedName() const {
-    return list_->Rows().Text(list_->SelectedRow(), 0).toStdString();
-}
-
-void UserGroupsPage::EnableButtons() {
-    const bool selected = list_->SelectedRow() >= 0;
-    for (QPushButton* button : {edit_, delete_}) button->setEnabled(selected);
+    list_.Set(LoadUserGroups(Program().session));
 }
 
 void UserGroupsPage::OpenAdd() {
-    edits_ = false;
+    entry_ = Entry::New;
     name_->clear();
     rights_->TickAll(false);
     panel_->Open(kAddTitle);
 }
 
 void UserGroupsPage::OpenEdit() {
-    edits_ = true;
-    name_->setText(QString::fromStdString(SelectedName()));
-    rights_->ShowAccess(ReadGroupAccess(application_.session, SelectedName()));
+    entry_ = Entry::Existing;
+    const std::string& name = *list_.Selected();
+    name_->setText(QString::fromStdString(name));
+    rights_->ShowAccess(ReadGroupAccess(Program().session, name));
     panel_->Open(kEditTitle);
 }
 
 void UserGroupsPage::Save() {
     const std::string name = name_->text().toStdString();
-    if (edits_ ? Edit(name) : Add(name)) panel_->hide();
+    if (entry_ == Entry::New ? Add(name) : Edit(name)) panel_->hide();
 }
 
 bool UserGroupsPage::Add(const std::string& name) {
-    if (!AddUserGroup(application_.session, name, rights_->Access())) {
-        application_.prompts.Show(kNameTaken);
+    if (!AddUserGroup(Program().session, name, rights_->Access())) {
+        Program().prompts.Show(kNameTaken);
         return false;
     }
-    list_->Rows().Append({name});
+    list_.Append(name);
     return true;
 }
 
 bool UserGroupsPage::Edit(const std::string& name) {
-    if (EditUserGroup(application_.session, name, rights_->Access())) return true;
-    application_.prompts.Show(kNoSuchGroup);
+    if (EditUserGroup(Program().session, name, rights_->Access())) return true;
+    Program().prompts.Show(kNoSuchGroup);
     return false;
 }
 
 void UserGroupsPage::Delete() {
-    if (application_.prompts.Show(kDeleteQuestion) != Answer::Yes) return;
-    DeleteUserGroup(application_.session, SelectedName());
-    list_->Rows().Remove(list_->SelectedRow());
-    list_->clearSelection();
-    EnableButtons();
+    if (!Confirms(kDeleteQuestion)) return;
+    DeleteUserGroup(Program().session, *list_.Selected());
+    list_.RemoveSelected();
 }
 
 }  // namespace tallix

@@ -40,7 +40,7 @@ TEST_F(AccountsPageTest, AnAccountIsMadeAndGivenRights) {
     EXPECT_TRUE(Button("Save").isVisible());
     Type("Email:", "ann@example.com");
     QTest::keyClick(page.focusWidget(), Qt::Key_Return);
-    EXPECT_EQ(Rows().at(0), (toolkit::ListRow{"Ann", "ann@example.com"}));
+    EXPECT_EQ(Rows().at(0), (std::vector<std::string>{"Ann", "ann@example.com"}));
     EXPECT_EQ(page.focusWidget(), &List());
     Click("Delete");
     EXPECT_TRUE(Rows().empty());

@@ -13,7 +13,7 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-using toolkit::ListRow;
+using Row = std::vector<std::string>;
 
 class AdminPagesTest : public test::FormTest {};
 
@@ -76,14 +76,15 @@ TEST_F(AdminPagesTest, GroupsShowTheirMembers) {
         Type("Extension Number:", QString::number(201 + group));
         Click("Save");
     }
-    EXPECT_THAT(Rows("Group Members"), ElementsAre(ListRow{"202"}));
+    EXPECT_THAT(Rows("Group Members"), ElementsAre(Row{"202"}));
     world.prompts.answers = {Answer::Yes, Answer::Yes};
     SelectRow(0, "Add Group");
     Click("Delete Group");
-    EXPECT_THAT(Rows("Add Group"), ElementsAre(ListRow{"Stores"}));
+    EXPECT_THAT(Rows("Add Group"), ElementsAre(Row{"Stores"}));
+    EXPECT_FALSE(Button("Add Member").isEnabled()) << "nothing is selected after a removal";
     EXPECT_THAT(Rows("Group Members"), IsEmpty());
     SelectRow(0, "Add Group");
-    EXPECT_THAT(Rows("Group Members"), ElementsAre(ListRow{"201"}));
+    EXPECT_THAT(Rows("Group Members"), ElementsAre(Row{"201"}));
     SelectRow(0, "Group Members");
     Click("Delete Member");
     EXPECT_THAT(Rows("Group Members"), IsEmpty());
@@ -113,7 +114,7 @@ TEST_F(AdminPagesTest, TheAddressBookIsWrittenAtOnce) {
     world.prompts.answers = {Answer::Yes};
     Click("Delete Number");
     EXPECT_EQ(world.prompts.messages.back().text, "Are you sure you wish to delete 2001?");
-    EXPECT_THAT(Rows("Current Numbers"), ElementsAre(ListRow{"Bob", "2002"}));
+    EXPECT_THAT(Rows("Current Numbers"), ElementsAre(Row{"Bob", "2002"}));
     EXPECT_THAT(LoadAddressBook(world.application.session), ElementsAre(KnownNumber{"Bob", "2002"}));
 }
 

@@ -27,7 +27,7 @@ protected:
     }
 };
 
-TEST_F(SitesWindowTest, AddsAndEditsInTheEntryFrame) {
+TEST_F(SitesWindowTest, AddsAndEditsInThePanel) {
     EXPECT_EQ(Enabled(), "A--SE");
     Click("Add Site");
     EXPECT_EQ(Enabled(), "-----");
@@ -38,11 +38,11 @@ TEST_F(SitesWindowTest, AddsAndEditsInTheEntryFrame) {
     Labelled<QComboBox>("Mappings:").setCurrentText("Reception");
     Click("Save");
     EXPECT_EQ(LastMessage().title, "IP Error");
-    EXPECT_EQ(Enabled(), "-----") << "the frame stays open";
+    EXPECT_EQ(Enabled(), "-----") << "the panel stays open";
     ip.setText("1.2.3.4");
     QTest::keyClick(&ip, Qt::Key_Return);
-    EXPECT_EQ(Rows().back(), (toolkit::ListRow{"2", "West", "", "", "", "", "", "", "", "1.2.3.4", "",
-                                               "Reception", "C", "0", "", "", ""}));
+    EXPECT_EQ(Rows().back(), (std::vector<std::string>{"2", "West", "", "", "", "", "", "", "", "1.2.3.4", "",
+                                                       "Reception", "C", "0", "", "", ""}));
     EXPECT_EQ(Enabled(), "A--SE");
 
     SelectRow(0);
