@@ -1,4 +1,4 @@
-# What the engine and the windows stand on; scripts/deps.sh installs all of it.
+# What the engine and the windows link; scripts/deps.sh installs all of it.
 find_package(PkgConfig REQUIRED)
 pkg_check_modules(SQLITE REQUIRED IMPORTED_TARGET sqlite3)
 pkg_check_modules(MARIADB REQUIRED IMPORTED_TARGET libmariadb)

@@ -21,7 +21,7 @@ build_and_install() {
 set_up() {
     [ -e "$home/tallix.db" ] && return
     mkdir -p "$TALLIX_REGISTRY"
-    # A set-up that was broken off leaves no half of a database behind.
+    # A set-up that was broken off must not leave half of a database.
     "$home/Tallix_Setup" --demo "${TALLIX_DEMO_CALLS:-5000}" || {
         rm -f "$home/tallix.db" "$home/tallix.db-wal" "$home/tallix.db-shm"
         exit 1

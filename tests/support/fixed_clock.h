@@ -1,4 +1,4 @@
-// A clock that stands still at the moment a test gives it.
+// A clock that always shows the moment a test gives it.
 #pragma once
 
 #include "host/clock.h"

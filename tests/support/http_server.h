@@ -23,7 +23,7 @@ public:
 
     void Publish(const std::string& name, std::string_view bytes) const { folder_.Write(name, bytes); }
 
-    /// The request lines so far, each with a line feed behind it.
+    /// The request lines so far, each with a line feed after it.
     std::string Requests() const { return ReadBytes(folder_.Path() / "requests"); }
 
 private:

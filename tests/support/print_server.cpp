@@ -15,7 +15,7 @@ constexpr char kInstalled[] = "/usr/lib/cups";
 constexpr std::chrono::seconds kPatience{10};
 constexpr std::chrono::milliseconds kPause{20};
 
-// The device: what it is given becomes a file whose name tells the job's number, whole
+// The device: what it receives becomes a file whose name contains the job's number, whole
 // from its first moment.
 constexpr char kDevice[] = R"(#!/bin/sh
 [ $# -eq 0 ] && {{ echo 'file keep "Test" "Test"'; exit 0; }}

@@ -26,7 +26,7 @@ PythonServer::PythonServer(const std::string& script, const std::vector<std::str
         std::this_thread::sleep_for(10ms);
     }
     port_ = std::atoi(ReadBytes(port).c_str());
-    if (port_ == 0) throw std::runtime_error(script + " told no port");
+    if (port_ == 0) throw std::runtime_error(script + " printed no port");
 }
 
 PythonServer::~PythonServer() {

@@ -6,7 +6,7 @@ Prints its port, then serves until standard input ends, so that it never outlive
 test that started it. Each mail becomes a folder FOLDER/1, FOLDER/2, ... with the files
 raw, from, to, user, body, header.NAME for each header (decoded), and for attachments
 attachment.N.name and attachment.N. The file "complete" comes last. A silent server never
-says a word; one that hangs up does so in the middle, once it has been told who sends.
+says a word; one that hangs up does so in the middle, once it knows who sends.
 """
 import argparse
 import asyncio

@@ -29,7 +29,7 @@ public:
 
     const std::filesystem::path& Path() const { return path_; }
 
-    /// Writes a file under the folder, making what lies between, and returns its path.
+    /// Writes a file under the folder, making the folders between, and returns its path.
     std::filesystem::path Write(const std::filesystem::path& name, std::string_view bytes) const {
         const std::filesystem::path file = path_ / name;
         std::filesystem::create_directories(file.parent_path());

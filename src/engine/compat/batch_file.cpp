@@ -47,7 +47,7 @@ bool EqualWords(const std::string& left, const char* right) {
     return strcasecmp(left.c_str(), right) == 0;
 }
 
-/// The argument at the front of a line, which goes on behind it.
+/// Takes the argument at the front of a line.
 std::optional<std::string> TakeArgument(std::string_view& line) {
     std::string argument;
     int quotes = 0;

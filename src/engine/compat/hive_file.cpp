@@ -29,7 +29,7 @@ std::string Quote(std::string_view text) {
     return quoted + '"';
 }
 
-/// What an escaped letter stands for; a backslash before any other letter was typed
+/// The meaning of an escaped letter; a backslash before any other letter was typed
 /// by hand and means itself.
 std::string Unescape(char letter) {
     for (const auto& [escape, meaning] : kEscapes) {
@@ -85,7 +85,7 @@ std::optional<HiveValue> ReadValue(std::string_view written) {
     return HiveValue{HiveValue::Kind::Text, std::move(*text)};
 }
 
-/// A line with a damaged value is no entry, so that a write does not overwrite it.
+/// A line with a damaged value is not an entry, so that a write does not overwrite it.
 std::optional<SectionEntry> ReadHiveEntry(std::string_view line) {
     std::optional<std::string> name = TakeQuoted(line);
     line = TrimBlanks(line);

@@ -2,7 +2,7 @@
 // match without regard to case, the first of two equal keys wins, blanks around
 // key and value and one pair of quotes round the value are dropped, lines that
 // begin with ";" are comments. Of two sections of one name the first one counts.
-// Lines are read as text/code_page.h tells, and written as UTF-8.
+// Lines are decoded by DecodeLine (text/code_page.h) and written as UTF-8.
 #pragma once
 
 #include <filesystem>
@@ -21,7 +21,7 @@ class IniFile {
 public:
     explicit IniFile(const std::filesystem::path& file);
 
-    /// The keys of a text that lies in memory.
+    /// The keys of a text in memory.
     static IniFile FromText(std::string_view text);
 
     /// The key's text cut to kLongestIniValue characters; empty where it is absent.

@@ -15,7 +15,7 @@ constexpr char kComment = ';';
 /// One line with its place in the text and the section that it belongs to.
 struct Line {
     std::size_t begin;
-    std::size_t end;  ///< behind the line break
+    std::size_t end;  ///< after the line break
     std::string_view content;
 };
 
@@ -76,7 +76,7 @@ struct Place {
 };
 
 /// Where the line goes: the place of the entry's present line, or the empty place
-/// behind the last line with content of the section's first stretch.
+/// after the last line with content of the section's first stretch.
 std::optional<Place> FindPlace(std::string_view text, const SectionFormat& format, std::string_view section,
                                std::string_view name) {
     std::optional<Place> sectionEnd;

@@ -1,6 +1,6 @@
-// Texts made of "[section]" lines and entry lines below them: the common ground of
+// Texts made of "[section]" lines and entry lines below them: the common part of
 // ini files and settings hives, which differ only in how an entry is written. A line
-// that is neither stays where it is and means nothing.
+// that is neither is kept and ignored.
 #pragma once
 
 #include <functional>
@@ -17,7 +17,7 @@ struct SectionEntry {
 
 struct SectionFormat {
     /// Reads an entry line, which is neither empty nor a comment nor a section line
-    /// and has no blanks round it. Nothing when the line is no entry.
+    /// and has no blanks round it. Nothing when the line is not an entry.
     std::optional<SectionEntry> (*readEntry)(std::string_view line);
 
     /// Whether entries below a second line of the same section count.

@@ -7,8 +7,8 @@
 namespace tallix {
 
 /// Runs "Net Stop NAME" or "Net Start NAME" by the service manager, as the unit NAME, and
-/// does not wait for it. Where there is no service manager, the service is unknown or the
-/// person may not do it, nothing happens and nothing is said.
+/// does not wait for it. Where the machine has no service manager, the service is unknown or
+/// the person may not do it, nothing happens and nothing is reported.
 void RunServiceCommand(std::string_view command);
 
 }  // namespace tallix

@@ -33,14 +33,14 @@ std::string Environment(const char* name) {
 }
 
 /// Folders and the name of the program may hold blanks; its ending and a blank, or the
-/// end of the line, are behind it.
+/// end of the line, follow it.
 std::size_t ProgramLength(std::string_view line) {
     const std::string lower = Lower(line);
     std::size_t ending = lower.find(kEnding);
     while (ending != std::string::npos) {
-        const std::size_t behind = ending + kEnding.size();
-        if (behind == line.size() || line[behind] == ' ') return behind;
-        ending = lower.find(kEnding, behind);
+        const std::size_t end = ending + kEnding.size();
+        if (end == line.size() || line[end] == ' ') return end;
+        ending = lower.find(kEnding, end);
     }
     return std::min(line.find(' '), line.size());
 }

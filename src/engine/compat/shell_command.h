@@ -1,5 +1,5 @@
 // Starting another program from a command line that was written for another system:
-// unquoted program path with "\" between its folders and ".exe" behind, arguments
+// unquoted program path with "\" between its folders and ".exe" at its end, arguments
 // between double quotes. No shell reads the line, so a file name may hold anything.
 #pragma once
 
@@ -10,7 +10,7 @@
 
 namespace tallix {
 
-/// A command line taken apart: the path of the program as it stands there, and its
+/// A command line taken apart: the path of the program as written, and its
 /// arguments without quotes, as paths of this system.
 struct ShellCommand {
     std::string program;
@@ -19,7 +19,7 @@ struct ShellCommand {
 
 ShellCommand ReadShellCommand(std::string_view commandLine);
 
-/// The program and its arguments that stand for a command here: the desktop's text
+/// The program and its arguments that run a command on this system: the desktop's text
 /// editor for notepad.exe, LibreOffice Calc for scalc.exe and Excel.exe, else the program
 /// of the same name without ".exe", in its folder or on the search path. Empty when no
 /// such program is installed.

@@ -1,6 +1,5 @@
-// Continue-on-error, as the long routines of the system are told: a statement
-// that fails is abandoned and the next one runs; a failing test enters the body
-// behind it. One statement a line:
+// Continue-on-error for long routines: a statement that fails is abandoned and the next
+// one runs. A test that fails enters the body after it. One statement per line:
 //
 //     Attempt([&] { flag = ToBoolean(text); });
 //     if (TestOrEnter([&] { return calls.RecordCount() == 0; })) return NoData();

@@ -1,5 +1,5 @@
 // The two failures that the engine throws. Each carries what failed, in words
-// that can be shown to a person as they stand.
+// that can be shown to a person.
 #pragma once
 
 #include <stdexcept>

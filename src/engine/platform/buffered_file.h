@@ -20,7 +20,7 @@ public:
     BufferedFile(const BufferedFile&) = delete;
     BufferedFile& operator=(const BufferedFile&) = delete;
 
-    /// Where to append what comes next. Call Advance behind each line or so.
+    /// Where to append what comes next. Call Advance after each line or so.
     std::string& Waiting() { return waiting_; }
 
     /// Writes what is waiting once it has grown to a piece.

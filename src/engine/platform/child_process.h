@@ -13,8 +13,8 @@ struct ChildResult {
     std::string error{};
 };
 
-/// Runs a program, found on the search path, with its arguments behind it and `input` to
-/// read, and waits for it.
+/// Runs `command`, a program on the search path followed by its arguments, gives it `input`
+/// to read, and waits for it.
 ChildResult RunChild(const std::vector<std::string>& command, std::string_view input = {});
 
 }  // namespace tallix

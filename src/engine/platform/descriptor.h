@@ -33,7 +33,7 @@ private:
     int number_;
 };
 
-/// The bytes from where the file stands to its end; false when a read fails.
+/// The bytes from the file's position to its end; false when a read fails.
 bool ReadToEnd(const Descriptor& file, std::string& bytes);
 
 /// Writes all of the bytes; false when a write fails.

@@ -53,7 +53,7 @@ private:
         return Set(CURLOPT_PROXY, proxy.c_str()) && Set(CURLOPT_NOPROXY, "");
     }
 
-    // Quick exit: a look-up of the server's name that hangs is left behind, not waited for.
+    // Quick exit: a look-up of the server's name that hangs is abandoned, not waited for.
     bool SetLimit(std::chrono::milliseconds limit) {
         return Set(CURLOPT_TIMEOUT_MS, static_cast<long>(limit.count())) && Set(CURLOPT_NOSIGNAL, 1L) &&
                Set(CURLOPT_QUICK_EXIT, 1L);

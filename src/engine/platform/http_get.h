@@ -15,8 +15,8 @@ struct HttpRequest {
     std::size_t largest = 1 << 20;            ///< bytes that the answer may have
 };
 
-/// The bytes of the answer, redirections followed. Nothing when there is none, when it
-/// tells of an error (status 400 and above), is too large, or is late.
+/// The bytes of the answer, redirections followed. Nothing when no answer comes, or
+/// when it reports an error (status 400 and above), is too large, or is late.
 std::optional<std::string> HttpGet(const HttpRequest& request);
 
 }  // namespace tallix

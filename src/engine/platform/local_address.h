@@ -5,8 +5,8 @@
 
 namespace tallix {
 
-/// The first address of a network interface that is up, leaving out those that only this
-/// machine sees; that of the machine itself, "127.0.0.1", where there is no other.
+/// The first address of a network interface that is up, without those that only this
+/// machine sees; "127.0.0.1" where no interface has one.
 std::string LocalAddress();
 
 }  // namespace tallix

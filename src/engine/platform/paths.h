@@ -1,5 +1,5 @@
-// Where the program's files lie on this machine, and the turn of stored paths,
-// which carry "\" as a contract with other programs, into paths of this system.
+// Where the program's files are on this machine, and the conversion of stored paths,
+// which contain "\" as a contract with other programs, to paths of this system.
 #pragma once
 
 #include <filesystem>
@@ -19,12 +19,12 @@ inline constexpr const char* kTempVariable = "Temp";
 /// A stored path with each "\" turned to "/". The one place where that happens.
 std::filesystem::path ToNativePath(std::string_view stored);
 
-/// The path as it is spelled on the disk: stored names come from systems that tell no
-/// case apart. The path itself where it exists, or where nothing like it does.
+/// The path as it is spelled on the disk: stored names come from systems that
+/// ignore case. The path itself where it exists, or where nothing like it does.
 std::filesystem::path FindIgnoringCase(const std::filesystem::path& path);
 
 /// The folder that holds the program and its data: the environment variable
-/// TALLIX_HOME, else the folder of the running executable. Absolute, no slash behind.
+/// TALLIX_HOME, else the folder of the running executable. Absolute, without a slash at its end.
 std::filesystem::path ApplicationFolder();
 
 /// The program that an operating-system task of that application folder starts: the one
@@ -44,7 +44,7 @@ std::filesystem::path PrivateFolder();
 std::filesystem::path MachineSettingsFolder();
 std::filesystem::path UserSettingsFolder();
 
-/// The arguments behind the program's name, joined by one blank.
+/// The arguments after the program's name, joined by one blank.
 std::string JoinCommandLine(int argumentCount, const char* const* arguments);
 
 }  // namespace tallix

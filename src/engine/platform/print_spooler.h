@@ -14,8 +14,8 @@ struct PrintTicket {
     std::string pageRange{};  ///< such as "2-5"; empty for all pages
 };
 
-/// Hands a PDF document to the spooler. Returns false, with nothing queued, when there
-/// is no such printer or the spooler does not take the document.
+/// Hands a PDF document to the spooler. Returns false, with nothing queued, when the
+/// printer is unknown or the spooler does not accept the document.
 bool SpoolDocument(const PrintTicket& ticket, std::string_view pdf);
 
 }  // namespace tallix

@@ -70,7 +70,7 @@ std::string TimeOf(const Task& task) {
     throw std::invalid_argument("no such frequency");
 }
 
-/// The first line of a text with its line feed; the text goes on behind it.
+/// Takes the first line, with its line feed, from the front of a text.
 std::string_view TakeLine(std::string_view& text) {
     const std::string_view line = text.substr(0, std::min(text.find('\n'), text.size() - 1) + 1);
     text.remove_prefix(line.size());
@@ -141,8 +141,8 @@ std::string WithoutTask(std::string_view crontab, std::string_view name) {
         if (line != mark) {
             kept += line;
         } else if (!crontab.empty()) {
-            std::string_view behind = crontab;
-            if (IsEntry(TakeLine(behind))) crontab = behind;
+            std::string_view rest = crontab;
+            if (IsEntry(TakeLine(rest))) crontab = rest;
         }
     }
     return kept;

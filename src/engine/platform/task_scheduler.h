@@ -1,4 +1,4 @@
-// What stands for the operating system's task scheduler: the crontab of the user, in
+// The task scheduler of the operating system: the crontab of the user, in
 // which each task is a line that names it and the entry below:
 //
 //     # Tallix_Calls of the week
@@ -17,7 +17,7 @@ namespace tallix {
 enum class TaskFrequency { Hourly, Daily, Weekly, Monthly };
 
 struct Task {
-    std::string name{};  ///< tells it apart from all others; IsTaskName
+    std::string name{};  ///< unique among the tasks of the user; IsTaskName
     TaskFrequency frequency = TaskFrequency::Daily;
     int hour = 0;  ///< in local time; hourly tasks run at the minute alone
     int minute = 0;
@@ -29,7 +29,7 @@ struct Task {
 /// Whether a text can name a task: not empty, one line, no "/" and no "\".
 bool IsTaskName(std::string_view name);
 
-/// Adds the task; one of the same name gives way to it. Returns false, with everything as
+/// Adds the task; it replaces one of the same name. Returns false, with everything as
 /// it was, when the scheduler cannot take it: a bad name, a line break, or a command that
 /// is longer than the scheduler keeps (998 bytes).
 bool CreateTask(const Task& task);

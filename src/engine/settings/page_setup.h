@@ -42,8 +42,8 @@ struct PageLine {
 };
 
 /// Reads the codes of a header or footer: "&p" the number of the page, "&P" that of all
-/// pages, "&&" the sign itself. What stands before the first "&b" goes to the left;
-/// behind one "&b" to the right; behind two, first to the centre and then to the right.
+/// pages, "&&" the sign itself. Text before the first "&b" goes to the left;
+/// after one "&b" to the right; after two, first to the centre and then to the right.
 /// Other codes show nothing.
 PageLine ExpandPageLine(std::string_view coded, int page, int pages);
 

@@ -59,7 +59,7 @@ void ReadFromHive(const fs::path& file, std::string_view path, std::string_view 
     if (!value) return;
     const bool isBinary = value->kind == HiveValue::Kind::Binary;
     if (IsText(type)) {
-        // The last byte of any value counts as the zero behind a text, which a text in
+        // The last byte of any value counts as the zero after a text, which a text in
         // the hive is written without.
         result = isBinary ? DecodeLine(value->data.substr(0, value->data.size() - 1)) : value->data;
     } else if (isBinary && value->data.size() == kBooleanSize) {
@@ -67,7 +67,7 @@ void ReadFromHive(const fs::path& file, std::string_view path, std::string_view 
     }
 }
 
-/// Nothing when the value is no Boolean although its type says so.
+/// Nothing when the value is not a Boolean although its type says so.
 std::optional<HiveValue> MakeHiveValue(std::string_view type, std::string_view value) {
     if (IsText(type)) return HiveValue{HiveValue::Kind::Text, DecodeLine(value)};
     bool truth = false;
@@ -119,7 +119,7 @@ bool SettingsStore::WriteHive(std::string_view root, std::string_view path, std:
     if (!hiveValue || HasLineBreak(path)) return false;
     const fs::path file = HiveFile(root);
     std::error_code failure;
-    fs::create_directories(file.parent_path(), failure);  // the write tells whether it is there
+    fs::create_directories(file.parent_path(), failure);  // the write reports a missing folder
     return RewriteWholeFile(file, kModeOfNewHive, [&](const std::string& hive) {
         return WithHiveValue(hive, path, name, *hiveValue);
     });

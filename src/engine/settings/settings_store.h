@@ -22,7 +22,7 @@ inline constexpr std::string_view kApplicationKey = "Software\\Quillmere Softwar
 
 class SettingsStore {
 public:
-    /// Hives lie in `machineFolder` ("HKLM") and `userFolder` (all other roots).
+    /// Hives are in `machineFolder` ("HKLM") and `userFolder` (all other roots).
     /// `prompts` must outlive the store.
     SettingsStore(std::filesystem::path machineFolder, std::filesystem::path userFolder, Prompts& prompts);
 
@@ -35,7 +35,7 @@ public:
                     std::string_view type, std::string_view defaultText, std::string& result) const;
 
     /// Writes a value, making its key as needed. A failure of any cause shows one
-    /// message, behind that of an unknown root.
+    /// message, after that of an unknown root.
     void fWriteValue(std::string_view root, std::string_view path, std::string_view name,
                      std::string_view type, std::string_view value) const;
 

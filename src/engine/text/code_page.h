@@ -8,7 +8,7 @@
 namespace tallix {
 
 /// Appends the Windows-1252 form of a UTF-8 text. A character that the code page
-/// does not have, or a byte that is no UTF-8, becomes "?". Plain ASCII is copied.
+/// does not have, or a byte that is not UTF-8, becomes "?". Plain ASCII is copied.
 void AppendAnsi(std::string& target, std::string_view utf8);
 std::string ToAnsi(std::string_view utf8);
 

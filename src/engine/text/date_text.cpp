@@ -100,8 +100,8 @@ int MonthOfName(std::string_view word) {
     return 0;
 }
 
-/// A year of one or two digits lies from 1930 to 2029; three digits are no year, and
-/// give one that the calendar test refuses.
+/// A year of one or two digits is from 1930 to 2029. Three digits are not a year: they give
+/// one that the calendar test refuses.
 int ToYear(std::string_view digits) {
     const int year = ToNumber(digits);
     if (digits.size() == kDigitsOfYear) return year;
@@ -153,7 +153,7 @@ bool ReadDate(Scanner& scanner, DateTime& moment) {
     return SetDate(moment, ToYear(third), ToNumber(second), ToNumber(first));
 }
 
-/// Turns an hour of the twelve-hour clock by the word behind it.
+/// Converts an hour of the twelve-hour clock by the word after it.
 bool ApplyHalfOfDay(std::string_view word, int& hour) {
     const bool afternoon = EqualNoCase(word, "pm");
     if ((!afternoon && !EqualNoCase(word, "am")) || hour > kNoon) return false;
@@ -238,7 +238,7 @@ std::optional<DateTime> ReadDateTime(std::string_view text) {
 
 DateTime ToDateTime(std::string_view text) {
     const std::optional<DateTime> moment = ReadDateTime(text);
-    if (!moment) throw ConversionError("\"" + std::string(text) + "\" is no date or time");
+    if (!moment) throw ConversionError("\"" + std::string(text) + "\" is not a date or time");
     return *moment;
 }
 

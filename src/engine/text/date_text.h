@@ -26,7 +26,7 @@ struct DateTime {
 /// one that the calendar has, in the years 100 to 9999.
 DateTime ToDateTime(std::string_view text);
 
-/// The same; nothing where the text is no moment.
+/// The same; nothing where the text is not a moment.
 std::optional<DateTime> ReadDateTime(std::string_view text);
 
 /// The whole day number of a text with a date: 1 is 31 December 1899. A time of day

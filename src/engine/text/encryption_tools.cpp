@@ -12,7 +12,7 @@ namespace {
 /// A database can be read only with the key that wrote it.
 constexpr std::string_view kStorageKey = "Tb9+QuillPr3ssM0nKy";
 
-/// The bytes that are turned lie in a ring: 48 to 150, 103 of them.
+/// The bytes that are turned form a ring: 48 to 150, 103 of them.
 constexpr int kRingFirst = 48;
 constexpr int kRingLast = 150;
 constexpr int kRingSize = kRingLast - kRingFirst + 1;

@@ -1,5 +1,5 @@
 // The reversible text cipher in which accounts are stored. It keeps user names,
-// passwords and access strings unreadable to someone browsing the tables; it is no
+// passwords and access strings unreadable to someone browsing the tables; it is not
 // strong cryptography. Equal texts give equal ciphertexts, which lookups rely on.
 #pragma once
 

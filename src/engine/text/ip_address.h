@@ -7,7 +7,7 @@
 namespace tallix {
 
 /// The places where an address is typed differ in one thing: whether two points side by
-/// side stand for a 0 between them (the database's address) or spoil the address (a
+/// side mean a 0 between them (the database's address) or spoil the address (a
 /// telephone system's). A point at either end spoils it in any case.
 enum class EmptyPart { CountsAsZero, Refused };
 

@@ -16,7 +16,7 @@ namespace {
 constexpr std::size_t kSafeDigits = 9;
 
 [[noreturn]] void Fail(std::string_view text, const char* wanted) {
-    throw ConversionError("\"" + std::string(text) + "\" is no " + wanted);
+    throw ConversionError("\"" + std::string(text) + "\" is not a " + wanted);
 }
 
 bool IsSign(char character) {
@@ -48,7 +48,7 @@ bool HasFormOfNumber(std::string_view text) {
 }
 
 /// A number that no double holds is too great, or so near to 0 that it counts as 0: a
-/// negative exponent or, with no exponent, the lack of a whole part tells the latter.
+/// negative exponent or, with no exponent, the lack of a whole part means the latter.
 double BeyondDouble(std::string_view number) {
     const std::size_t exponent = number.find_first_of("eE");
     const bool hasExponent = exponent != std::string_view::npos;
@@ -74,7 +74,7 @@ double ToDouble(std::string_view text, const char* wanted) {
     return ParseDouble(number);
 }
 
-/// The ordinary case: a few digits, perhaps behind a sign, and nothing else.
+/// The ordinary case: a few digits, perhaps after a sign, and nothing else.
 std::optional<std::int32_t> ToPlainInteger(std::string_view text) {
     const bool negative = !text.empty() && text.front() == '-';
     if (negative) text.remove_prefix(1);

@@ -17,8 +17,8 @@ namespace tallix {
 bool ToBoolean(std::string_view text);
 
 /// A number in text, rounded half to even. Blanks and tabs around it, a sign, decimals
-/// (behind a point, whatever the locale) and an exponent are taken. Throws when the
-/// text is no number or the value does not fit.
+/// (after a point, whatever the locale) and an exponent are taken. Throws when the
+/// text is not a number or the value does not fit.
 std::int16_t ToInteger16(std::string_view text);
 std::int32_t ToInteger32(std::string_view text);
 

@@ -20,7 +20,7 @@ bool BeginsCharacter(char byte) {
     return (static_cast<unsigned char>(byte) & kContinuationMask) != kContinuation;
 }
 
-/// The position behind the next `count` characters. A stray continuation byte at the
+/// The position after the next `count` characters. A stray continuation byte at the
 /// front begins a character, too.
 std::size_t Advance(std::string_view text, std::size_t position, std::size_t count) {
     while (count > 0 && position < text.size()) {
@@ -36,10 +36,10 @@ using BytePair = unsigned;
 
 constexpr BytePair kFirstAccented = 0xC380;   // À
 constexpr BytePair kLastAccented = 0xC39E;    // Þ
-constexpr BytePair kMultiplication = 0xC397;  // stands among the letters, has no case
+constexpr BytePair kMultiplication = 0xC397;  // is among the letters, has no case
 constexpr BytePair kDivision = kMultiplication + kCaseDistance;
 
-/// The letters of Windows-1252 whose cases do not lie at the common distance: ŠŒŽŸ.
+/// The letters of Windows-1252 whose cases are not at the common distance: ŠŒŽŸ.
 constexpr std::array<std::pair<BytePair, BytePair>, 4> kIrregular = {
     {{0xC5A0, 0xC5A1}, {0xC592, 0xC593}, {0xC5BD, 0xC5BE}, {0xC5B8, 0xC3BF}}};
 

@@ -1,6 +1,6 @@
 // UTF-8 taken apart and put together, character by character. Shared by the code
 // page and the text cipher; overlong forms, surrogates and numbers above 10FFFF
-// are no characters.
+// are invalid.
 #pragma once
 
 #include <cstddef>
@@ -9,7 +9,7 @@
 
 namespace tallix {
 
-/// Stands for a byte that belongs to no character.
+/// Replaces a byte that does not belong to a character.
 inline constexpr char32_t kReplacementCharacter = 0xFFFD;
 
 struct Utf8Character {
@@ -18,7 +18,7 @@ struct Utf8Character {
     bool valid = false;
 };
 
-/// The character that begins at `position`, which lies inside the text.
+/// The character that begins at `position`, which is inside the text.
 Utf8Character DecodeUtf8(std::string_view text, std::size_t position);
 
 /// Appends a character; a surrogate or a number above 10FFFF as kReplacementCharacter.

@@ -13,7 +13,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Environment variables are put back behind each test.
+/// Environment variables are put back after each test.
 class Paths : public testing::Test {
 protected:
     ~Paths() override {

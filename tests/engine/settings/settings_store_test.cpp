@@ -169,7 +169,7 @@ TEST_F(SettingsStoreTest, AFullDiskLeavesTheOldHive) {
         const test::FullDisk full(16);
         settings_.Write("Value", "new");
     }));
-    EXPECT_EQ(status, 1) << "the failed write was told";
+    EXPECT_EQ(status, 1) << "the failed write was reported";
     EXPECT_EQ(ReadBytes(hive_), before);
     EXPECT_EQ(Files(), 1);
 }
