@@ -8,8 +8,10 @@
 
 #include "toolkit/button_row.h"
 #include "toolkit/dialog_keys.h"
+#include "toolkit/label.h"
 #include "toolkit/main_menu_form.h"
 #include "toolkit/style.h"
+#include "toolkit/text.h"
 
 namespace tallix {
 namespace {
@@ -28,7 +30,7 @@ constexpr char kImportant[] =
 // No month is chosen before the person does it.
 QComboBox* MonthList() {
     auto* list = new QComboBox;
-    for (const std::string& month : ArchiveMonths()) list->addItem(QString::fromStdString(month));
+    for (const std::string& month : ArchiveMonths()) list->addItem(toolkit::ToQString(month));
     list->setCurrentIndex(-1);
     list->setMaxVisibleItems(kShownMonths);
     list->setFixedWidth(kFieldWidth);
@@ -41,7 +43,7 @@ QButtonGroup* Group(QWidget* window, std::initializer_list<QRadioButton*> option
     return group;
 }
 
-// A row of inputs as wide as they are.
+// Inputs side by side at their own width.
 QHBoxLayout* Row(std::initializer_list<QWidget*> widgets) {
     auto* row = new QHBoxLayout;
     row->setSpacing(toolkit::kSpacing);
@@ -102,12 +104,12 @@ QWidget* ArchiveWindow::ArchiveFrame() {
 
 void ArchiveWindow::AddPeriodRows(QGridLayout& grid) {
     year_->setFixedWidth(kFieldWidth);
-    QLabel* hint = LabelFor(*year_, kYearHint);
     year_->setAccessibleName(entireYear_->text());
     year_->setAccessibleDescription(kYearHint);
+    QLabel* hint = toolkit::LabelOf(kYearHint, year_);
     toolkit::MakeQuiet(*hint);
-    QLabel* between = LabelFor(*firstMonth_, "Between:");
-    QLabel* andLabel = LabelFor(*lastMonth_, "And");
+    QLabel* between = toolkit::LabelOf("Between:", firstMonth_);
+    QLabel* andLabel = toolkit::LabelOf("And", lastMonth_);
     grid.addWidget(entireYear_, 0, 0);
     grid.addLayout(Row({year_, hint}), 0, 2);
     grid.addWidget(selectedMonths_, 1, 0);
@@ -123,18 +125,11 @@ void ArchiveWindow::AddDestinationRows(QGridLayout& grid) {
     place->addWidget(browse_);
     const int row = grid.rowCount();
     grid.addWidget(toFile_, row, 0);
-    grid.addWidget(LabelFor(*name_, "Archive Name:"), row, 1);
+    grid.addWidget(toolkit::LabelOf("Archive Name:", name_), row, 1);
     grid.addWidget(name_, row, 2);
-    grid.addWidget(LabelFor(*location_, "Archive Location:"), row + 1, 1);
+    grid.addWidget(toolkit::LabelOf("Archive Location:", location_), row + 1, 1);
     grid.addLayout(place, row + 1, 2);
     grid.addWidget(toDatabase_, row + 2, 0);
-}
-
-QLabel* ArchiveWindow::LabelFor(QWidget& input, const QString& caption) {
-    auto* label = new QLabel(caption);
-    label->setBuddy(&input);
-    input.setAccessibleName(caption);  // a list would go by what is chosen
-    return label;
 }
 
 void ArchiveWindow::SetTips() {
@@ -145,8 +140,8 @@ void ArchiveWindow::SetTips() {
     close_->setToolTip("Click here to close");
 }
 
-// The progress takes the place of the warning, and leaves the inputs free: a request that
-// is not complete is not worked on, and can be completed while the progress stands there.
+// The progress replaces the warning and leaves the inputs enabled: an incomplete request can
+// be completed while the progress shows.
 QWidget* ArchiveWindow::Foot() {
     auto* important = new QLabel(kImportant);
     important->setWordWrap(true);
@@ -204,8 +199,8 @@ void ArchiveWindow::Browse() {
         application_.prompts.AskSaveFile({"Select An Archive Location", "Tallix Archive File", "*.SAF"});
     if (!chosen) return;
     const ArchiveTarget target = TargetOfPath(*chosen);
-    location_->setText(QString::fromStdString(target.location));
-    name_->setText(QString::fromStdString(target.name));
+    location_->setText(toolkit::ToQString(target.location));
+    name_->setText(toolkit::ToQString(target.name));
 }
 
 void ArchiveWindow::ShowProgress() {
@@ -239,7 +234,7 @@ void ArchiveWindow::LockInputs() {
     EnableLabels();
 }
 
-// Nothing may be archived twice by pressing the button twice: the period is chosen anew.
+// The period is cleared, so that pressing the button twice does not archive twice.
 void ArchiveWindow::ClearInputs() {
     periods_->setExclusive(false);
     for (QRadioButton* option : {entireYear_, selectedMonths_}) option->setChecked(false);

@@ -1,6 +1,5 @@
-// The Archive Data window ("Form9"): a person says which calls leave the call data and
-// where they go. It cannot be closed while that is done; once closed, the main menu shows
-// again.
+// The Archive Data window ("Form9"): chooses the calls that leave the call data and where they
+// go. It cannot be closed while they are archived. Closing it shows the main menu again.
 #pragma once
 
 #include <QButtonGroup>
@@ -32,7 +31,6 @@ private:
     QWidget* ArchiveFrame();
     void AddPeriodRows(QGridLayout& grid);
     void AddDestinationRows(QGridLayout& grid);
-    QLabel* LabelFor(QWidget& input, const QString& caption);
     void SetTips();
     QWidget* Foot();
     QWidget* ProgressFrame();

@@ -9,13 +9,13 @@
 #include "toolkit/dialog_keys.h"
 #include "toolkit/main_menu_form.h"
 #include "toolkit/style.h"
+#include "toolkit/text.h"
 #include "toolkit/wait_panel.h"
 
 namespace tallix {
 namespace {
 
-constexpr int kFieldWidth = 30 * toolkit::kGrid;
-constexpr int kSpin = 100;  ///< where the bars of a restore, which measure nothing, begin anew
+constexpr int kSpin = 100;  ///< lines after which the bars of a restore begin again
 
 constexpr BackupChoice kBackupChoices[] = {
     {BackupGroup::ProcessedCalls, "Backup Processed Call Data", "Select to backup call data",
@@ -101,53 +101,6 @@ std::filesystem::path PathIn(const QLineEdit& field) {
 
 }  // namespace
 
-BackupFrame::BackupFrame(const QString& title)
-    : QGroupBox(title), rows_(new QVBoxLayout(this)), fields_(new QGridLayout) {
-    fields_->setHorizontalSpacing(2 * toolkit::kSpacing);
-    fields_->setVerticalSpacing(toolkit::kSpacing);
-    rows_->setContentsMargins(toolkit::kMargin, toolkit::kMargin, toolkit::kMargin, toolkit::kMargin);
-    rows_->setSpacing(toolkit::kSpacing);
-    rows_->addLayout(fields_);
-}
-
-void BackupFrame::AddChoices(std::span<const BackupChoice> choices, QPushButton& begin) {
-    rows_->addSpacing(toolkit::kSpacing);
-    for (const BackupChoice& choice : choices) {
-        auto* box = new QCheckBox(choice.caption);
-        box->setToolTip(choice.tip);
-        rows_->addWidget(box);
-        boxes_.push_back({choice, box});
-    }
-    rows_->addStretch();
-    rows_->addSpacing(toolkit::kSpacing);
-    rows_->addWidget(&begin, 0, Qt::AlignRight);
-}
-
-QLineEdit* BackupFrame::AddField(const QString& label, const QString& tip, QPushButton* button) {
-    auto* field = new QLineEdit(this);
-    field->setToolTip(tip);
-    field->setMinimumWidth(kFieldWidth);
-    auto* words = new QLabel(label, this);
-    words->setBuddy(field);
-    const int row = fields_->rowCount();
-    fields_->addWidget(words, row, 0);
-    fields_->addWidget(field, row, 1);
-    if (button != nullptr) fields_->addWidget(button, row, 2);
-    return field;
-}
-
-void BackupFrame::ApplyRights(std::string_view access) {
-    for (const auto& [choice, box] : boxes_) box->setVisible(Allows(access, choice.right));
-}
-
-std::set<BackupGroup> BackupFrame::Chosen() const {
-    std::set<BackupGroup> groups;
-    for (const auto& [choice, box] : boxes_) {
-        if (box->isChecked()) groups.insert(choice.group);
-    }
-    return groups;
-}
-
 BackupWindow::BackupWindow(toolkit::Forms& forms, Application& application, BackupChannel& channel)
     : Form(forms, "Tallix Reports Tool - Backup/Restore"),
       application_(application),
@@ -179,7 +132,7 @@ BackupWindow::BackupWindow(toolkit::Forms& forms, Application& application, Back
     new toolkit::DialogKeys(*this, nullptr, close_);
 }
 
-// What stands behind a frame is seen where the frame is not granted.
+// The refusal shows in place of a frame that is not granted.
 QWidget* BackupWindow::Half(BackupFrame& frame, const QString& refusal, AccessRight right) {
     const bool granted = Allows(application_.session.CurrentAccess, right);
     auto* half = new QWidget;
@@ -224,16 +177,16 @@ void BackupWindow::BrowseBackup() {
     const auto chosen =
         application_.prompts.AskSaveFile({"Select A Backup Location", kFileLabel, kFilePattern});
     if (!chosen) return;
-    backupLocation_->setText(QString::fromStdString(chosen->string()));
-    backupName_->setText(QString::fromStdString(chosen->filename().string()));
+    backupLocation_->setText(toolkit::ToQString(chosen->string()));
+    backupName_->setText(toolkit::ToQString(chosen->filename().string()));
 }
 
 void BackupWindow::BrowseRestore() {
     const auto chosen = application_.prompts.AskOpenFile({"Select A Backup", kFileLabel, kFilePattern});
-    if (chosen) restoreLocation_->setText(QString::fromStdString(chosen->string()));
+    if (chosen) restoreLocation_->setText(toolkit::ToQString(chosen->string()));
 }
 
-// The name is for the eye: the location alone says where the file goes.
+// The location alone decides where the file goes. The name is only shown.
 void BackupWindow::Backup() {
     const std::filesystem::path location = PathIn(*backupLocation_);
     if (location.empty()) {
@@ -264,7 +217,7 @@ void BackupWindow::Restore() {
     LogOnItsOwn(application_.session, application_.clock, "Data Restored - " + location);
 }
 
-// The file of the other frame is opened for writing as well, and never written.
+// The file of the other frame is opened for writing too, and stays empty.
 void BackupWindow::Replay() {
     toolkit::WaitPanel panel(*this, kWaitTitle, kWaitText);
     PanelProgress progress(panel, application_.events);
