@@ -30,7 +30,7 @@ std::vector<Account> LoadAccounts(const Session& session);
 /// All of one account; empty texts for an unknown name.
 Account ReadAccount(const Session& session, const std::string& userName);
 
-/// Why what was typed cannot be an account; nothing when it can.
+/// The message that refuses an account as it was typed; nothing for a valid one.
 std::optional<Message> RefusalOf(const Account& account);
 
 /// The rights of every new account, whatever was ticked: to run preset and custom reports, to

@@ -41,7 +41,7 @@ struct SaveOrder {
 enum class SettingKind {
     Text,
     Password,
-    Folder,   ///< absent, it is a path below the program's folder
+    Folder,   ///< its `unset` is appended to the program's folder
     List,     ///< one text of a list; a stored text that is not in it is kept
     Options,  ///< one of a few, all of them on the screen
     Switch,   ///< its choices are off and on, in this order
@@ -63,7 +63,7 @@ struct SettingControl {
 
 enum class Performance { Unaffected, MaySuffer };
 
-/// What a setting has besides, if anything.
+/// What only some settings have.
 struct SettingExtras {
     std::string_view onlyWhen{};  ///< the switch that must be on for this to be edited and written
     std::string_view tip{};

@@ -39,7 +39,7 @@ public:
 
     Positions Shown() const;
 
-    /// Fills the boxes and lights the lamp green, or red where there are no positions.
+    /// Fills the boxes. The lamp turns green, or red without positions.
     void Show(const Positions& positions);
 
     /// Marks the item that is being mapped, with a yellow lamp, or removes the mark: the lamp

@@ -1,4 +1,4 @@
-// What every page of the Options window offers to it.
+// The interface of a page of the Options window.
 #pragma once
 
 #include <QWidget>
@@ -14,10 +14,10 @@ public:
     /// Fills the lists and fields from the database and the settings. Throws DatabaseError.
     virtual void Load() {}
 
-    /// Shows, hides, enables what an access string grants on this page.
+    /// Shows and enables what the rights grant on this page.
     virtual void ApplyRights(std::string_view /*access*/) {}
 
-    /// Whether the page is there at all for someone with that access string.
+    /// Whether the rights grant the page itself.
     virtual bool IsGranted(std::string_view /*access*/) const { return true; }
 };
 

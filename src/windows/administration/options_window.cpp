@@ -60,7 +60,7 @@ OptionsWindow::OptionsWindow(toolkit::Forms& forms, Application& application)
     rows->setSpacing(2 * toolkit::kSpacing);
     rows->addLayout(columns, 1);
     auto* line = new QFrame;
-    line->setFrameStyle(QFrame::HLine | QFrame::Sunken);  // the pages have buttons of their own above it
+    line->setFrameStyle(QFrame::HLine | QFrame::Sunken);  // above it are the buttons of the page
     rows->addWidget(line);
     rows->addLayout(ButtonRow());
     connect(entries_, &QListWidget::currentItemChanged, this, &OptionsWindow::ShowPage);
@@ -85,7 +85,7 @@ QLayout* OptionsWindow::ButtonRow() {
     return toolkit::ButtonRow({}, {save_, exit_});
 }
 
-// The side list goes by subject; the lists are loaded in an order of their own.
+// The side list is ordered by subject. The order of loading is that of `lists_`.
 void OptionsWindow::MakePages() {
     AddGroup("Organisation");
     auto* sites = AddPage<SiteSummaryPage>("Sites");

@@ -1,6 +1,6 @@
 // The Options window ("Form2"): pages of settings and lists, chosen at the side, and the
 // way to the other windows of the administration. Accounts, groups and the address book
-// are written as they are edited; settings and extensions when the window is saved.
+// are stored at each edit; settings and extensions when the window is saved.
 #pragma once
 
 #include <QLabel>

@@ -20,7 +20,7 @@ signals:
     void WindowWanted(const QString& form);
 
 protected:
-    /// Counts anew: the window of the sites may have been open.
+    /// Counts again: the window of the sites may have been open.
     void showEvent(QShowEvent* event) override;
 
 private:

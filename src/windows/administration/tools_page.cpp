@@ -25,7 +25,7 @@ constexpr char kComputeQuestion[] =
 struct Tool {
     const char* caption;
     const char* purpose;
-    const char* form;  ///< the window that it opens; none for the computation of costs
+    const char* form;  ///< the window that it opens; null for the computation of costs
     std::optional<AccessRight> right;
     bool forAdministratorOnly = false;
 };

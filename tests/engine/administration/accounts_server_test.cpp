@@ -80,7 +80,7 @@ TEST_P(AccountsTest, TheAdministratorIsProtectedAndAttemptsAreLogged) {
                             "User Account Deleted - Administrator", "User Account Created - Administrator"));
 }
 
-TEST_P(AccountsTest, AGroupThatGoesLeavesItsMembersTheirOwnRights) {
+TEST_P(AccountsTest, DeletingAGroupLeavesItsMembersTheirOwnRights) {
     AddUserGroup(session_, kDesk, kNone);
     AddUserGroup(session_, "Back", kNone);
     EXPECT_FALSE(AddUserGroup(session_, kDesk, kAll));

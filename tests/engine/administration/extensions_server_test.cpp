@@ -7,8 +7,8 @@
 
 #include "administration/address_book.h"
 #include "administration/extension_groups.h"
+#include "database/database_scope.h"
 #include "failures/errors.h"
-#include "session/database.h"
 #include "support/engine_test.h"
 
 namespace tallix {
@@ -17,7 +17,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class AdminLists : public test::EngineTest {
+class AdministrationLists : public test::EngineTest {
 protected:
     void Store(const std::vector<Extension>& extensions) {
         StoreExtensions(DatabaseScope(session_.database), extensions);
@@ -30,7 +30,7 @@ protected:
     }
 };
 
-TEST_P(AdminLists, CallsGiveTheNumbersThatTheListLacks) {
+TEST_P(AdministrationLists, CallsGiveTheNumbersThatTheListLacks) {
     for (const char* number : {"201", "T123", "t123", "  ", "", "202", "201", " T9"}) {
         test_.InsertCall({{"Extension", number}});
     }
@@ -44,13 +44,13 @@ TEST_P(AdminLists, CallsGiveTheNumbersThatTheListLacks) {
     EXPECT_THAT(LoadExtensions(session_), testing::UnorderedElementsAreArray(list));
 }
 
-TEST_P(AdminLists, ARefusedExtensionEndsTheStoreAndKeepsThoseBeforeIt) {
+TEST_P(AdministrationLists, ARefusedExtensionEndsTheStoreAndKeepsThoseBeforeIt) {
     const Extension ann{"201", "Ann \"O'Neil\""};
     EXPECT_THROW(Store({ann, {"201", "Bob"}, {"202", "Cid"}}), DatabaseError);
     EXPECT_THAT(LoadExtensions(session_), ElementsAre(ann));
 }
 
-TEST_P(AdminLists, AGroupThatGoesTakesTheMembersOfTheOneAbove) {
+TEST_P(AdministrationLists, DeletingAGroupRemovesTheMembersOfTheOneAbove) {
     for (const char* name : {"Sales", "Stores", "Works"}) AddExtensionGroup(session_, name);
     for (const int line : {1, 2, 3}) AddGroupMember(session_, line, "20" + std::to_string(line));
     AddGroupMember(session_, 1, "299");
@@ -64,7 +64,7 @@ TEST_P(AdminLists, AGroupThatGoesTakesTheMembersOfTheOneAbove) {
     EXPECT_EQ(test_.Rows("select GroupID from tblgroupmap where Extension = '203'"), "4|\n");
 }
 
-TEST_P(AdminLists, NumbersAreAddedOnceRenamedAndDeleted) {
+TEST_P(AdministrationLists, NumbersAreAddedOnceRenamedAndDeleted) {
     EXPECT_TRUE(AddKnownNumber(session_, {"Ann", "2001"}));
     EXPECT_FALSE(AddKnownNumber(session_, {"Bob", "2001"}));
     EXPECT_TRUE(RenameKnownNumber(session_, {"Cid", "2001"}));
@@ -75,7 +75,7 @@ TEST_P(AdminLists, NumbersAreAddedOnceRenamedAndDeleted) {
     EXPECT_THAT(LoadAddressBook(session_), IsEmpty());
 }
 
-TEST_P(AdminLists, LinesOfAFileBecomeNumbers) {
+TEST_P(AdministrationLists, LinesOfAFileBecomeNumbers) {
     Import("");
     EXPECT_THAT(LoadAddressBook(session_), IsEmpty());
     Import("2001,Front Desk, Reception\r\n\n,Nobody\n2001,\"Caf\xE9\"\nNo comma\n2002,Zo\xC3\xAB");
@@ -87,7 +87,7 @@ TEST_P(AdminLists, LinesOfAFileBecomeNumbers) {
     EXPECT_THROW(ImportAddressBook(session_, test_.Folder() / "absent.csv"), std::runtime_error);
 }
 
-TEST_P(AdminLists, ARefusedLineEndsTheImportAndKeepsThoseBeforeIt) {
+TEST_P(AdministrationLists, ARefusedLineEndsTheImportAndKeepsThoseBeforeIt) {
     connection_->Execute("CREATE UNIQUE INDEX OnlyOnce ON tbladdressbook (Number)");
     EXPECT_THROW(Import("1,One\n2,Two\n1,Again\n3,Three\n"), DatabaseError);
     connection_->Execute(engine_.name == "mariadb" ? "DROP INDEX OnlyOnce ON tbladdressbook"
@@ -95,7 +95,7 @@ TEST_P(AdminLists, ARefusedLineEndsTheImportAndKeepsThoseBeforeIt) {
     EXPECT_THAT(LoadAddressBook(session_), ElementsAre(KnownNumber{"One", "1"}, KnownNumber{"Two", "2"}));
 }
 
-INSTANTIATE_TEST_SUITE_P(Engines, AdminLists, testing::ValuesIn(test::kSessionEngines));
+INSTANTIATE_TEST_SUITE_P(Engines, AdministrationLists, testing::ValuesIn(test::kSessionEngines));
 
 }  // namespace
 }  // namespace tallix

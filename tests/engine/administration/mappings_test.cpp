@@ -27,7 +27,7 @@ TEST(Mappings, TakeSelectionsUpToTheLimitOfTheirItem) {
             << kMappingItems.at(test.item).label << " " << test.length;
 }
 
-TEST(ImporterSettings, GoToTheFileBesideTheProgramAndToTheSettings) {
+TEST(ImporterSettings, AreStoredInTheFileBesideTheProgramAndInTheSettings) {
     test::TestApplication test;
     test.application.folder = test.Folder() / "ReportsTool";
     ImporterSettings importer = LoadImporterSettings(test.application);

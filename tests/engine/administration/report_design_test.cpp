@@ -15,7 +15,7 @@ TEST(ReportDesignTest, TurnsColourCodesIntoNineDigitsWithRedInTheLowByte) {
     }
 }
 
-TEST(ReportDesignTest, BlackIsNoChoice) {
+TEST(ReportDesignTest, BlackCountsAsACancel) {
     test::ScriptedPrompts prompts;
     prompts.colours = {{0, 0, 0}, {0, 0, 1}};
     EXPECT_FALSE(ChooseColour(prompts));

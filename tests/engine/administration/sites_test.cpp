@@ -7,7 +7,7 @@
 namespace tallix {
 namespace {
 
-TEST(Sites, SayWhatIsAmissInTheirOrder) {
+TEST(Sites, ReportProblemsInTheirOrder) {
     using Texts = std::vector<std::string>;
     struct Case {
         std::string ip;

@@ -17,7 +17,7 @@ using Row = std::vector<std::string>;
 
 class AdminPagesTest : public test::FormTest {};
 
-TEST_F(AdminPagesTest, ExtensionsAreEditedOnTheScreenAlone) {
+TEST_F(AdminPagesTest, ExtensionsAreEditedOnTheScreenOnly) {
     world.Execute("INSERT INTO tblextensions(ExtensionNo, Name) VALUES ('202', 'Ann')");
     for (const char* number : {"201", "202"}) world.InsertCall({{"Extension", number}});
     ExtensionsPage& page = OpenPage<ExtensionsPage>();

@@ -37,7 +37,7 @@ protected:
 };
 
 TEST_F(OptionsWindowTest, OffersWhatTheRightsGrant) {
-    EXPECT_FALSE(Button("Access Logging").isEnabled()) << "for the Administrator alone";
+    EXPECT_FALSE(Button("Access Logging").isEnabled()) << "for the Administrator only";
     forms.Unload(kOptionsForm);
 
     world.application.session.CurrentUser = "Administrator";
@@ -57,7 +57,7 @@ TEST_F(OptionsWindowTest, OffersWhatTheRightsGrant) {
     EXPECT_THAT(Pages(), ElementsAre("Report Design", "Folders", "Tools"));
 }
 
-TEST_F(OptionsWindowTest, GivesWayToTheWindowsItOpensAndStaysWhereThereIsNone) {
+TEST_F(OptionsWindowTest, HidesForTheWindowsItOpensAndStaysForUnknownOnes) {
     world.Insert("tblsite", {{"ID", "001"}});
     EXPECT_EQ(Window().findChild<QLabel*>("SiteCount")->text(), "1");
     Click("Edit Call Costings");
@@ -126,7 +126,7 @@ TEST_F(OptionsWindowTest, SavesOnceThoughItIsClickedAndClosedMeanwhile) {
     EXPECT_FALSE(IsLoaded());
 }
 
-TEST_F(OptionsWindowTest, AsksBeforeExtensionsOutOfTheCallsAreDiscardedAndSavesThem) {
+TEST_F(OptionsWindowTest, AsksBeforeDiscardingExtensionsFromTheCallsAndSavesThem) {
     world.InsertCall({{"Extension", "305"}});
     world.prompts.answers = {Answer::Yes, Answer::No, Answer::Yes};
     Click("Get From Data");
@@ -143,7 +143,7 @@ TEST_F(OptionsWindowTest, AsksBeforeExtensionsOutOfTheCallsAreDiscardedAndSavesT
     EXPECT_THAT(LoadExtensions(world.application.session), ElementsAre(Extension{"305", ""}));
 }
 
-TEST_F(OptionsWindowTest, TellsOfLostCallsAndDebugLoggingByMouseAndByKey) {
+TEST_F(OptionsWindowTest, WarnsOfLostCallsAndDebugLoggingByMouseAndByKey) {
     world.settings.Write("LostCalls", "1");
     auto& lost = Captioned<QCheckBox>("Include 'lost' calls in call records");
     EXPECT_THAT(world.prompts.messages, testing::IsEmpty());
@@ -183,7 +183,7 @@ TEST_F(OptionsWindowTest, ComputesCostsOnYes) {
     EXPECT_TRUE(Button("Compute Costs").isEnabled());
 }
 
-TEST_F(OptionsWindowTest, RestoredColoursReachTheReportsByASaveOnly) {
+TEST_F(OptionsWindowTest, OnlyASaveStoresTheRestoredColours) {
     world.settings.Write("rptTHC", "001002003");
     const auto header = [this] {
         return Window()
