@@ -13,7 +13,7 @@ packages="
     cups cups-client cups-filters poppler-utils
     python3-aiosmtpd xvfb xauth imagemagick fonts-dejavu-core
     at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3-gi
-    clang-format clang-tidy clazy shellcheck unzip procps time iproute2 util-linux
+    clang-format clang-tidy clazy shellcheck universal-ctags unzip procps time iproute2 util-linux
 "
 
 missing() {

@@ -27,7 +27,7 @@ fs::path FromEnvironment(const char* name) {
     return value == nullptr ? fs::path() : fs::path(value);
 }
 
-fs::path WithoutSlashBehind(const fs::path& folder) {
+fs::path WithoutFinalSlash(const fs::path& folder) {
     const fs::path plain = fs::absolute(folder).lexically_normal();
     return plain.has_filename() || plain == plain.root_path() ? plain : plain.parent_path();
 }
@@ -78,7 +78,7 @@ fs::path FindIgnoringCase(const fs::path& path) {
 
 fs::path ApplicationFolder() {
     const fs::path home = FromEnvironment(kApplicationFolderVariable);
-    return WithoutSlashBehind(home.empty() ? RunningProgram().parent_path() : home);
+    return WithoutFinalSlash(home.empty() ? RunningProgram().parent_path() : home);
 }
 
 fs::path ProgramFile(const fs::path& applicationFolder) {

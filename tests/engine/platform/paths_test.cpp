@@ -35,7 +35,7 @@ private:
     std::map<std::string, std::string> before_;
 };
 
-TEST_F(Paths, TheApplicationFolderIsAbsoluteWithNoSlashBehind) {
+TEST_F(Paths, TheApplicationFolderIsAbsoluteWithoutAFinalSlash) {
     const fs::path own = fs::read_symlink("/proc/self/exe").parent_path();
     for (const auto& [home, folder] : {std::pair<std::string, fs::path>{"", own},
                                        {"/opt/Tallix/", "/opt/Tallix"},

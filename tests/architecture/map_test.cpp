@@ -1,5 +1,5 @@
-// What the link lines cannot hold: every folder of the sources says what it is for, and is on
-// the map.
+// What the build cannot check: every folder of the sources has a README that says what it is
+// for, and a row in the map of docs/architecture.md.
 #include <gtest/gtest.h>
 
 #include <filesystem>
