@@ -1,4 +1,4 @@
-// The ground of the tests that must hold on every engine: an emptied database and an
+// The base of the tests that must hold on every engine: an emptied database and an
 // application on it.
 #pragma once
 

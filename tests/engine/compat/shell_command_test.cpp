@@ -40,7 +40,7 @@ protected:
     test::TempFolder folder_;
 };
 
-TEST_F(ShellCommandTest, ProgramsAreFoundByWhatTheyStandFor) {
+TEST_F(ShellCommandTest, ProgramsOfOtherSystemsHaveReplacements) {
     const std::string root = folder_.Path().string();
     EXPECT_THAT(Translated("C:\\Gone\\Viewer.exe \"x\""), IsEmpty());
     const std::string office = Install("Open Office/program/scalc");

@@ -45,7 +45,7 @@ TEST_F(Paths, TheApplicationFolderIsAbsoluteWithoutAFinalSlash) {
     }
 }
 
-TEST_F(Paths, SettingsLieWhereTheEnvironmentSays) {
+TEST_F(Paths, SettingsAreWhereTheEnvironmentSays) {
     Set("TALLIX_REGISTRY", "/r");
     EXPECT_EQ(MachineSettingsFolder(), "/r");
     EXPECT_EQ(UserSettingsFolder(), "/r");

@@ -109,7 +109,7 @@ TEST_F(SettingsStoreTest, IniRootsReadIntoABufferOfTheDefaultsLength) {
     EXPECT_THAT(TakeTitles(), IsEmpty());
 }
 
-TEST_F(SettingsStoreTest, FailuresAreToldInTheirWords) {
+TEST_F(SettingsStoreTest, FailuresShowTheirMessages) {
     EXPECT_EQ(ReadAs((folder_.Path() / "absent.ini").string(), "S", "k", "S", "kept"), "kept");
     settings_.fWriteValue("HKXX", "S", "k", "S", "v");
     ASSERT_EQ(prompts_.messages.size(), 3U);

@@ -16,7 +16,7 @@ TEST(CodePage, EveryByteComesBackAndWhatItLacksIsAQuestionMark) {
     EXPECT_EQ(ToAnsi("a\xFF\xC3"), "a??");
 }
 
-TEST(CodePage, TellsUtf8FromWhatOnlyLooksLikeIt) {
+TEST(CodePage, RecognisesUtf8) {
     for (const char* bytes :
          {"\xC0\xAF", "\xED\xA0\x80", "\xF4\x90\x80\x80", "\xE2\x82", "\x80", "\xF8\x88\x80\x80"}) {
         EXPECT_FALSE(IsUtf8(bytes)) << bytes;

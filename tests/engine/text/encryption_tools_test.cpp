@@ -11,7 +11,7 @@ namespace {
 
 // Computed by hand from the rules of the cipher. A change here makes every stored
 // account unreadable.
-TEST(EncryptionTools, StoredFormsStayAsTheyAre) {
+TEST(EncryptionTools, StoredFormsDoNotChange) {
     const std::pair<const char*, const char*> cases[] = {
         {"a", "608F"},
         {"Administrator", "168F2E58633B0B320D7D0F601539205D16780B812A662D7E1A96"},

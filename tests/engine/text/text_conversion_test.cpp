@@ -28,7 +28,7 @@ TEST(TextConversion, ReadsWholeNumbersHalfToEven) {
     EXPECT_THROW(RoundToInteger32(std::nan("")), ConversionError);
 }
 
-TEST(TextConversion, TellsNumbersAndBooleans) {
+TEST(TextConversion, RecognisesNumbersAndBooleans) {
     for (const char* text : {"1.5", "1e3", " 7 ", "1e999"}) EXPECT_TRUE(IsNumeric(text)) << text;
     for (const char* text : {"", " ", "12a", "True", "&H1F"}) EXPECT_FALSE(IsNumeric(text)) << text;
     for (const char* text : {"True", "tRUE", "-1", "0.1", " 2 "}) EXPECT_TRUE(ToBoolean(text)) << text;
