@@ -1,5 +1,5 @@
-# Headers that nearly every file reads are compiled once for each kind of target: a file of the
-# windows is compiled in a third of the time. Sources still include what they use; the tidy
+# Headers that nearly every file reads are compiled once for each kind of target, which cuts
+# the time for a file of the windows to a third. Sources still include what they use; the tidy
 # preset compiles without.
 set(TALLIX_STANDARD_HEADERS
   <algorithm> <array> <charconv> <chrono> <cstdint> <filesystem> <fstream> <functional> <map> <memory> <optional>
@@ -7,7 +7,7 @@ set(TALLIX_STANDARD_HEADERS
   <fmt/format.h>)
 
 # tallix_precompile(TARGET KIND): the first target of a kind compiles the headers, the others
-# take its outcome. Kinds: engine, windows, tests, window_tests.
+# reuse them. Kinds: engine, windows, tests, window_tests.
 function(tallix_precompile target kind)
   get_property(first GLOBAL PROPERTY tallix_precompiled_${kind})
   if(first)

@@ -22,7 +22,7 @@ protected:
     }
     ~ShellCommandTest() override { setenv("PATH", path_.c_str(), 1); }
 
-    /// A program that writes its arguments, one a line.
+    /// A program that writes its arguments, one per line.
     std::string Install(const std::string& name) {
         const auto file =
             folder_.Write(name, "#!/bin/sh\nprintf '%s\\n' \"$@\" >'" + Output().string() + ".part'\nmv '" +
