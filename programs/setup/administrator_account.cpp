@@ -46,7 +46,7 @@ void AddAccount(Session& session, std::string_view storedName, std::string_view 
     users.Collect("Username", storedName);
     users.Collect("Password", EncipherForStorage(password));
     users.Collect("Email", EncipherForStorage(kEmail));
-    users.Collect("AccessType", EncipherForStorage(std::string(kRights, '1')));
+    users.Collect("AccessType", EncipherForStorage(AccessRights::All().Text()));
     users.Collect("GroupID", kNoGroup);
     users.Update();
 }

@@ -1,6 +1,5 @@
 #include "toolkit/permission_list.h"
 
-#include "session/access_rights.h"
 #include "toolkit/style.h"
 
 namespace tallix::toolkit {
@@ -21,7 +20,7 @@ PermissionList::PermissionList(QWidget* parent) : QListWidget(parent) {
     }
 }
 
-void PermissionList::ShowAccess(std::string_view access) {
+void PermissionList::ShowAccess(const AccessRights& access) {
     for (int row = 0; row < count(); ++row) {
         const bool granted = Allows(access, static_cast<AccessRight>(row));
         item(row)->setCheckState(granted ? Qt::Checked : Qt::Unchecked);
@@ -29,9 +28,11 @@ void PermissionList::ShowAccess(std::string_view access) {
     scrollToTop();
 }
 
-std::string PermissionList::Access() const {
-    std::string access;
-    for (int row = 0; row < count(); ++row) access += item(row)->checkState() == Qt::Checked ? '1' : '0';
+AccessRights PermissionList::Access() const {
+    AccessRights access;
+    for (int row = 0; row < count(); ++row) {
+        if (item(row)->checkState() == Qt::Checked) access.Grant(static_cast<AccessRight>(row));
+    }
     return access;
 }
 

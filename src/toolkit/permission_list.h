@@ -2,8 +2,8 @@
 #pragma once
 
 #include <QListWidget>
-#include <string>
-#include <string_view>
+
+#include "session/access_rights.h"
 
 namespace tallix::toolkit {
 
@@ -12,11 +12,11 @@ class PermissionList : public QListWidget {
 public:
     explicit PermissionList(QWidget* parent = nullptr);
 
-    /// Ticks the rights that an access string grants, and no others.
-    void ShowAccess(std::string_view access);
+    /// Ticks the rights that are granted, and no others.
+    void ShowAccess(const AccessRights& access);
 
-    /// The access string of what is ticked.
-    std::string Access() const;
+    /// The rights that are ticked.
+    AccessRights Access() const;
 
     /// Ticks all rights or none.
     void TickAll(bool ticked);

@@ -18,7 +18,7 @@ Session SessionOfAdministrator(const SettingsStore& settings) {
     session.database.kind = DatabaseKindOf(settings.Read("DBType"));
     session.database.server = settings.Read("DBIP");
     session.CurrentUser = "Administrator";
-    session.CurrentAccess = std::string(kRights, '1');
+    session.CurrentAccess = AccessRights::All();
     session.UseStatsMain = true;
     return session;
 }

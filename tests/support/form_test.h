@@ -24,7 +24,7 @@ namespace tallix::test {
 
 class FormTest : public WindowTest {
 protected:
-    FormTest() { world.application.session.CurrentAccess = std::string(kRights, '1'); }
+    FormTest() { world.application.session.CurrentAccess = AccessRights::All(); }
 
     /// Names the form under test. It is shown when a test first asks for something on it.
     template <typename TestedWindow, typename... Parts>

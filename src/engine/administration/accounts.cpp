@@ -3,7 +3,6 @@
 #include "database/database_scope.h"
 #include "failures/attempt.h"
 #include "session/access_log.h"
-#include "session/access_rights.h"
 #include "session/login.h"
 #include "text/encryption_tools.h"
 #include "text/text_conversion.h"
@@ -28,10 +27,6 @@ constexpr FieldRule kFieldRules[] = {
     {&Account::email, "Email Address Incorrect",
      "The email address you have selected is not correct. Please choose a different one."},
 };
-
-constexpr AccessRight kRightsOfNewAccount[] = {AccessRight::PresetReports, AccessRight::CustomReports,
-                                               AccessRight::PrintReport, AccessRight::PresetReportDestination,
-                                               AccessRight::CustomReportDestination};
 
 // A row that another program stored as plain text must not lock the administrator out.
 std::string Readable(std::string_view stored) {
@@ -90,7 +85,7 @@ Account ReadAccount(const Session& session, const std::string& userName) {
             .password = Readable(row.Text("Password")),
             .email = Readable(row.Text("Email")),
             .group = GroupNameOf(database, row.Text("GroupID")),
-            .access = Readable(row.Text("AccessType"))};
+            .access = AccessRights::FromText(Readable(row.Text("AccessType")))};
 }
 
 std::optional<Message> RefusalOf(const Account& account) {
@@ -107,10 +102,9 @@ std::optional<Message> RefusalOf(const Account& account) {
         "The email address you have entered is incorrectly formatted. Please check it and try again.");
 }
 
-std::string AccessOfNewAccount() {
-    std::string access(kRights, '0');
-    for (const AccessRight right : kRightsOfNewAccount) access[static_cast<std::size_t>(right)] = '1';
-    return access;
+AccessRights AccessOfNewAccount() {
+    return {AccessRight::PresetReports, AccessRight::CustomReports, AccessRight::PrintReport,
+            AccessRight::PresetReportDestination, AccessRight::CustomReportDestination};
 }
 
 bool AddAccount(const Application& application, const Account& account) {
@@ -120,7 +114,7 @@ bool AddAccount(const Application& application, const Account& account) {
     if (row.RecordCount() > 0) return false;
     row.AddNew();
     CollectDetails(row, account);
-    row.Collect("AccessType", EncipherForStorage(AccessOfNewAccount()));
+    row.Collect("AccessType", EncipherForStorage(AccessOfNewAccount().Text()));
     row.Collect("GroupID", GroupIdOf(database, account.group));
     row.Update();
     return true;
@@ -135,7 +129,7 @@ void EditAccount(const Application& application, const Account& account) {
     CollectDetails(row, account);
     if (name != kAdministrator) {
         row.Collect("GroupID", GroupIdOf(database, account.group));
-        row.Collect("AccessType", EncipherForStorage(account.access));
+        row.Collect("AccessType", EncipherForStorage(account.access.Text()));
     }
     row.Update();
 }
@@ -149,9 +143,9 @@ bool DeleteAccount(const Application& application, const std::string& userName) 
 }
 
 // Both values are between double quotes for every kind of database.
-void StoreAccess(const Session& session, const std::string& userName, const std::string& access) {
+void StoreAccess(const Session& session, const std::string& userName, const AccessRights& access) {
     DatabaseScope(session.database)
-        .Execute("UPDATE tblusers SET AccessType = \"" + EncipherForStorage(access) +
+        .Execute("UPDATE tblusers SET AccessType = \"" + EncipherForStorage(access.Text()) +
                  "\" WHERE Username = \"" + EncipherForStorage(userName) + "\"");
 }
 

@@ -20,8 +20,8 @@ struct Account {
     std::string userName{};
     std::string password{};
     std::string email{};
-    std::string group{};   ///< name of a user group; empty for individual rights
-    std::string access{};  ///< 42 characters "1" or "0"
+    std::string group{};  ///< name of a user group; empty for individual rights
+    AccessRights access{};
 };
 
 /// Names and emails, in the table's own order.
@@ -35,7 +35,7 @@ std::optional<Message> RefusalOf(const Account& account);
 
 /// The rights of every new account, whatever was ticked: to run preset and custom reports, to
 /// print them and to choose where they go.
-std::string AccessOfNewAccount();
+AccessRights AccessOfNewAccount();
 
 /// Adds an account under the normal form of its name, the first letter upper case. Returns
 /// false when there is an account of the name as it was typed. Another spelling of a name is
@@ -50,6 +50,6 @@ void EditAccount(const Application& application, const Account& account);
 bool DeleteAccount(const Application& application, const std::string& userName);
 
 /// Gives an account other rights.
-void StoreAccess(const Session& session, const std::string& userName, const std::string& access);
+void StoreAccess(const Session& session, const std::string& userName, const AccessRights& access);
 
 }  // namespace tallix

@@ -27,28 +27,29 @@ std::vector<std::string> LoadUserGroups(const Session& session) {
     return names;
 }
 
-std::string ReadGroupAccess(const Session& session, const std::string& name) {
+AccessRights ReadGroupAccess(const Session& session, const std::string& name) {
     const DatabaseScope database(session.database);
     const ado::Recordset group = FindGroup(database, name);
-    return group.RecordCount() > 0 ? DecipherFromStorage(group.Text("Group_Access")) : "";
+    if (group.RecordCount() == 0) return {};
+    return AccessRights::FromText(DecipherFromStorage(group.Text("Group_Access")));
 }
 
-bool AddUserGroup(const Session& session, const std::string& name, const std::string& access) {
+bool AddUserGroup(const Session& session, const std::string& name, const AccessRights& access) {
     const DatabaseScope database(session.database);
     ado::Recordset group = FindGroup(database, name);
     if (group.RecordCount() > 0) return false;
     group.AddNew();
     group.Collect("Group_Name", name);
-    group.Collect("Group_Access", EncipherForStorage(access));
+    group.Collect("Group_Access", EncipherForStorage(access.Text()));
     group.Update();
     return true;
 }
 
-bool EditUserGroup(const Session& session, const std::string& name, const std::string& access) {
+bool EditUserGroup(const Session& session, const std::string& name, const AccessRights& access) {
     const DatabaseScope database(session.database);
     ado::Recordset group = FindGroup(database, name);
     if (group.RecordCount() == 0) return false;
-    group.Collect("Group_Access", EncipherForStorage(access));
+    group.Collect("Group_Access", EncipherForStorage(access.Text()));
     group.Update();
     return true;
 }

@@ -12,14 +12,14 @@ namespace tallix {
 
 std::vector<std::string> LoadUserGroups(const Session& session);
 
-/// The access string of a group; empty for an unknown group.
-std::string ReadGroupAccess(const Session& session, const std::string& name);
+/// The rights of a group; none for an unknown group.
+AccessRights ReadGroupAccess(const Session& session, const std::string& name);
 
 /// Returns false, and writes nothing, when the name is taken.
-bool AddUserGroup(const Session& session, const std::string& name, const std::string& access);
+bool AddUserGroup(const Session& session, const std::string& name, const AccessRights& access);
 
 /// Gives a group other rights. Returns false for an unknown group.
-bool EditUserGroup(const Session& session, const std::string& name, const std::string& access);
+bool EditUserGroup(const Session& session, const std::string& name, const AccessRights& access);
 
 /// Deletes a group. Its members are then without a group and have their own rights.
 void DeleteUserGroup(const Session& session, const std::string& name);

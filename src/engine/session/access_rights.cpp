@@ -1,9 +1,12 @@
 #include "session/access_rights.h"
 
+#include <algorithm>
+
 namespace tallix {
 namespace {
 
 constexpr char kGranted = '1';
+constexpr char kRefused = '0';
 
 }  // namespace
 
@@ -52,9 +55,29 @@ const std::array<std::string_view, kRights> kRightLabels = {
     "Special > Permissions",
 };
 
-bool Allows(std::string_view access, AccessRight right) {
-    const auto place = static_cast<std::size_t>(right);
-    return place < access.size() && access[place] == kGranted;
+AccessRights::AccessRights(std::initializer_list<AccessRight> granted) {
+    for (const AccessRight right : granted) Grant(right);
+}
+
+AccessRights AccessRights::All() {
+    AccessRights all;
+    all.granted_.set();
+    return all;
+}
+
+AccessRights AccessRights::FromText(std::string_view stored) {
+    AccessRights rights;
+    const std::size_t places = std::min(stored.size(), kRights);
+    for (std::size_t place = 0; place < places; ++place) rights.granted_[place] = stored[place] == kGranted;
+    return rights;
+}
+
+std::string AccessRights::Text() const {
+    std::string text(kRights, kRefused);
+    for (std::size_t place = 0; place < kRights; ++place) {
+        if (granted_[place]) text[place] = kGranted;
+    }
+    return text;
 }
 
 }  // namespace tallix

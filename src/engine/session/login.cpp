@@ -74,7 +74,7 @@ std::string Login::StoredAccess() {
 void Login::BeginSession(const std::string& normalName) {
     Session& session = application_.session;
     session.CurrentUser = normalName;
-    session.CurrentAccess = DecipherFromStorage(StoredAccess());
+    session.CurrentAccess = AccessRights::FromText(DecipherFromStorage(StoredAccess()));
     session.UseStatsMain = false;
     WriteLog(database_, session, application_.clock, "Logged In");
 }

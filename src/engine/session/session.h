@@ -5,6 +5,7 @@
 #include <string>
 
 #include "database/database_scope.h"
+#include "session/access_rights.h"
 
 namespace tallix {
 
@@ -16,7 +17,7 @@ struct Session {
     std::string Currency;
     std::string Lang;
     std::string CurrentUser;
-    std::string CurrentAccess;  ///< 42 characters "1" or "0", one a permission
+    AccessRights CurrentAccess;
     bool UseStatsMain = false;
 };
 

@@ -88,7 +88,7 @@ void AccountsPage::Load() {
     list_.Set(LoadAccounts(Program().session));
 }
 
-void AccountsPage::ApplyRights(std::string_view access) {
+void AccountsPage::ApplyRights(const AccessRights& access) {
     ListPage::ApplyRights(access);
     for (QWidget* widget : {static_cast<QWidget*>(groupLabel_), static_cast<QWidget*>(group_)}) {
         widget->setEnabled(Allows(access, AccessRight::Groups));

@@ -19,7 +19,7 @@ public:
     AccountsPage(Application& application, QWidget* parent);
 
     void Load() override;
-    void ApplyRights(std::string_view access) override;
+    void ApplyRights(const AccessRights& access) override;
 
 private:
     void AddButtons();

@@ -9,7 +9,7 @@ FoldersPage::FoldersPage(Application& application, QWidget* parent) : SettingsPa
     Rows().addStretch();
 }
 
-bool FoldersPage::IsGranted(std::string_view access) const {
+bool FoldersPage::IsGranted(const AccessRights& access) const {
     return Allows(access, AccessRight::Folders);
 }
 

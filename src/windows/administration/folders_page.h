@@ -10,7 +10,7 @@ class FoldersPage : public SettingsPage {
 public:
     FoldersPage(Application& application, QWidget* parent);
 
-    bool IsGranted(std::string_view access) const override;
+    bool IsGranted(const AccessRights& access) const override;
 };
 
 }  // namespace tallix

@@ -7,7 +7,7 @@ namespace tallix {
 ListPage::ListPage(Application& application, AccessRight right, QWidget* parent)
     : OptionsPage(parent), application_(application), right_(right) {}
 
-void ListPage::ApplyRights(std::string_view access) {
+void ListPage::ApplyRights(const AccessRights& access) {
     for (ButtonedList* list : lists_) list->ApplyRights(access);
 }
 

@@ -20,9 +20,9 @@ class ListPage : public OptionsPage {
     Q_OBJECT
 public:
     /// Shows the buttons whose right is granted. Those without a right always show.
-    void ApplyRights(std::string_view access) override;
+    void ApplyRights(const AccessRights& access) override;
 
-    bool IsGranted(std::string_view access) const override { return Allows(access, right_); }
+    bool IsGranted(const AccessRights& access) const override { return Allows(access, right_); }
 
 protected:
     /// `right` grants the page. `application` must outlive it.

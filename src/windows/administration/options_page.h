@@ -2,7 +2,8 @@
 #pragma once
 
 #include <QWidget>
-#include <string_view>
+
+#include "session/access_rights.h"
 
 namespace tallix {
 
@@ -15,10 +16,10 @@ public:
     virtual void Load() {}
 
     /// Shows and enables what the rights grant on this page.
-    virtual void ApplyRights(std::string_view /*access*/) {}
+    virtual void ApplyRights(const AccessRights& /*access*/) {}
 
     /// Whether the rights grant the page itself.
-    virtual bool IsGranted(std::string_view /*access*/) const { return true; }
+    virtual bool IsGranted(const AccessRights& /*access*/) const { return true; }
 };
 
 }  // namespace tallix

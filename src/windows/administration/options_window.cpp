@@ -144,7 +144,7 @@ void OptionsWindow::OnLoad() {
 }
 
 void OptionsWindow::ApplyRights() {
-    const std::string& access = application_.session.CurrentAccess;
+    const AccessRights& access = application_.session.CurrentAccess;
     for (int row = 0; row < entries_->count(); ++row) {
         QListWidgetItem& entry = *entries_->item(row);
         if (IsGroup(entry)) continue;

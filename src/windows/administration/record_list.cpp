@@ -31,7 +31,7 @@ void ButtonedList::PressOnActivation(QPushButton& button) const {
     });
 }
 
-void ButtonedList::ApplyRights(std::string_view access) {
+void ButtonedList::ApplyRights(const AccessRights& access) {
     for (const auto& [widget, button] : buttons_) {
         if (button.right) widget->setVisible(Allows(access, *button.right));
     }

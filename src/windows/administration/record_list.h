@@ -45,7 +45,7 @@ public:
     /// Enter and a double click on a record press the button, when it is visible.
     void PressOnActivation(QPushButton& button) const;
 
-    void ApplyRights(std::string_view access);
+    void ApplyRights(const AccessRights& access);
 
     /// The list and, below it, its buttons. To be called once, when all have been added.
     QBoxLayout* Layout(Heading heading);

@@ -96,11 +96,11 @@ void ReportDesignPage::RestoreDefaults() {
     }
 }
 
-void ReportDesignPage::ApplyRights(std::string_view access) {
+void ReportDesignPage::ApplyRights(const AccessRights& access) {
     for (QPushButton* button : buttons_) button->setEnabled(Allows(access, AccessRight::ReportDesign));
 }
 
-bool ReportDesignPage::IsGranted(std::string_view) const {
+bool ReportDesignPage::IsGranted(const AccessRights&) const {
     return true;
 }
 

@@ -11,8 +11,8 @@ class ReportDesignPage : public SettingsPage {
 public:
     ReportDesignPage(Application& application, QWidget* parent);
 
-    void ApplyRights(std::string_view access) override;
-    bool IsGranted(std::string_view access) const override;
+    void ApplyRights(const AccessRights& access) override;
+    bool IsGranted(const AccessRights& access) const override;
 
 private:
     QLayout* Buttons();

@@ -47,7 +47,7 @@ SettingsPage::SettingsPage(Application& application, QWidget* parent)
     rows_->setSpacing(2 * toolkit::kSpacing);
 }
 
-bool SettingsPage::IsGranted(std::string_view access) const {
+bool SettingsPage::IsGranted(const AccessRights& access) const {
     return Allows(access, AccessRight::SystemSettings);
 }
 

@@ -34,7 +34,7 @@ public:
     void TakeValues(OptionsValues& values) const;
 
     /// Unless a page overrides it: with the right to the system settings.
-    bool IsGranted(std::string_view access) const override;
+    bool IsGranted(const AccessRights& access) const override;
 
 protected:
     /// An empty panel below the others. A panel with `stretch` takes the room that is left.

@@ -46,7 +46,7 @@ void SiteSummaryPage::showEvent(QShowEvent*) {
     Load();
 }
 
-bool SiteSummaryPage::IsGranted(std::string_view access) const {
+bool SiteSummaryPage::IsGranted(const AccessRights& access) const {
     return Allows(access, AccessRight::SiteData);
 }
 

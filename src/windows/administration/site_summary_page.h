@@ -14,7 +14,7 @@ public:
     SiteSummaryPage(Application& application, QWidget* parent);
 
     void Load() override;
-    bool IsGranted(std::string_view access) const override;
+    bool IsGranted(const AccessRights& access) const override;
 
 signals:
     void WindowWanted(const QString& form);

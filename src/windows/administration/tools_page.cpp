@@ -100,7 +100,7 @@ void ToolsPage::Start(const char* form) {
     }
 }
 
-void ToolsPage::ApplyRights(std::string_view access) {
+void ToolsPage::ApplyRights(const AccessRights& access) {
     const bool isAdministrator = application_.session.CurrentUser == kAdministrator;
     for (std::size_t i = 0; i < kTools.size(); ++i) {
         const Tool& tool = kTools.at(i);

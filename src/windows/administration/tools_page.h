@@ -17,7 +17,7 @@ class ToolsPage : public OptionsPage {
 public:
     ToolsPage(Application& application, QWidget* parent);
 
-    void ApplyRights(std::string_view access) override;
+    void ApplyRights(const AccessRights& access) override;
 
     /// What the box of the automatic backup says. It does not show a state of the system: it
     /// is ticked whenever the window opens.

@@ -43,7 +43,7 @@ QLineEdit* BackupFrame::AddField(const QString& label, const QString& tip, QPush
     return field;
 }
 
-void BackupFrame::ApplyRights(std::string_view access) {
+void BackupFrame::ApplyRights(const AccessRights& access) {
     for (const auto& [choice, box] : boxes_) box->setVisible(Allows(access, choice.right));
 }
 

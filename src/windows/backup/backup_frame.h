@@ -38,8 +38,8 @@ public:
     /// AddField: the Tab key follows the order of adding.
     void AddChoices(std::span<const BackupChoice> choices, QPushButton& begin);
 
-    /// Shows the choices that an access string grants.
-    void ApplyRights(std::string_view access);
+    /// Shows the choices that the rights grant.
+    void ApplyRights(const AccessRights& access);
 
     std::set<BackupGroup> Chosen() const;
 

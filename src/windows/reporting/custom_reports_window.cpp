@@ -175,7 +175,7 @@ void CustomReportsWindow::OnLoad() {
 }
 
 void CustomReportsWindow::ApplyRights() {
-    const std::string& access = Program().session.CurrentAccess;
+    const AccessRights& access = Program().session.CurrentAccess;
     const bool saves = Allows(access, AccessRight::SaveCustomReport);
     delete_->setVisible(Allows(access, AccessRight::DeleteCustomReport));
     save_->setVisible(saves);

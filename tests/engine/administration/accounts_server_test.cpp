@@ -13,8 +13,8 @@ namespace {
 
 using testing::ElementsAre;
 
-const std::string kAll(42, '1');
-const std::string kNone(42, '0');
+const AccessRights kAll = AccessRights::All();
+const AccessRights kNone;
 const std::string kDesk = "O'Neil's \\ 50%";
 
 class AccountsTest : public test::EngineTest {
@@ -48,12 +48,12 @@ TEST_P(AccountsTest, AreAddedChangedAndDeleted) {
     EXPECT_THAT(Names(), ElementsAre("John", "John"));
 
     EXPECT_TRUE(AddUserGroup(session_, kDesk, kAll));
-    EXPECT_TRUE(AddAccount(test_.application, {"O'neill", "1", "@", kDesk, ""}));
+    EXPECT_TRUE(AddAccount(test_.application, {"O'neill", "1", "@", kDesk, {}}));
     Account oneill = ReadAccount(session_, "O'neill");
     EXPECT_EQ(oneill.group + oneill.email + oneill.password, kDesk + "@1");
     oneill.password = "2";
     oneill.group = "";
-    oneill.access = "1" + kNone.substr(1);
+    oneill.access = {AccessRight::PresetReports};
     EditAccount(test_.application, oneill);
     EXPECT_TRUE(CanLogIn(oneill.userName, "2"));
     EXPECT_EQ(session_.CurrentAccess, oneill.access);
@@ -61,19 +61,19 @@ TEST_P(AccountsTest, AreAddedChangedAndDeleted) {
     EXPECT_EQ(ReadAccount(session_, oneill.userName).access, kAll);
 
     const std::string breaksOut = "x\"); DELETE FROM tblusers; --";
-    EXPECT_THROW(AddAccount(test_.application, {breaksOut, "1", "@", "", ""}), DatabaseError);
+    EXPECT_THROW(AddAccount(test_.application, {breaksOut, "1", "@", "", {}}), DatabaseError);
     EXPECT_TRUE(DeleteAccount(test_.application, "John"));
     EXPECT_THAT(Names(), ElementsAre(oneill.userName));
 }
 
 TEST_P(AccountsTest, TheAdministratorIsProtectedAndAttemptsAreLogged) {
-    AddAccount(test_.application, {"administrator", "x", "a@x", "", ""});
+    AddAccount(test_.application, {"administrator", "x", "a@x", "", {}});
     EditAccount(test_.application, {"administrator", "y", "b@x", "none", kAll});
     const Account kept = ReadAccount(session_, "Administrator");
     EXPECT_EQ(kept.password + kept.email, "yb@x");
     EXPECT_EQ(kept.access, AccessOfNewAccount());
     EXPECT_FALSE(DeleteAccount(test_.application, "Administrator"));
-    EXPECT_FALSE(AddAccount(test_.application, {"Administrator", "x", "a@x", "", ""}));
+    EXPECT_FALSE(AddAccount(test_.application, {"Administrator", "x", "a@x", "", {}}));
     EXPECT_THAT(Names(), ElementsAre("Administrator"));
     EXPECT_THAT(Log(),
                 ElementsAre("User Account Created - administrator", "User Account Modified - administrator",
@@ -86,8 +86,8 @@ TEST_P(AccountsTest, DeletingAGroupLeavesItsMembersTheirOwnRights) {
     EXPECT_FALSE(AddUserGroup(session_, kDesk, kAll));
     EXPECT_FALSE(EditUserGroup(session_, "Front", kAll));
     EXPECT_TRUE(EditUserGroup(session_, kDesk, kAll));
-    AddAccount(test_.application, {"ann", "x", "a@x", kDesk, ""});
-    AddAccount(test_.application, {"bob", "x", "b@x", "Back", ""});
+    AddAccount(test_.application, {"ann", "x", "a@x", kDesk, {}});
+    AddAccount(test_.application, {"bob", "x", "b@x", "Back", {}});
     EXPECT_TRUE(CanLogIn("ann", "x"));
     EXPECT_EQ(session_.CurrentAccess, kAll);
     DeleteUserGroup(session_, kDesk);

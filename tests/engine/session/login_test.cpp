@@ -58,7 +58,7 @@ TEST_F(LoginTest, OpensTheSessionOfAnAccountHoweverItsNameIsWritten) {
         EXPECT_EQ(Try(name, "Sesame"), LoginOutcome::LoggedIn) << name;
         EXPECT_EQ(session_.CurrentUser, "Admin");
     }
-    EXPECT_EQ(session_.CurrentAccess, kOwnAccess);
+    EXPECT_EQ(session_.CurrentAccess.Text(), kOwnAccess);
     EXPECT_FALSE(session_.UseStatsMain);
     EXPECT_THAT(Log(), ElementsAre("Admin Logged In", "Admin Logged In", "Admin Logged In"));
 }
@@ -94,7 +94,7 @@ TEST_F(LoginTest, AGroupThatIsThereReplacesThePersonsOwnRights) {
         const std::string name = "user" + groupId;
         AddAccount(NormalUserName(name), "x", kOwnAccess, groupId);
         ASSERT_EQ(Try(name, "x"), LoginOutcome::LoggedIn);
-        EXPECT_EQ(session_.CurrentAccess, access) << "group " << groupId;
+        EXPECT_EQ(session_.CurrentAccess.Text(), access) << "group " << groupId;
     }
 }
 

@@ -27,13 +27,13 @@ TEST_F(AccountsPageTest, AnAccountIsMadeAndGivenRights) {
     Click("Save");
     SelectRow(0);
     for (const Answer answer : {Answer::No, Answer::Yes}) {
-        const std::string before = ReadAccount(world.application.session, "Ann").access;
+        const AccessRights before = ReadAccount(world.application.session, "Ann").access;
         Click("Access");
         Click("Select All");
         world.prompts.answers = {answer};
         Click("Save");
-        const std::string after = ReadAccount(world.application.session, "Ann").access;
-        EXPECT_EQ(after, answer == Answer::Yes ? std::string(42, '1') : before);
+        const AccessRights after = ReadAccount(world.application.session, "Ann").access;
+        EXPECT_EQ(after, answer == Answer::Yes ? AccessRights::All() : before);
     }
     List().setFocus();
     QTest::keyClick(&List(), Qt::Key_Return);
@@ -45,12 +45,12 @@ TEST_F(AccountsPageTest, AnAccountIsMadeAndGivenRights) {
     Click("Delete");
     EXPECT_TRUE(Rows().empty());
     EXPECT_FALSE(Button("Delete").isEnabled());
-    page.ApplyRights(std::string(42, '0'));
+    page.ApplyRights({});
     EXPECT_FALSE(Button("Add").isVisible());
 }
 
 TEST_F(AccountsPageTest, AGroupKeepsItsRights) {
-    AddUserGroup(world.application.session, "Desk", "01" + std::string(40, '0'));
+    AddUserGroup(world.application.session, "Desk", {AccessRight::CustomReports});
     auto& page = OpenPage<UserGroupsPage>();
     SelectRow(0);
     Click("Edit");
@@ -60,7 +60,8 @@ TEST_F(AccountsPageTest, AGroupKeepsItsRights) {
     EXPECT_EQ(world.prompts.messages.at(0).text, "An error has occured whilst editing group!");
     Type("Group Name:", "Desk");
     Click("Save");
-    EXPECT_EQ(ReadGroupAccess(world.application.session, "Desk"), "011" + std::string(39, '0'));
+    EXPECT_EQ(ReadGroupAccess(world.application.session, "Desk"),
+              (AccessRights{AccessRight::CustomReports, AccessRight::Archive}));
     world.prompts.answers = {Answer::Yes};
     Click("Delete");
     EXPECT_TRUE(LoadUserGroups(world.application.session).empty());

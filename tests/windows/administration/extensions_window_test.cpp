@@ -51,10 +51,10 @@ TEST_F(AdminPagesTest, ExtensionsAreEditedOnTheScreenOnly) {
 TEST_F(AdminPagesTest, ButtonsOfExtensionsFollowTheRights) {
     auto& page = OpenPage<ExtensionsPage>();
     const char* const captions[] = {"Get From Data", "Add", "Edit", "Delete"};
+    const AccessRight rights[] = {AccessRight::GetFromData, AccessRight::AddExtension,
+                                  AccessRight::EditExtension, AccessRight::DeleteExtension};
     for (std::size_t granted = 0; granted < std::size(captions); ++granted) {
-        std::string access(42, '0');
-        access.at(21 + granted) = '1';
-        page.ApplyRights(access);
+        page.ApplyRights({rights[granted]});
         for (const char* caption : captions) {
             EXPECT_EQ(Button(caption).isVisible(), caption == captions[granted]);
         }

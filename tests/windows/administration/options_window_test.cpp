@@ -41,7 +41,7 @@ TEST_F(OptionsWindowTest, OffersWhatTheRightsGrant) {
     forms.Unload(kOptionsForm);
 
     world.application.session.CurrentUser = "Administrator";
-    world.application.session.CurrentAccess = std::string(kRights, '0');
+    world.application.session.CurrentAccess = {};
     EXPECT_THAT(Pages(), ElementsAre("Report Design", "Tools"));
     for (const char* button :
          {"Save and Exit", "Edit Custom Mappings", "Scheduled Reports", "Edit Call Costings", "Compute Costs",
@@ -53,7 +53,7 @@ TEST_F(OptionsWindowTest, OffersWhatTheRightsGrant) {
     }
     forms.Unload(kOptionsForm);
 
-    world.application.session.CurrentAccess[static_cast<std::size_t>(AccessRight::Folders)] = '1';
+    world.application.session.CurrentAccess.Grant(AccessRight::Folders);
     EXPECT_THAT(Pages(), ElementsAre("Report Design", "Folders", "Tools"));
 }
 

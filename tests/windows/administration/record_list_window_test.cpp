@@ -51,7 +51,7 @@ TEST_F(RecordListTest, NothingIsSelectedAfterARemovalOrAReload) {
 TEST_F(RecordListTest, AnActivatedRecordPressesOnlyAVisibleButton) {
     list_.PressOnActivation(delete_);
     for (const bool granted : {false, true}) {
-        list_.ApplyRights(std::string(kRights, granted ? '1' : '0'));
+        list_.ApplyRights(granted ? AccessRights::All() : AccessRights());
         EXPECT_EQ(delete_.isVisible(), granted);
         Select(0);
         QTest::keyClick(&list_.View(), Qt::Key_Return);

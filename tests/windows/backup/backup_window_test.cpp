@@ -55,9 +55,8 @@ TEST_F(BackupWindowTest, BacksUpAndRestores) {
 }
 
 TEST_F(BackupWindowTest, ShowsWhatTheRightsGrant) {
-    std::string& access = world.application.session.CurrentAccess;
     for (const AccessRight right : {AccessRight::Backup, AccessRight::RestoreRawData}) {
-        access[static_cast<std::size_t>(right)] = '0';
+        world.application.session.CurrentAccess.Refuse(right);
     }
     EXPECT_FALSE(Button("BEGIN BACKUP").isVisible());
     EXPECT_TRUE(Captioned<QLabel>("You do not have access to backup").isVisible());

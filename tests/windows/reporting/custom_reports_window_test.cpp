@@ -71,8 +71,10 @@ TEST_F(CustomReportsWindowTest, AReportIsMadeKeptAndRun) {
 }
 
 TEST_F(CustomReportsWindowTest, RightsHideWhatIsNotGranted) {
-    world.application.session.CurrentAccess[27] = '0';
-    for (std::size_t place = 38; place < 41; ++place) world.application.session.CurrentAccess[place] = '0';
+    for (const AccessRight right : {AccessRight::CallCostMappings, AccessRight::DeleteCustomReport,
+                                    AccessRight::SaveCustomReport, AccessRight::CustomReportDestination}) {
+        world.application.session.CurrentAccess.Refuse(right);
+    }
     EXPECT_EQ(Labelled<QListWidget>("Available Reports").count(), 0);
     EXPECT_FALSE(Button("Save Report").isVisible());
     EXPECT_FALSE(Button("Delete Report").isVisible());

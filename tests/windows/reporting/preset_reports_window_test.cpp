@@ -67,7 +67,7 @@ TEST_F(PresetReportsWindowTest, OpensWithItsListsAndWithNothingToRun) {
     EXPECT_FALSE(Captioned<QCheckBox>("GRAPH").isVisible());
 
     forms.Unload(kPresetReportsForm);
-    world.application.session.CurrentAccess[36] = '0';
+    world.application.session.CurrentAccess.Refuse(AccessRight::PresetReportDestination);
     Open();
     EXPECT_FALSE(Captioned<QRadioButton>("To Printer").isVisible());
 }

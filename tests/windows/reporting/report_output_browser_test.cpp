@@ -163,7 +163,7 @@ TEST_F(ReportOutputTest, ADatabaseThatIsGoneIsPassedOverAndOnlyTheRightOffersToP
     EXPECT_TRUE(IsVisible(kStatisticsForm));
     EXPECT_FALSE(IsVisible(kMainForm));
 
-    world.application.session.CurrentAccess[6] = '0';
+    world.application.session.CurrentAccess.Refuse(AccessRight::PrintReport);
     Deliver({});
     EXPECT_FALSE(Button("Print Report").isVisible());
     EXPECT_FALSE(Button("Export As PDF").isVisible());

@@ -34,13 +34,13 @@ protected:
 };
 
 TEST_F(MainWindowTest, ShowsWhoIsConnectedAndTheEntriesThatTheRightsAllow) {
-    world.application.session.CurrentAccess = "101001" + std::string(36, '1');
+    world.application.session.CurrentAccess = AccessRights::FromText("101001" + std::string(36, '1'));
     EXPECT_EQ(Window().findChild<QLabel*>("Connected")->text().toStdString(),
               "Connected To: " + world.application.session.database.server + " As User: Ann");
     EXPECT_THAT(ShownEntries(), ElementsAre("Preset Reports", "Archive", "Options"));
     forms.Unload(kMainForm);
 
-    world.application.session.CurrentAccess = "000000";
+    world.application.session.CurrentAccess = {};
     EXPECT_THAT(ShownEntries(), IsEmpty());
     EXPECT_TRUE(Button("Logout").isVisible() && Button("About Tallix Reports").isVisible());
 }
