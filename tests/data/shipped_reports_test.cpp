@@ -4,10 +4,8 @@
 
 #include <set>
 
-#include "database/recordset.h"
 #include "reporting/catalogue.h"
 #include "reporting/query_builder.h"
-#include "session/database.h"
 #include "support/places.h"
 #include "support/test_application.h"
 #include "text/text_conversion.h"
@@ -85,7 +83,6 @@ protected:
         Add("elsewhere", {{"Extension", "6001"}, {"OrigNum", "6001"}, {"Site", "003"}});
         test_.Execute("INSERT INTO tblgroupnames (ID, Name) VALUES (1, 'Sales')");
         test_.Execute("INSERT INTO tblgroupmap (GroupID, Extension) VALUES ('1', '6001')");
-        OpenDatabase(test_.application.session);
     }
 
     void Add(const std::string& name, Row call) {
@@ -94,22 +91,18 @@ protected:
         names_.push_back(name);
     }
 
-    void Ask(const std::string& name, const RunInputs& inputs, const QueryRules& rules,
-             ado::Recordset& calls) {
+    ado::Rows Ask(const std::string& name, const RunInputs& inputs, const QueryRules& rules) {
         const IniFile report = ReportNamed(name);
         flags_.Read(report);
-        Session& session = test_.application.session;
-        calls.Open(BuildQuery(session, {flags_, ReadReportOptions(report), inputs, rules}),
-                   OpenConnection(session));
+        const DatabaseScope database(test_.application.session.database);
+        return database.Query(BuildQuery(database, {flags_, ReadReportOptions(report), inputs, rules}));
     }
 
     // The report and the names of its calls in their order, "Report: one, two".
     std::string Calls(const std::string& name, const RunInputs& inputs) {
-        ado::Recordset calls;
-        Ask(name, inputs, kPresetQuery, calls);
         std::set<std::string> names;
-        for (std::int64_t i = 1; i <= calls.RecordCount(); ++i, calls.MoveNext()) {
-            names.insert(names_[ToInteger32(calls.Text("ID")) - 1]);
+        for (const ado::Row call : Ask(name, inputs, kPresetQuery)) {
+            names.insert(names_[ToInteger32(call.Text("ID")) - 1]);
         }
         return fmt::format("{}: {}", name, fmt::join(names, ", "));
     }
@@ -146,20 +139,18 @@ TEST_F(CallsOfReports, AreThoseThatTheirNamesPromise) {
 TEST_F(CallsOfReports, AreAskedForInStatementsThatTheServerTakes) {
     for (const std::string& name : ReportNames()) {
         for (const RunInputs& inputs : {kEverything, kOneOfAll}) {
-            ado::Recordset calls;
-            EXPECT_NO_THROW(Ask(name, inputs, kPresetQuery, calls)) << name;
+            EXPECT_NO_THROW(Ask(name, inputs, kPresetQuery)) << name;
             if (name == "Calls By Extension In Date Order") continue;  // which is not for schedules
-            EXPECT_NO_THROW(Ask(name, inputs, kUnattendedQuery, calls)) << name;
+            EXPECT_NO_THROW(Ask(name, inputs, kUnattendedQuery)) << name;
         }
     }
 }
 
 TEST_F(CallsOfReports, AddUpTheStartedMinutesOfAnExtension) {
-    ado::Recordset totals;
-    Ask("Minutes By Extension", kEverything, kPresetQuery, totals);
-    ASSERT_EQ(totals.RecordCount(), 3);
-    EXPECT_EQ(totals.Text("Extension"), "201");
-    EXPECT_EQ(totals.Text("sDuration"), "75");  // 14 of 3, one of 31, two of 1, one of none
+    const ado::Rows totals = Ask("Minutes By Extension", kEverything, kPresetQuery);
+    ASSERT_EQ(totals.Count(), 3);
+    EXPECT_EQ(totals.First().Text("Extension"), "201");
+    EXPECT_EQ(totals.First().Text("sDuration"), "75");  // 14 of 3, one of 31, two of 1, one of none
 }
 
 }  // namespace

@@ -6,7 +6,7 @@
 #include <charconv>
 #include <optional>
 
-#include "failures/attempt.h"
+#include "failures/errors.h"
 #include "text/text_conversion.h"
 
 namespace tallix {
@@ -19,7 +19,7 @@ constexpr std::size_t kSeries = 9;
 constexpr int kGroups = 10;
 constexpr double kWhole = 100;
 
-std::string Legend(const ado::Recordset& calls, int barWidth) {
+std::string Legend(const ado::Rows& calls, int barWidth) {
     const std::vector<std::string>& names = calls.ColumnNames();
     if (names.size() <= kSeries) throw DatabaseError("The chart needs ten fields");
     std::string legend;
@@ -32,10 +32,10 @@ std::string Legend(const ado::Recordset& calls, int barWidth) {
     return legend;
 }
 
-ado::Value ValueOf(const ado::Recordset& calls, std::size_t field) {
-    ado::Value value;
-    Attempt([&] { value = calls.Item(calls.ColumnNames().at(field)); });
-    return value;
+// Nothing for a record after the last one.
+ado::Value ValueOf(const ado::Rows& calls, std::int64_t record, std::size_t field) {
+    if (record >= calls.Count()) return std::nullopt;
+    return calls[record].Item(calls.ColumnNames().at(field));
 }
 
 std::string Gap(int barWidth) {
@@ -52,33 +52,33 @@ std::optional<double> PercentageOf(ado::Value value) {
     return percent;
 }
 
-std::string Bar(double percent, std::string_view colour, int height, int barWidth) {
+std::string Bar(double percent, std::string_view colour, const GraphSize& size) {
     return fmt::format(
         "<Table Height={} Cellpadding=0 CellSpacing=0 border=0 Width={} Align=Left><tr><td height={}%></td>"
         "</tr><tr><td bgColor={} height={}%></td></tr></Table>",
-        height, barWidth, kWhole - percent, colour, percent);
+        size.height, size.barWidth, kWhole - percent, colour, percent);
 }
 
-std::string Group(const ado::Recordset& calls, int height, int barWidth) {
+std::string Group(const ado::Rows& calls, std::int64_t record, const GraphSize& size) {
     std::string group =
-        fmt::format("<Table Height={} Cellpadding=0 CellSpacing=0 border=0 Align=Left><TR><TD>", height);
+        fmt::format("<Table Height={} Cellpadding=0 CellSpacing=0 border=0 Align=Left><TR><TD>", size.height);
     for (std::size_t series = 1; series <= kSeries; ++series) {
-        const std::optional<double> percent = PercentageOf(ValueOf(calls, series));
-        group += percent ? Bar(*percent, kColours.at(series - 1), height, barWidth) : Gap(barWidth);
+        const std::optional<double> percent = PercentageOf(ValueOf(calls, record, series));
+        group += percent ? Bar(*percent, kColours.at(series - 1), size) : Gap(size.barWidth);
     }
     return group + "</td></tr><tr><td Align=Center NoWrap>" +
            R"(<DIV style="FONT-SIZE: 10pt; WIDTH: 10pt; WRITING-MODE: tb-rl"> )" +
-           std::string(ValueOf(calls, 0).value_or("")) + "</DIV></td></tr></table>\r\n";
+           std::string(ValueOf(calls, record, 0).value_or("")) + "</DIV></td></tr></table>\r\n";
 }
 
 }  // namespace
 
-std::string BuildBarGraph(ado::Recordset& calls, int height, int barWidth) {
+std::string BuildBarGraph(const ado::Rows& calls, std::int64_t first, const GraphSize& size) {
     std::string graph = fmt::format(
         "<Table border=1 bordercolor=black CellPadding=0 CellSpacing=0 height={}><tr><td vAlign=Center>",
-        height);
-    graph += Legend(calls, barWidth) + "</td></tr><tr><td vAlign=Center>";
-    for (int group = 0; group < kGroups; ++group, calls.MoveNext()) graph += Group(calls, height, barWidth);
+        size.height);
+    graph += Legend(calls, size.barWidth) + "</td></tr><tr><td vAlign=Center>";
+    for (int group = 0; group < kGroups; ++group) graph += Group(calls, first + group, size);
     return graph + "</td></tr></table>";
 }
 

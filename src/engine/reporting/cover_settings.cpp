@@ -1,5 +1,7 @@
 #include "reporting/cover_settings.h"
 
+#include "session/access_log.h"
+
 namespace tallix {
 
 namespace {
@@ -31,9 +33,12 @@ CoverSettings LoadCoverSettings(const SettingsStore& settings) {
     return covers;
 }
 
-void SaveCoverSettings(const SettingsStore& settings, const CoverSettings& covers) {
+void SaveCoverSettings(Application& application, const CoverSettings& covers) {
+    const SettingsStore& settings = application.settings;
     for (const auto& [key, value] : kSwitches) settings.Write(key, covers.*value ? kOn : kOff);
     settings.Write(kTitleText, covers.titleText.empty() ? kNoTitle : covers.titleText);
+    const DatabaseScope database(application.session.database);
+    WriteLog(database, application.session, application.clock, "Saved Report Covers");
 }
 
 }  // namespace tallix

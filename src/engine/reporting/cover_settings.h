@@ -1,9 +1,9 @@
-// The settings of the pages before and behind a report.
+// The settings of the pages before and after a report.
 #pragma once
 
 #include <string>
 
-#include "settings/settings_store.h"
+#include "session/application.h"
 
 namespace tallix {
 
@@ -16,13 +16,14 @@ struct CoverSettings {
     bool logo = false;     ///< logo at the cover's top
     bool date = false;
     bool time = false;
-    bool generatedBy = false;  ///< kept, and without effect on the page
+    bool generatedBy = false;  ///< stored, without effect on the page
     bool notes = false;        ///< the word "Notes:" on the back page
 };
 
 CoverSettings LoadCoverSettings(const SettingsStore& settings);
 
-/// An empty title text is stored as a single blank.
-void SaveCoverSettings(const SettingsStore& settings, const CoverSettings& covers);
+/// Stores the settings and adds a row to the access log. An empty title text is stored as a
+/// single blank. Throws DatabaseError where the log takes no row; the settings are then stored.
+void SaveCoverSettings(Application& application, const CoverSettings& covers);
 
 }  // namespace tallix

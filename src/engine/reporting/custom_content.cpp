@@ -17,14 +17,15 @@ std::vector<std::string_view> CustomContent::Heads() const {
     return heads;
 }
 
-std::string CustomContent::Statement(const Site&) const {
-    return BuildCustomQuery(application_.session, report_.extension);
+std::string CustomContent::Statement(const DatabaseScope& database, const Site&) const {
+    return BuildCustomQuery(database, report_.extension);
 }
 
-PageTotals CustomContent::WriteRows(const Site&, ado::Recordset& calls, PageWriter& page) const {
-    if (!calls.IsOpen()) return {};
-    CustomRows rows(application_.session, application_.events, report_, calls);
-    return {.records = WalkRecords(calls.RecordCount(), progress_, calls, rows, page)};
+ReportContent::Written CustomContent::WriteRows(const DatabaseScope& database, const Site&,
+                                                const ado::Rows& calls, PageWriter& page) const {
+    CustomRows rows(database, application_.events, report_, calls);
+    const auto [written, next] = WalkRecords(calls.Count(), progress_, calls, rows, page);
+    return {.totals = {.records = written}, .next = next};
 }
 
 }  // namespace tallix

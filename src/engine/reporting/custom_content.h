@@ -14,8 +14,9 @@ public:
     const ReportSettings& Settings() const override { return settings_; }
     PageShape Shape() const override;
     std::vector<std::string_view> Heads() const override;
-    std::string Statement(const Site& site) const override;
-    PageTotals WriteRows(const Site& site, ado::Recordset& calls, PageWriter& page) const override;
+    std::string Statement(const DatabaseScope& database, const Site& site) const override;
+    Written WriteRows(const DatabaseScope& database, const Site& site, const ado::Rows& calls,
+                      PageWriter& page) const override;
 
 private:
     Application& application_;

@@ -30,9 +30,9 @@ bool IsSet(std::string_view flag) {
 
 }  // namespace
 
-CustomRows::CustomRows(Session& session, EventQueue& events, const CustomReport& report,
-                       const ado::Recordset& calls)
-    : report_(report), names_(session, events, kNames) {
+CustomRows::CustomRows(const DatabaseScope& database, EventQueue& events, const CustomReport& report,
+                       const ado::Rows& calls)
+    : report_(report), names_(database, events, kNames) {
     boundsAreDates_ = Attempt([&] {
         if (!report.startDate.empty()) start_ = DayNumber(report.startDate);
         if (!report.endDate.empty()) end_ = DayNumber(report.endDate);
@@ -42,10 +42,10 @@ CustomRows::CustomRows(Session& session, EventQueue& events, const CustomReport&
     }
 }
 
-Verdict CustomRows::Judge(const ado::Recordset& calls) {
+Verdict CustomRows::Judge(ado::Row call) {
     cells_.clear();
     for (const Step& step : steps_) {
-        if (!Add(step.cell, FieldText(calls, step.source))) return Verdict::NoRow;
+        if (!Add(step.cell, FieldText(call, step.source))) return Verdict::NoRow;
     }
     return Verdict::Row;
 }

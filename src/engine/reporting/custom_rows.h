@@ -8,27 +8,27 @@
 #include <string_view>
 #include <vector>
 
-#include "database/recordset.h"
+#include "database/database_scope.h"
 #include "host/event_queue.h"
 #include "reporting/custom_reports.h"
 #include "reporting/key_lookup.h"
 #include "reporting/record_walk.h"
-#include "session/session.h"
 
 namespace tallix {
 
 class CustomRows {
 public:
-    /// `session`, with its connection open, `events` and `report` must outlive the rows.
-    /// The columns are those of `calls`.
-    CustomRows(Session& session, EventQueue& events, const CustomReport& report, const ado::Recordset& calls);
+    /// `database`, `events` and `report` must outlive the rows. The columns are those of
+    /// `calls`.
+    CustomRows(const DatabaseScope& database, EventQueue& events, const CustomReport& report,
+               const ado::Rows& calls);
 
-    /// Whether the current call has a row. A test that cannot be made, as with a date that
+    /// Whether a call has a row. A test that cannot be made, as with a date that
     /// is not a date, passes.
-    Verdict Judge(const ado::Recordset& calls);
+    Verdict Judge(ado::Row call);
 
     /// The cells of the call that Judge let through. They live until its next call.
-    const std::vector<std::string_view>& Cells(const ado::Recordset&) const { return cells_; }
+    const std::vector<std::string_view>& Cells(ado::Row) const { return cells_; }
 
 private:
     struct Step {

@@ -2,13 +2,13 @@
 
 #include <string_view>
 
-#include "database/recordset.h"
+#include "database/rows.h"
 
 namespace tallix {
 
-/// The field of the current call; empty where it is NULL or the column is absent.
-inline std::string_view FieldText(const ado::Recordset& calls, ado::Column column) {
-    return column ? calls.Text(column) : std::string_view();
+/// The field of a call; empty where it is NULL or the column is absent.
+inline std::string_view FieldText(ado::Row call, ado::Column column) {
+    return column ? call.Text(column) : std::string_view();
 }
 
 }  // namespace tallix

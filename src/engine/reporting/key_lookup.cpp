@@ -4,7 +4,6 @@
 #include <bit>
 
 #include "failures/attempt.h"
-#include "session/database.h"
 #include "session/prefix_table.h"
 #include "text/text_conversion.h"
 #include "text/text_pieces.h"
@@ -34,17 +33,17 @@ std::optional<std::string_view> View(const std::optional<std::string>& text) {
 
 }  // namespace
 
-// The rows of a table by key: an open-addressing index of row numbers, 4 bytes a place,
+// The rows of a table by key: an open-addressing index of row numbers, 4 bytes per place,
 // over the fetched rows. The first row of a key is the one found.
 class KeyLookup::Table {
 public:
-    Table(Session& session, const KeyLookupNames& names)
-        : result_(OpenConnection(session).Fetch("SELECT * FROM " + std::string(names.table))),
+    Table(const DatabaseScope& database, const KeyLookupNames& names)
+        : rows_(database.Query("SELECT * FROM " + std::string(names.table))),
           form_(names.form),
           key_(ColumnNamed(names.key)),
           value_(ColumnNamed(names.value)),
-          places_(std::bit_ceil(static_cast<std::size_t>(result_.rows.Rows()) * 2 + 1), kFree) {
-        for (std::int64_t row = 0; row < result_.rows.Rows(); ++row) Enter(row);
+          places_(std::bit_ceil(static_cast<std::size_t>(rows_.Count()) * 2 + 1), kFree) {
+        for (std::int64_t row = 0; row < rows_.Count(); ++row) Enter(row);
     }
 
     /// Whether the server may see this key as equal to one that is spelled otherwise.
@@ -53,7 +52,7 @@ public:
     std::optional<std::string_view> Find(std::string_view asked) const {
         const std::string_view key = Known(asked);
         for (std::size_t place = PlaceOf(key); places_[place] != kFree; place = Next(place)) {
-            if (KeyAt(places_[place]) == key) return result_.rows.At(places_[place], value_).value_or("");
+            if (KeyAt(places_[place]) == key) return rows_[places_[place]].Text(value_);
         }
         return std::nullopt;
     }
@@ -61,15 +60,14 @@ public:
 private:
     static constexpr std::uint32_t kFree = static_cast<std::uint32_t>(-1);
 
-    std::size_t ColumnNamed(std::string_view name) const {
-        for (std::size_t i = 0; i < result_.columns.size(); ++i) {
-            if (EqualNoCase(result_.columns[i], name)) return i;
-        }
-        throw DatabaseError("The column " + std::string(name) + " is missing");
+    ado::Column ColumnNamed(std::string_view name) const {
+        const ado::Column column = rows_.Find(name);
+        if (!column) throw DatabaseError("The column " + std::string(name) + " is missing");
+        return column;
     }
 
     void Enter(std::int64_t row) {
-        const ado::Value stored = result_.rows.At(row, key_);
+        const ado::Value stored = rows_[row].At(key_);
         if (!stored) return;
         NoteDoubts(*stored);
         const std::string_view key = Known(*stored);
@@ -81,7 +79,8 @@ private:
     }
 
     void NoteDoubts(std::string_view key) {
-        if (form_ == KeyForm::Bare && !IsWholeNumber(key)) throw ConversionError("A stored key is no number");
+        if (form_ == KeyForm::Bare && !IsWholeNumber(key))
+            throw ConversionError("A stored key is not a number");
         const std::string_view trimmed = key.substr(0, key.find_last_not_of(' ') + 1);
         if (trimmed.size() != key.size()) doubtful_.emplace(trimmed);
     }
@@ -95,18 +94,18 @@ private:
         return std::hash<std::string_view>{}(key) & (places_.size() - 1);
     }
     std::size_t Next(std::size_t place) const { return (place + 1) & (places_.size() - 1); }
-    std::string_view KeyAt(std::uint32_t row) const { return Known(*result_.rows.At(row, key_)); }
+    std::string_view KeyAt(std::uint32_t row) const { return Known(*rows_[row].At(key_)); }
 
-    ado::Result result_;
+    ado::Rows rows_;
     KeyForm form_;
-    std::size_t key_;
-    std::size_t value_;
+    ado::Column key_;
+    ado::Column value_;
     std::vector<std::uint32_t> places_;
     std::unordered_set<std::string, TextHash, std::equal_to<>> doubtful_;
 };
 
-KeyLookup::KeyLookup(Session& session, EventQueue& events, const KeyLookupNames& names)
-    : session_(session), events_(events), names_(names) {}
+KeyLookup::KeyLookup(const DatabaseScope& database, EventQueue& events, const KeyLookupNames& names)
+    : database_(database), events_(events), names_(names) {}
 
 KeyLookup::~KeyLookup() = default;
 
@@ -130,24 +129,23 @@ std::optional<std::string_view> KeyLookup::Ask(std::string_view key) {
 }
 
 std::string KeyLookup::Literal(std::string_view key) const {
-    if (names_.form == KeyForm::Quoted) return Quoted(session_, key);
-    if (!IsNumeric(key)) throw ConversionError("A bare key is no number");
+    if (names_.form == KeyForm::Quoted) return database_.Quoted(key);
+    if (!IsNumeric(key)) throw ConversionError("A bare key is not a number");
     return std::string(key);
 }
 
 std::optional<std::string> KeyLookup::FirstValue(std::string_view key) {
     std::optional<std::string> value;
     Attempt([&] {
-        ado::Recordset rows;
-        rows.Open(std::string(names_.statement) + Literal(key), OpenConnection(session_));
-        if (rows.RecordCount() > 0) value = rows.Text(names_.value);
+        const ado::Rows rows = database_.Query(std::string(names_.statement) + Literal(key));
+        if (!rows.IsEmpty()) value = rows.First().Text(names_.value);
     });
     return value;
 }
 
 void KeyLookup::ReadTable() {
     triedTable_ = true;
-    Attempt([&] { events_.ServeDuring([&] { table_ = std::make_unique<Table>(session_, names_); }); });
+    Attempt([&] { events_.ServeDuring([&] { table_ = std::make_unique<Table>(database_, names_); }); });
 }
 
 }  // namespace tallix

@@ -1,13 +1,13 @@
 // "SELECT * FROM table WHERE key = value", asked for the calls of a run again and
 // again: the names of extensions, the address book, stored costs. The answer is that
-// of the statement, first row of several included, without a statement a call.
+// of the statement, first row of several included, without one statement per call.
 //
-// The first questions are put to the server one by one. A run that keeps asking gets
-// the table read once and is answered from memory. Memory answers only for keys whose
-// equality means the same on every server (digits and the like, no blank behind); any
-// other key goes to the server each time it is new. Where keys are compared as numbers,
-// that takes digits in all rows of the table, since a server may refuse or read a number
-// into whatever else stands there.
+// The first questions go to the server one by one. A run that keeps asking gets the table
+// read once and is answered from memory. Memory answers only for keys whose equality means
+// the same on every server (digits and the like, no trailing blank); any other key goes to
+// the server each time it is new. Where keys are compared as numbers, memory also needs
+// digits in all rows of the table: a server may refuse another text or read a number into
+// it.
 #pragma once
 
 #include <cstdint>
@@ -19,16 +19,15 @@
 #include <unordered_set>
 #include <vector>
 
-#include "database/recordset.h"
+#include "database/database_scope.h"
 #include "host/event_queue.h"
-#include "session/session.h"
 
 namespace tallix {
 
-/// How a key stands in its statement.
+/// How a key is written in its statement.
 enum class KeyForm {
     Quoted,  ///< compared as text
-    Bare,    ///< compared as a number, "0201" with "201"; a key that is no number finds nothing
+    Bare,    ///< compared as a number, "0201" with "201"; a key that is not a number finds nothing
 };
 
 struct KeyLookupNames {
@@ -41,9 +40,8 @@ struct KeyLookupNames {
 
 class KeyLookup {
 public:
-    /// `session` must have its connection open for as long as the lookup is asked. `events`
-    /// are served while the table is read.
-    KeyLookup(Session& session, EventQueue& events, const KeyLookupNames& names);
+    /// `database` must outlive the lookup. `events` are served while the table is read.
+    KeyLookup(const DatabaseScope& database, EventQueue& events, const KeyLookupNames& names);
     ~KeyLookup();
 
     /// The value of the first row with the key: the empty text where it is NULL, nothing
@@ -66,7 +64,7 @@ private:
     std::optional<std::string> FirstValue(std::string_view key);
     void ReadTable();
 
-    Session& session_;
+    const DatabaseScope& database_;
     EventQueue& events_;
     KeyLookupNames names_;
     Memo answers_;

@@ -16,9 +16,7 @@ namespace tallix {
 
 namespace {
 
-// The chart's size in pixels.
-constexpr int kGraphHeight = 200;
-constexpr int kBarWidth = 6;
+constexpr GraphSize kGraphSize = {.height = 200, .barWidth = 6};
 
 constexpr KeyedRules kPresetRules = {
     .run = {.empty = EmptyResult::Stop, .writesCovers = true, .logsTheRun = true},
@@ -41,13 +39,11 @@ constexpr KeyedRules kUnattendedRules = {
 };
 
 struct KeyedRows {
-    Verdict Judge(const ado::Recordset& calls) {
-        if (!filters.Keeps(calls)) return Verdict::NoRow;
-        return resolver.IsDropped(calls) ? Verdict::NotCounted : Verdict::Row;
+    Verdict Judge(ado::Row call) {
+        if (!filters.Keeps(call)) return Verdict::NoRow;
+        return resolver.IsDropped(call) ? Verdict::NotCounted : Verdict::Row;
     }
-    const std::vector<std::string_view>& Cells(const ado::Recordset& calls) {
-        return resolver.Resolve(calls);
-    }
+    const std::vector<std::string_view>& Cells(ado::Row call) { return resolver.Resolve(call); }
 
     RecordFilters filters;
     RowResolver resolver;
@@ -81,31 +77,21 @@ std::vector<std::string_view> KeyedContent::Heads() const {
     return HeadsOf(flags_, settings_.numbers);
 }
 
-std::string KeyedContent::Statement(const Site& site) const {
-    return BuildQuery(application_.session, {.flags = flags_,
-                                             .options = options_,
-                                             .inputs = inputs_,
-                                             .rules = rules_.query,
-                                             .isMitel5000 = site.isMitel5000});
+std::string KeyedContent::Statement(const DatabaseScope& database, const Site& site) const {
+    return BuildQuery(database, {.flags = flags_,
+                                 .options = options_,
+                                 .inputs = inputs_,
+                                 .rules = rules_.query,
+                                 .isMitel5000 = site.isMitel5000});
 }
 
-PageTotals KeyedContent::WriteRows(const Site& site, ado::Recordset& calls, PageWriter& page) const {
+ReportContent::Written KeyedContent::WriteRows(const DatabaseScope& database, const Site& site,
+                                               const ado::Rows& calls, PageWriter& page) const {
     const std::string currency(rules_.fixedCurrency.empty() ? std::string_view(application_.session.Currency)
                                                             : rules_.fixedCurrency);
-    PageTotals totals = {.showsCost = flags_.Shows(kCostColumn)};
-    std::int32_t pence = 0;
-    if (calls.IsOpen()) pence = WriteCountedRows(site, currency, calls, page, totals.records);
-    totals.cost = currency + TotalText(pence);
-    return totals;
-}
-
-// Returns the sum of the costs in pence.
-std::int32_t KeyedContent::WriteCountedRows(const Site& site, std::string_view currency,
-                                            ado::Recordset& calls, PageWriter& page,
-                                            std::int32_t& written) const {
-    Tariff tariff(application_.session);
+    Tariff tariff(database);
     const bool dropsShort = CountsDialledNumbers(flags_, options_) && flags_.Shows(kDestNumColumn);
-    const RowContext context = {.session = application_.session,
+    const RowContext context = {.database = database,
                                 .events = application_.events,
                                 .flags = flags_,
                                 .settings = settings_,
@@ -117,8 +103,12 @@ std::int32_t KeyedContent::WriteCountedRows(const Site& site, std::string_view c
     if (flags_.Hours()) hours = {settings_.timeOpen, settings_.timeClosed};
     KeyedRows rows = {RecordFilters(calls, rules_.filters, inputs_, hours), RowResolver(context, calls)};
     const bool bounded = rules_.honoursTop && options_.top != 0;
-    written = WalkRecords(bounded ? options_.top : calls.RecordCount(), progress_, calls, rows, page);
-    return rows.resolver.TotalPence();
+    const auto [written, next] =
+        WalkRecords(bounded ? options_.top : calls.Count(), progress_, calls, rows, page);
+    return {.totals = {.records = written,
+                       .showsCost = flags_.Shows(kCostColumn),
+                       .cost = currency + TotalText(rows.resolver.TotalPence())},
+            .next = next};
 }
 
 PresetContent::PresetContent(Application& application, RunProgress& progress, const PresetRun& run)
@@ -133,10 +123,9 @@ std::optional<Message> PresetContent::Refusal() const {
     return RefusalOf(run_);
 }
 
-// The chart begins after the last record that the rows looked at.
-std::string PresetContent::Graph(ado::Recordset& calls) const {
+std::string PresetContent::Graph(const ado::Rows& calls, std::int64_t next) const {
     std::string graph;
-    if (run_.drawsGraph) Attempt([&] { graph = BuildBarGraph(calls, kGraphHeight, kBarWidth); });
+    if (run_.drawsGraph) Attempt([&] { graph = BuildBarGraph(calls, next, kGraphSize); });
     return graph;
 }
 

@@ -28,8 +28,9 @@ public:
     const ReportSettings& Settings() const override { return settings_; }
     std::string Title() const override;
     std::vector<std::string_view> Heads() const override;
-    std::string Statement(const Site& site) const override;
-    PageTotals WriteRows(const Site& site, ado::Recordset& calls, PageWriter& page) const override;
+    std::string Statement(const DatabaseScope& database, const Site& site) const override;
+    Written WriteRows(const DatabaseScope& database, const Site& site, const ado::Rows& calls,
+                      PageWriter& page) const override;
 
 protected:
     /// Where a run finds its report: the file of keys, the switches that take them, and the
@@ -44,9 +45,6 @@ protected:
                  const Source& source);
 
 private:
-    std::int32_t WriteCountedRows(const Site& site, std::string_view currency, ado::Recordset& calls,
-                                  PageWriter& page, std::int32_t& written) const;
-
     Application& application_;
     RunProgress& progress_;
     const KeyedRules& rules_;
@@ -62,7 +60,7 @@ public:
 
     PageShape Shape() const override;
     std::optional<Message> Refusal() const override;
-    std::string Graph(ado::Recordset& calls) const override;
+    std::string Graph(const ado::Rows& calls, std::int64_t next) const override;
 
 private:
     const PresetRun& run_;

@@ -5,10 +5,9 @@
 #include <string_view>
 
 #include "compat/ini_file.h"
-#include "database/recordset.h"
+#include "database/database_scope.h"
 #include "platform/paths.h"
 #include "reporting/catalogue.h"
-#include "session/database.h"
 #include "text/text_conversion.h"
 
 namespace tallix {
@@ -27,13 +26,12 @@ Message Exclamation(std::string_view text) {
     return {std::string(kMessageTitle), std::string(text), MessageIcon::Exclamation};
 }
 
-std::vector<std::string> ReadColumn(Session& session, std::string_view table, std::string_view column) {
-    ado::Recordset rows;
-    rows.Open(fmt::format("SELECT * FROM {}", table), OpenConnection(session));
+std::vector<std::string> ReadColumn(const DatabaseScope& database, std::string_view table,
+                                    std::string_view name) {
+    const ado::Rows rows = database.Query(fmt::format("SELECT * FROM {}", table));
+    const ado::Column column = rows.Find(name);
     std::vector<std::string> values;
-    for (std::int64_t row = 0; row < rows.RecordCount(); ++row, rows.MoveNext()) {
-        values.emplace_back(rows.Text(column));
-    }
+    for (const ado::Row row : rows) values.emplace_back(row.Text(column));
     return values;
 }
 
@@ -55,12 +53,11 @@ std::optional<Message> RefusalOf(std::string_view field, const std::string& valu
 PresetChoices ReadPresetChoices(Application& application) {
     PresetChoices choices;
     choices.reports = ListReports(PresetReportsFolder(application.folder));
-    OpenDatabase(application.session);
-    std::vector<std::string> sites = ReadColumn(application.session, "tblsite", "ID");
+    const DatabaseScope database(application.session.database);
+    std::vector<std::string> sites = ReadColumn(database, "tblsite", "ID");
     for (std::string& id : sites) id = fmt::format("{:0>3}", id);
     choices.sites = AfterAll(sites);
-    choices.groups = AfterAll(ReadColumn(application.session, "tblgroupnames", "Name"));
-    CloseDatabase(application.session);
+    choices.groups = AfterAll(ReadColumn(database, "tblgroupnames", "Name"));
     return choices;
 }
 

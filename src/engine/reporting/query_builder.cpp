@@ -1,12 +1,12 @@
 #include "reporting/query_builder.h"
 
-#include <algorithm>
-#include <cstdint>
-#include <iterator>
+#include <fmt/format.h>
 
-#include "database/recordset.h"
+#include <algorithm>
+#include <iterator>
+#include <vector>
+
 #include "failures/attempt.h"
-#include "session/database.h"
 #include "text/text_conversion.h"
 
 namespace tallix {
@@ -41,34 +41,31 @@ std::string_view RuleText(const QueryInputs& query) {
     return {};
 }
 
-std::string GroupId(Session& session, const std::string& group) {
-    ado::Recordset names;
-    names.Open("SELECT * FROM tblgroupnames WHERE Name = " + Quoted(session, group), OpenConnection(session));
-    return names.RecordCount() > 0 ? std::string(names.Text("ID")) : std::string();
+std::string GroupId(const DatabaseScope& database, const std::string& group) {
+    const ado::Rows names =
+        database.Query("SELECT * FROM tblgroupnames WHERE Name = " + database.Quoted(group));
+    return names.IsEmpty() ? std::string() : std::string(names.First().Text("ID"));
 }
 
-std::string MembersOf(Session& session, const std::string& groupId) {
-    ado::Recordset map;
-    map.Open("SELECT * FROM tblgroupmap WHERE GroupID = " + Quoted(session, groupId),
-             OpenConnection(session));
-    std::string members;
-    for (std::int64_t i = 1; i <= map.RecordCount(); ++i, map.MoveNext()) {
-        if (i > 1) members += " OR Extension=";
-        members += map.Text("Extension");
-    }
-    return members;
+std::string MembersOf(const DatabaseScope& database, const std::string& groupId) {
+    const ado::Rows map =
+        database.Query("SELECT * FROM tblgroupmap WHERE GroupID = " + database.Quoted(groupId));
+    const ado::Column extension = map.Find("Extension");
+    std::vector<std::string_view> members;
+    for (const ado::Row member : map) members.push_back(member.Text(extension));
+    return fmt::format("{}", fmt::join(members, " OR Extension="));
 }
 
 // The members go in without quotes: one that is not a number makes a statement that fails.
-std::string GroupMembers(Session& session, const std::string& group) {
+std::string GroupMembers(const DatabaseScope& database, const std::string& group) {
     std::string id;
     std::string members;
-    Attempt([&] { id = GroupId(session, group); });
-    Attempt([&] { members = MembersOf(session, id); });
+    Attempt([&] { id = GroupId(database, group); });
+    Attempt([&] { members = MembersOf(database, id); });
     return members;
 }
 
-using TextOfPlaceholder = std::string (*)(Session& session, const QueryInputs& query);
+using TextOfPlaceholder = std::string (*)(const DatabaseScope& database, const QueryInputs& query);
 
 struct Placeholder {
     std::string_view name;
@@ -77,58 +74,59 @@ struct Placeholder {
 
 constexpr Placeholder kPlaceholders[] = {
     {"extensionColumn",
-     [](Session&, const QueryInputs& query) {
+     [](const DatabaseScope&, const QueryInputs& query) {
          return std::string(query.isMitel5000 ? "OrigNum" : "Extension");
      }},
-    {"extension",
-     [](Session& session, const QueryInputs& query) { return Quoted(session, query.inputs.extension); }},
+    {"extension", [](const DatabaseScope& database,
+                     const QueryInputs& query) { return database.Quoted(query.inputs.extension); }},
     // Calls hold the extension with a blank after it as well.
     {"extensionAndBlank",
-     [](Session& session, const QueryInputs& query) {
-         return Quoted(session, query.inputs.extension + " ");
+     [](const DatabaseScope& database, const QueryInputs& query) {
+         return database.Quoted(query.inputs.extension + " ");
      }},
-    {"account",
-     [](Session& session, const QueryInputs& query) { return Quoted(session, query.inputs.account); }},
-    {"site", [](Session& session, const QueryInputs& query) { return Quoted(session, query.inputs.site); }},
-    {"groupMembers",
-     [](Session& session, const QueryInputs& query) { return GroupMembers(session, query.inputs.group); }},
-    {"where", [](Session&, const QueryInputs& query) { return query.options.where; }},
+    {"account", [](const DatabaseScope& database,
+                   const QueryInputs& query) { return database.Quoted(query.inputs.account); }},
+    {"site", [](const DatabaseScope& database,
+                const QueryInputs& query) { return database.Quoted(query.inputs.site); }},
+    {"groupMembers", [](const DatabaseScope& database,
+                        const QueryInputs& query) { return GroupMembers(database, query.inputs.group); }},
+    {"where", [](const DatabaseScope&, const QueryInputs& query) { return query.options.where; }},
     {"whereCondition",
-     [](Session&, const QueryInputs& query) {
+     [](const DatabaseScope&, const QueryInputs& query) {
          return std::string(Mid(query.options.where, kLengthOfWhere + 1, std::string::npos));
      }},
 };
 
 // The names in the rules are ours: each is in the table.
-std::string TextOf(std::string_view name, Session& session, const QueryInputs& query) {
+std::string TextOf(std::string_view name, const DatabaseScope& database, const QueryInputs& query) {
     const auto* placeholder = std::find_if(std::begin(kPlaceholders), std::end(kPlaceholders),
                                            [&](const Placeholder& each) { return each.name == name; });
-    return placeholder->text(session, query);
+    return placeholder->text(database, query);
 }
 
-std::string Expand(std::string_view text, Session& session, const QueryInputs& query) {
+std::string Expand(std::string_view text, const DatabaseScope& database, const QueryInputs& query) {
     std::string expanded;
     while (true) {
         const std::size_t open = text.find('{');
         expanded += text.substr(0, open);
         if (open == std::string_view::npos) return expanded;
         const std::size_t close = text.find('}', open);
-        expanded += TextOf(text.substr(open + 1, close - open - 1), session, query);
+        expanded += TextOf(text.substr(open + 1, close - open - 1), database, query);
         text.remove_prefix(close + 1);
     }
 }
 
 }  // namespace
 
-std::string BuildQuery(Session& session, const QueryInputs& query) {
+std::string BuildQuery(const DatabaseScope& database, const QueryInputs& query) {
     std::string statement(CountsDialledNumbers(query.flags, query.options) ? kCountOfNumbers : kAllCalls);
-    statement += Expand(RuleText(query), session, query);
-    return session.database.kind == DatabaseKind::SqlServer ? Replace(statement, "\"", "'") : statement;
+    statement += Expand(RuleText(query), database, query);
+    return database.Kind() == DatabaseKind::SqlServer ? Replace(statement, "\"", "'") : statement;
 }
 
-std::string BuildCustomQuery(const Session& session, std::string_view extension) {
+std::string BuildCustomQuery(const DatabaseScope& database, std::string_view extension) {
     std::string statement(kAllCalls);
-    if (!extension.empty()) statement += " WHERE Extension = " + Quoted(session, extension);
+    if (!extension.empty()) statement += " WHERE Extension = " + database.Quoted(extension);
     return statement;
 }
 

@@ -6,10 +6,10 @@
 #include <string>
 #include <string_view>
 
+#include "database/database_scope.h"
 #include "reporting/catalogue.h"
 #include "reporting/query_rules.h"
 #include "reporting/run_description.h"
-#include "session/session.h"
 
 namespace tallix {
 
@@ -22,13 +22,13 @@ struct QueryInputs {
 };
 
 /// Builds the statement of a report that is a file of keys. Values go in as they are,
-/// between the session's quotes: one that holds a quote gives a statement that the server
-/// refuses. A group is looked up over the session's open connection; without one its
-/// clause has no members.
-std::string BuildQuery(Session& session, const QueryInputs& query);
+/// between the quotes of `database`: one that holds a quote gives a statement that the
+/// server refuses. The members of a group are looked up; where that fails its clause has
+/// none.
+std::string BuildQuery(const DatabaseScope& database, const QueryInputs& query);
 
 /// Builds the statement of a custom report: the calls of an extension, or all for an empty
 /// one.
-std::string BuildCustomQuery(const Session& session, std::string_view extension);
+std::string BuildCustomQuery(const DatabaseScope& database, std::string_view extension);
 
 }  // namespace tallix

@@ -47,7 +47,7 @@ std::strong_ordering CompareDigits(std::string_view left, std::string_view right
 
 }  // namespace
 
-RecordFilters::RecordFilters(const ado::Recordset& calls, const FilterRules& rules, const RunInputs& inputs,
+RecordFilters::RecordFilters(const ado::Rows& calls, const FilterRules& rules, const RunInputs& inputs,
                              const std::optional<OfficeHours>& hours)
     : rules_(rules),
       date_(calls.Find("Date")),
@@ -63,23 +63,22 @@ RecordFilters::RecordFilters(const ado::Recordset& calls, const FilterRules& rul
       opens_(hours ? Replace(hours->opens, ":", "") : ""),
       closes_(hours ? Replace(hours->closes, ":", "") : "") {}
 
-bool RecordFilters::Keeps(const ado::Recordset& calls) {
-    if (!KeepsDate(calls) || !KeepsTime(calls) || !KeepsHours(calls)) return false;
-    return rules_.blankNumbers == BlankNumbers::Kept || !destNum_ ||
-           !Trim(FieldText(calls, destNum_)).empty();
+bool RecordFilters::Keeps(ado::Row call) {
+    if (!KeepsDate(call) || !KeepsTime(call) || !KeepsHours(call)) return false;
+    return rules_.blankNumbers == BlankNumbers::Kept || !destNum_ || !Trim(FieldText(call, destNum_)).empty();
 }
 
-bool RecordFilters::KeepsDate(const ado::Recordset& calls) {
+bool RecordFilters::KeepsDate(ado::Row call) {
     if (firstDay_ == 0 && lastDay_ == 0) return true;
-    Attempt([&] { day_ = DayNumber(FieldText(calls, date_)); });
+    Attempt([&] { day_ = DayNumber(FieldText(call, date_)); });
     return (firstDay_ == 0 || day_ >= firstDay_) && (lastDay_ == 0 || day_ <= lastDay_);
 }
 
 // A column that the statement did not return fails the test as well.
-bool RecordFilters::KeepsTime(const ado::Recordset& calls) const {
+bool RecordFilters::KeepsTime(ado::Row call) const {
     if (!byTime_) return true;
     return TestOrEnter([&] {
-        const std::int32_t time = NumberOf(calls.Text(time_));
+        const std::int32_t time = NumberOf(call.Text(time_));
         return rules_.time == TimeRule::Schedule ? WithinSchedule(time) : PastStart(time) && BeforeEnd(time);
     });
 }
@@ -92,9 +91,9 @@ bool RecordFilters::WithinSchedule(std::int32_t time) const {
 
 // Only calls before the opening time stay. The second test, on closing, adds nothing to
 // the first and is part of the rule all the same.
-bool RecordFilters::KeepsHours(const ado::Recordset& calls) const {
+bool RecordFilters::KeepsHours(ado::Row call) const {
     if (!byHours_ || !time_) return true;
-    const std::string_view time = FieldText(calls, time_);
+    const std::string_view time = FieldText(call, time_);
     const bool beforeOpening = std::is_lt(CompareDigits(time, opens_));
     return beforeOpening && (std::is_gt(CompareDigits(time, closes_)) || beforeOpening);
 }

@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "database/recordset.h"
+#include "database/rows.h"
 #include "reporting/run_description.h"
 
 namespace tallix {
@@ -34,18 +34,18 @@ struct OfficeHours {
 class RecordFilters {
 public:
     /// The columns are those of `calls`. Without `hours` calls of the whole day pass.
-    RecordFilters(const ado::Recordset& calls, const FilterRules& rules, const RunInputs& inputs,
+    RecordFilters(const ado::Rows& calls, const FilterRules& rules, const RunInputs& inputs,
                   const std::optional<OfficeHours>& hours);
 
-    /// Whether the current call goes on. A test of the time that cannot be made passes: the
+    /// Whether a call of `calls` goes on. A test of the time that cannot be made passes: the
     /// time of the call is not a time. A call whose date is not a date takes the day of the
     /// call before.
-    bool Keeps(const ado::Recordset& calls);
+    bool Keeps(ado::Row call);
 
 private:
-    bool KeepsDate(const ado::Recordset& calls);
-    bool KeepsTime(const ado::Recordset& calls) const;
-    bool KeepsHours(const ado::Recordset& calls) const;
+    bool KeepsDate(ado::Row call);
+    bool KeepsTime(ado::Row call) const;
+    bool KeepsHours(ado::Row call) const;
     bool WithinSchedule(std::int32_t time) const;
     bool PastStart(std::int32_t time) const { return !from_ || time > *from_; }
     bool BeforeEnd(std::int32_t time) const { return !to_ || time < *to_; }

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "database/recordset.h"
+#include "database/database_scope.h"
 #include "host/run_progress.h"
 #include "reporting/page_writer.h"
 #include "reporting/report_settings.h"
@@ -44,14 +44,19 @@ public:
     virtual std::string Title() const { return {}; }
     virtual std::vector<std::string_view> Heads() const = 0;
 
-    virtual std::string Statement(const Site& site) const = 0;
+    virtual std::string Statement(const DatabaseScope& database, const Site& site) const = 0;
 
-    /// Writes the rows of the calls, and reports each to the progress. A set that the
-    /// server refused is closed and has none.
-    virtual PageTotals WriteRows(const Site& site, ado::Recordset& calls, PageWriter& page) const = 0;
+    struct Written {
+        PageTotals totals{};
+        std::int64_t next = 0;  ///< the first call not looked at, counted from 0
+    };
 
-    /// What ends the page. `calls` are where WriteRows left them.
-    virtual std::string Graph(ado::Recordset&) const { return {}; }
+    /// Writes the rows of the calls, and reports each call to the progress.
+    virtual Written WriteRows(const DatabaseScope& database, const Site& site, const ado::Rows& calls,
+                              PageWriter& page) const = 0;
+
+    /// What ends the page. `next` is the first call that WriteRows did not look at.
+    virtual std::string Graph(const ado::Rows& /*calls*/, std::int64_t /*next*/) const { return {}; }
 };
 
 /// The content of a run. Takes the settings and the keys that it needs. All arguments must

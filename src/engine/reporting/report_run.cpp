@@ -3,11 +3,10 @@
 #include <memory>
 #include <system_error>
 
-#include "database/recordset.h"
+#include "database/database_scope.h"
 #include "failures/attempt.h"
 #include "reporting/cover_pages.h"
 #include "session/access_log.h"
-#include "session/database.h"
 
 namespace tallix {
 
@@ -32,10 +31,7 @@ RunOutcome ReportRun::Make(const RunDescription& description) {
     const std::unique_ptr<ReportContent> content = MakeContent(description, application_, progress_);
     DeleteWorkingFiles(kPageFiles);
     if (content->Rules().writesCovers) DeleteWorkingFiles(kCoverFiles);
-    Attempt([&] { OpenDatabase(application_.session); });
-    refusal_ = content->Refusal();
-    const RunOutcome outcome = refusal_ ? RunOutcome::Refused : MakePage(description, *content);
-    CloseDatabase(application_.session);
+    const RunOutcome outcome = MakePage(description, *content);
     if (outcome == RunOutcome::Complete && content->Rules().logsTheRun) {
         LogOnItsOwn(application_.session, application_.clock, "Report Run - " + description.reportName);
     }
@@ -50,11 +46,15 @@ void ReportRun::DeleteWorkingFiles(std::span<const std::string_view> names) cons
 }
 
 RunOutcome ReportRun::MakePage(const RunDescription& description, const ReportContent& content) {
-    site_ = ReadFirstSite(application_.session, content.Settings().numbers);
-    return WritePage(DescribePage(description, content), content);
+    const DatabaseScope database = DatabaseScope::TryOpen(application_.session.database);
+    refusal_ = content.Refusal();
+    if (refusal_) return RunOutcome::Refused;
+    site_ = ReadFirstSite(database, content.Settings().numbers);
+    return WritePage(database, DescribePage(description, content), content);
 }
 
-RunOutcome ReportRun::WritePage(const PageDescription& description, const ReportContent& content) const {
+RunOutcome ReportRun::WritePage(const DatabaseScope& database, const PageDescription& description,
+                                const ReportContent& content) const {
     const std::unique_ptr<PageWriter> page =
         MakePageWriter(content.Shape(), PageFile(application_), description);
     page->WriteHead();
@@ -62,12 +62,11 @@ RunOutcome ReportRun::WritePage(const PageDescription& description, const Report
     if (const std::string title = content.Title(); !title.empty()) page->WriteTitle(title);
     page->WriteColumnHeads(content.Heads());
 
-    ado::Recordset calls;
-    Attempt([&] { application_.events.ServeDuring([&] { OpenCalls(content, calls); }); });
-    const bool isEmpty = TestOrEnter([&] { return calls.RecordCount() == 0; });
-    if (isEmpty && content.Rules().empty == EmptyResult::Stop) return RunOutcome::NoData;
-    page->WriteTotals(content.WriteRows(site_, calls, *page));
-    page->WriteEnd(content.Graph(calls));
+    const ado::Rows calls = FetchCalls(database, content);
+    if (calls.IsEmpty() && content.Rules().empty == EmptyResult::Stop) return RunOutcome::NoData;
+    const auto [totals, next] = content.WriteRows(database, site_, calls, *page);
+    page->WriteTotals(totals);
+    page->WriteEnd(content.Graph(calls, next));
     page->Close();
     return RunOutcome::Complete;
 }
@@ -97,9 +96,13 @@ void ReportRun::WriteCovers(const PageDescription& page) const {
     if (covers.backing) WriteBackPage(application_.tempFolder / kBackPageName, cover);
 }
 
-void ReportRun::OpenCalls(const ReportContent& content, ado::Recordset& calls) const {
-    const std::string statement = content.Statement(site_);
-    calls.Open(statement, OpenConnection(application_.session));
+// A statement that the server refuses has no rows.
+ado::Rows ReportRun::FetchCalls(const DatabaseScope& database, const ReportContent& content) const {
+    ado::Rows calls;
+    Attempt([&] {
+        application_.events.ServeDuring([&] { calls = database.Query(content.Statement(database, site_)); });
+    });
+    return calls;
 }
 
 }  // namespace tallix

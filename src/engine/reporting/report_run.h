@@ -37,8 +37,8 @@ public:
     ReportRun(Application& application, RunProgress& progress)
         : application_(application), progress_(progress) {}
 
-    /// Makes the page. Opens the session's database and closes it again; `progress` hears
-    /// of each record before any filter sees it.
+    /// Makes the page. Opens the session's database and closes it again. `progress` gets
+    /// each record before any filter sees it.
     RunOutcome Make(const RunDescription& description);
 
     /// Why the latest run was refused.
@@ -50,10 +50,11 @@ public:
 private:
     void DeleteWorkingFiles(std::span<const std::string_view> names) const;
     RunOutcome MakePage(const RunDescription& description, const ReportContent& content);
-    RunOutcome WritePage(const PageDescription& description, const ReportContent& content) const;
+    RunOutcome WritePage(const DatabaseScope& database, const PageDescription& description,
+                         const ReportContent& content) const;
     PageDescription DescribePage(const RunDescription& description, const ReportContent& content) const;
     void WriteCovers(const PageDescription& page) const;
-    void OpenCalls(const ReportContent& content, ado::Recordset& calls) const;
+    ado::Rows FetchCalls(const DatabaseScope& database, const ReportContent& content) const;
 
     Application& application_;
     RunProgress& progress_;

@@ -40,21 +40,21 @@ std::int32_t PenceOf(std::string_view cost) {
 
 }  // namespace
 
-RowResolver::RowResolver(const RowContext& context, const ado::Recordset& calls)
+RowResolver::RowResolver(const RowContext& context, const ado::Rows& calls)
     : context_(context),
       steps_(StepsOf(context, calls)),
       destNum_(calls.Find("DestNum")),
       origNum_(calls.Find("OrigNum")),
       internal_(calls.Find("Internal")),
       duration_(calls.Find("Duration")),
-      names_(context.session, context.events, kNames),
-      addressBook_(context.session, context.events, kAddressBook),
-      storedCosts_(context.session, context.events, kStoredCosts),
-      areas_(context.session, std::string(NumberTableName(context.settings.numbers)), "Code", "Provider"),
-      countries_(context.session, "tblintcodes", "Code", "Country"),
+      names_(context.database, context.events, kNames),
+      addressBook_(context.database, context.events, kAddressBook),
+      storedCosts_(context.database, context.events, kStoredCosts),
+      areas_(context.database, std::string(NumberTableName(context.settings.numbers)), "Code", "Provider"),
+      countries_(context.database, "tblintcodes", "Code", "Country"),
       pricing_(context.tariff, PricingUnit(context.settings.billing)) {}
 
-std::vector<RowResolver::Step> RowResolver::StepsOf(const RowContext& context, const ado::Recordset& calls) {
+std::vector<RowResolver::Step> RowResolver::StepsOf(const RowContext& context, const ado::Rows& calls) {
     std::vector<Step> steps;
     for (const ReportColumn* column : ColumnsOf(context.flags, context.settings.numbers)) {
         const bool summed = context.flags.Sum() && !column->preset.summed.empty();
@@ -63,20 +63,20 @@ std::vector<RowResolver::Step> RowResolver::StepsOf(const RowContext& context, c
     return steps;
 }
 
-bool RowResolver::IsDropped(const ado::Recordset& calls) const {
-    return context_.dropsShortNumbers && Len(FieldText(calls, destNum_)) == kInternalNumber;
+bool RowResolver::IsDropped(ado::Row call) const {
+    return context_.dropsShortNumbers && Len(FieldText(call, destNum_)) == kInternalNumber;
 }
 
-const std::vector<std::string_view>& RowResolver::Resolve(const ado::Recordset& calls) {
+const std::vector<std::string_view>& RowResolver::Resolve(ado::Row call) {
     cells_.clear();
     for (const Step& step : steps_) {
-        if (Add(step, calls) == Next::EndOfRow) break;
+        if (Add(step, call) == Next::EndOfRow) break;
     }
     return cells_;
 }
 
-RowResolver::Next RowResolver::Add(const Step& step, const ado::Recordset& calls) {
-    const std::string_view text = FieldText(calls, step.source);
+RowResolver::Next RowResolver::Add(const Step& step, ado::Row call) {
+    const std::string_view text = FieldText(call, step.source);
     switch (step.cell) {
         case PresetCell::Field:
             AddField(text);
@@ -88,15 +88,15 @@ RowResolver::Next RowResolver::Add(const Step& step, const ado::Recordset& calls
             AddForward(text);
             break;
         case PresetCell::Number:
-            AddNumber(text, calls);
+            AddNumber(text, call);
             break;
         case PresetCell::Area:
-            return AddArea(calls);
+            return AddArea(call);
         case PresetCell::Country:
             AddCountry(text);
             break;
         case PresetCell::Cost:
-            AddCost(text, calls);
+            AddCost(text, call);
             break;
     }
     return Next::Cell;
@@ -113,25 +113,25 @@ void RowResolver::AddForward(std::string_view flag) {
 }
 
 // A call whose `Internal` the statement did not return counts as one over a trunk.
-bool RowResolver::IsOutside(const ado::Recordset& calls) const {
-    return !internal_ || calls.Text(internal_) == kOutside;
+bool RowResolver::IsOutside(ado::Row call) const {
+    return !internal_ || call.Text(internal_) == kOutside;
 }
 
 // A local number is shown with the site's dialling code, as it would be dialled from
 // anywhere else. The length is tested first: a count of numbers, which has no `Internal`,
 // shows long numbers as they are.
-void RowResolver::AddNumber(std::string_view number, const ado::Recordset& calls) {
-    const bool isLocal = !number.empty() && Len(number) <= kShortNumber && IsOutside(calls);
+void RowResolver::AddNumber(std::string_view number, ado::Row call) {
+    const bool isLocal = !number.empty() && Len(number) <= kShortNumber && IsOutside(call);
     if (!isLocal || !context_.settings.areaCode) return AddField(number);
     number_.assign(context_.site.areaCode);
     number_ += number;
     cells_.push_back(number_);
 }
 
-RowResolver::Next RowResolver::AddArea(const ado::Recordset& calls) {
-    const std::string_view destNum = FieldText(calls, destNum_);
+RowResolver::Next RowResolver::AddArea(ado::Row call) {
+    const std::string_view destNum = FieldText(call, destNum_);
     const bool ofDestNum = context_.flags.Shows(kDestNumColumn);
-    const std::string_view number = ofDestNum ? destNum : FieldText(calls, origNum_);
+    const std::string_view number = ofDestNum ? destNum : FieldText(call, origNum_);
     const std::size_t length = Len(Trim(number));
     if (length <= kInternalNumber) {
         cells_.push_back(kBlankCell);
@@ -162,12 +162,12 @@ void RowResolver::AddCountry(std::string_view number) {
 }
 
 // An internal call's row is one cell short.
-void RowResolver::AddCost(std::string_view id, const ado::Recordset& calls) {
-    if (!IsOutside(calls)) return;
+void RowResolver::AddCost(std::string_view id, ado::Row call) {
+    if (!IsOutside(call)) return;
     if (context_.settings.storedCosts) {
         AddStoredCost(id);
     } else {
-        AddPricedCost(calls);
+        AddPricedCost(call);
     }
 }
 
@@ -180,10 +180,10 @@ void RowResolver::AddStoredCost(std::string_view id) {
 }
 
 // A call whose duration the statement did not return costs nothing.
-void RowResolver::AddPricedCost(const ado::Recordset& calls) {
-    const std::string_view duration = FieldText(calls, duration_);
+void RowResolver::AddPricedCost(ado::Row call) {
+    const std::string_view duration = FieldText(call, duration_);
     if (!duration_ || duration == kNoDuration) return AddAmount(kNoCost, 0);
-    const CallPricing::Price price = pricing_.Of(duration, FieldText(calls, destNum_));
+    const CallPricing::Price price = pricing_.Of(duration, FieldText(call, destNum_));
     AddAmount(price.text, price.pence);
 }
 

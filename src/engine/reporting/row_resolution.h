@@ -3,7 +3,7 @@
 // provider, country and cost tables.
 //
 //     RowResolver resolver(context, calls);
-//     const std::vector<std::string_view>& cells = resolver.Resolve(calls);
+//     const std::vector<std::string_view>& cells = resolver.Resolve(call);
 //
 // This is the inside of the record loop: no cell allocates, none throws in the ordinary
 // case.
@@ -16,6 +16,7 @@
 
 #include "costing/call_pricing.h"
 #include "costing/tariff.h"
+#include "database/database_scope.h"
 #include "host/event_queue.h"
 #include "reporting/catalogue.h"
 #include "reporting/key_lookup.h"
@@ -23,13 +24,12 @@
 #include "reporting/report_settings.h"
 #include "reporting/site.h"
 #include "session/prefix_table.h"
-#include "session/session.h"
 
 namespace tallix {
 
 /// What the rows of one run have in common. All of it must outlive the resolver.
 struct RowContext {
-    Session& session;
+    const DatabaseScope& database;
     EventQueue& events;  ///< served while the longer tables are read
     const ReportFlags& flags;
     const ReportSettings& settings;
@@ -42,15 +42,15 @@ struct RowContext {
 class RowResolver {
 public:
     /// The columns are those of `calls`.
-    RowResolver(const RowContext& context, const ado::Recordset& calls);
+    RowResolver(const RowContext& context, const ado::Rows& calls);
 
-    /// Whether the current call is left out of a count of dialled numbers.
-    bool IsDropped(const ado::Recordset& calls) const;
+    /// Whether a call is left out of a count of dialled numbers.
+    bool IsDropped(ado::Row call) const;
 
-    /// The texts of the current call's cells. Fewer than the report has columns when the
+    /// The texts of a call's cells. Fewer than the report has columns when the
     /// address book ends the row early, and for the cost of an internal call. They live
     /// until the next call is resolved.
-    const std::vector<std::string_view>& Resolve(const ado::Recordset& calls);
+    const std::vector<std::string_view>& Resolve(ado::Row call);
 
     /// The sum of the costs shown so far, in pence.
     std::int32_t TotalPence() const { return totalPence_; }
@@ -63,22 +63,22 @@ private:
         ado::Column source;
     };
 
-    static std::vector<Step> StepsOf(const RowContext& context, const ado::Recordset& calls);
+    static std::vector<Step> StepsOf(const RowContext& context, const ado::Rows& calls);
 
-    Next Add(const Step& step, const ado::Recordset& calls);
+    Next Add(const Step& step, ado::Row call);
     void AddField(std::string_view text) { cells_.push_back(text.empty() ? kBlankCell : text); }
     void AddName(std::string_view extension);
     void AddForward(std::string_view flag);
-    void AddNumber(std::string_view number, const ado::Recordset& calls);
-    Next AddArea(const ado::Recordset& calls);
+    void AddNumber(std::string_view number, ado::Row call);
+    Next AddArea(ado::Row call);
     void AddCountry(std::string_view number);
-    void AddCost(std::string_view id, const ado::Recordset& calls);
+    void AddCost(std::string_view id, ado::Row call);
     void AddStoredCost(std::string_view id);
-    void AddPricedCost(const ado::Recordset& calls);
+    void AddPricedCost(ado::Row call);
     void AddAmount(std::string_view text, std::int32_t pence);
     void AddToTotal(std::int32_t pence);
     std::string_view AreaName(std::string_view number, std::string_view destNum);
-    bool IsOutside(const ado::Recordset& calls) const;
+    bool IsOutside(ado::Row call) const;
 
     const RowContext context_;
     const std::vector<Step> steps_;

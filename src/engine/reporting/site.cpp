@@ -1,10 +1,10 @@
 #include "reporting/site.h"
 
+#include <fmt/format.h>
+
 #include <array>
 
-#include "database/recordset.h"
 #include "failures/attempt.h"
-#include "session/database.h"
 #include "text/text_conversion.h"
 
 namespace tallix {
@@ -15,23 +15,21 @@ constexpr std::string_view kMitel5000 = "Mitel 5000";
 
 constexpr std::array<std::string_view, 5> kAddressColumns = {"Addy1", "Addy2", "Addy3", "Addy4", "Postcode"};
 
-void ReadColumns(const ado::Recordset& sites, Site& site) {
-    Attempt([&] { site.name = sites.Text("Name"); });
+void ReadColumns(ado::Row row, Site& site) {
+    Attempt([&] { site.name = row.Text("Name"); });
     for (const std::string_view column : kAddressColumns) {
-        Attempt([&] { site.addressLines.emplace_back(sites.Text(column)); });
+        Attempt([&] { site.addressLines.emplace_back(row.Text(column)); });
     }
-    Attempt([&] { site.email = sites.Text("Email"); });
-    Attempt([&] { site.voicemail = sites.Text("VM"); });
-    Attempt([&] { site.areaCode = sites.Text("Area"); });
-    Attempt([&] { site.isMitel5000 = EqualNoCase(sites.Text("SwitchMapping"), kMitel5000); });
+    Attempt([&] { site.email = row.Text("Email"); });
+    Attempt([&] { site.voicemail = row.Text("VM"); });
+    Attempt([&] { site.areaCode = row.Text("Area"); });
+    Attempt([&] { site.isMitel5000 = EqualNoCase(row.Text("SwitchMapping"), kMitel5000); });
 }
 
-void ReadAreaName(Session& session, NumberTable numbers, Site& site) {
-    ado::Recordset areas;
-    const std::string statement = "SELECT * FROM " + std::string(NumberTableName(numbers)) +
-                                  " WHERE Code = " + Quoted(session, site.areaCode);
-    areas.Open(statement, OpenConnection(session));
-    if (areas.RecordCount() > 0) site.areaName = areas.Text("Provider");
+void ReadAreaName(const DatabaseScope& database, NumberTable numbers, Site& site) {
+    const ado::Rows areas = database.Query(fmt::format(
+        "SELECT * FROM {} WHERE Code = {}", NumberTableName(numbers), database.Quoted(site.areaCode)));
+    if (!areas.IsEmpty()) site.areaName = areas.First().Text("Provider");
 }
 
 }  // namespace
@@ -40,14 +38,13 @@ std::string_view NumberTableName(NumberTable numbers) {
     return numbers == NumberTable::Areas ? "tblareaproviders" : "tblcommproviders";
 }
 
-Site ReadFirstSite(Session& session, NumberTable numbers) {
+Site ReadFirstSite(const DatabaseScope& database, NumberTable numbers) {
     Site site;
     Attempt([&] {
-        ado::Recordset sites;
-        sites.Open("SELECT * FROM tblsite", OpenConnection(session));
-        if (sites.RecordCount() > 0) ReadColumns(sites, site);
+        const ado::Rows sites = database.Query("SELECT * FROM tblsite");
+        if (!sites.IsEmpty()) ReadColumns(sites.First(), site);
     });
-    Attempt([&] { ReadAreaName(session, numbers, site); });
+    Attempt([&] { ReadAreaName(database, numbers, site); });
     return site;
 }
 

@@ -1,17 +1,17 @@
-// The first site of the table: whose address heads the page, whose dialling code and
-// voicemail number the rows use.
+// The first site of the table. Its address heads the page; the rows use its dialling code
+// and voicemail number.
 #pragma once
 
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "database/database_scope.h"
 #include "reporting/report_settings.h"
-#include "session/session.h"
 
 namespace tallix {
 
-/// The cell of what has no text of its own, so that table borders are drawn round it.
+/// The cell of what has no text of its own, so that its borders are drawn.
 inline constexpr std::string_view kBlankCell = "&nbsp;";
 
 struct Site {
@@ -24,8 +24,8 @@ struct Site {
     bool isMitel5000 = false;
 };
 
-/// Reads the site over the session's open connection. What cannot be read stays empty.
-Site ReadFirstSite(Session& session, NumberTable numbers);
+/// Reads the site. What cannot be read stays empty.
+Site ReadFirstSite(const DatabaseScope& database, NumberTable numbers);
 
 /// The table that names numbers.
 std::string_view NumberTableName(NumberTable numbers);

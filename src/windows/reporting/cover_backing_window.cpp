@@ -6,8 +6,6 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "session/access_log.h"
-#include "session/database.h"
 #include "toolkit/dialog_keys.h"
 #include "toolkit/form_names.h"
 #include "toolkit/forms.h"
@@ -114,14 +112,11 @@ void CoverBackingWindow::SaveAndExit() {
     for (const auto& [box, value] : boxes_) covers.*value = box->isChecked();
     covers.customTitle = customTitle_->isChecked();
     covers.titleText = titleText_->text().toStdString();
-    SaveCoverSettings(application_.settings, covers);
-    OpenDatabase(application_.session);
-    WriteLog(application_.session, application_.clock, "Saved Report Covers");
-    CloseDatabase(application_.session);
+    SaveCoverSettings(application_, covers);
     Unload();
 }
 
-// The Options window waits hidden when it was the one that opened this window.
+// The Options window is loaded and hidden where it opened this window.
 void CoverBackingWindow::OnUnload() {
     const bool fromOptions = OtherForms().Find(kOptionsForm) != nullptr;
     OtherForms().Show(fromOptions ? kOptionsForm : toolkit::MainMenuForm(application_.session));

@@ -1,5 +1,5 @@
 // The Report Cover/Backing window ("Form3"): edits the settings of the pages before and
-// behind a report. Closing it shows the window that opened it again.
+// after a report. Closing it shows the window that opened it.
 #pragma once
 
 #include <QCheckBox>

@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include "failures/errors.h"
-#include "session/database.h"
 #include "support/test_application.h"
 
 namespace tallix {
@@ -26,22 +25,15 @@ constexpr std::string_view kGap =
 
 class BarGraphTest : public ::testing::Test {
 protected:
-    BarGraphTest() { OpenDatabase(test.application.session); }
-
-    ado::Recordset Open(const std::string& statement) {
-        ado::Recordset rows;
-        rows.Open(statement, OpenConnection(test.application.session));
-        return rows;
-    }
-
     TestApplication test;
+    DatabaseScope database{test.application.session.database};
 };
 
 TEST_F(BarGraphTest, DrawsABarForEachValueAndAGapForEachMissingOne) {
-    ado::Recordset rows = Open(
+    const ado::Rows rows = database.Query(
         "SELECT 'Mon' AS Day, 40 AS a, '12.5' AS b, NULL AS c, 'x' AS d, 0 AS e, 100 AS f, "
         "1 AS g, 2 AS h, 3 AS i, 99 AS more");
-    const std::string graph = BuildBarGraph(rows, 200, 6);
+    const std::string graph = BuildBarGraph(rows, 0, {200, 6});
     EXPECT_THAT(graph,
                 StartsWith("<Table border=1 bordercolor=black CellPadding=0 CellSpacing=0 height=200>"
                            "<tr><td vAlign=Center><Table width=100% border=0 CellPadding=0 CellSpacing=0 "
@@ -56,17 +48,15 @@ TEST_F(BarGraphTest, DrawsABarForEachValueAndAGapForEachMissingOne) {
     EXPECT_EQ(Count(graph, "bgColor=Navy"), 2U) << "legend and bar";
 }
 
-TEST_F(BarGraphTest, BehindTheLastRecordTheGroupsAreEmpty) {
+TEST_F(BarGraphTest, GroupsAfterTheLastRecordAreEmpty) {
     test.InsertCall();
-    ado::Recordset calls = Open("SELECT * FROM tblphonedata");
-    calls.MoveNext();
-    const std::string graph = BuildBarGraph(calls, 200, 6);
+    const std::string graph = BuildBarGraph(database.Query("SELECT * FROM tblphonedata"), 1, {200, 6});
     EXPECT_EQ(Count(graph, "font-size:8pt"), 9U);
     EXPECT_EQ(Count(graph, kGap), 90U);
     EXPECT_EQ(Count(graph, "<DIV"), 10U);
 
-    ado::Recordset narrow = Open("SELECT Date, Time FROM tblphonedata");
-    EXPECT_THROW(BuildBarGraph(narrow, 200, 6), DatabaseError);
+    EXPECT_THROW(BuildBarGraph(database.Query("SELECT Date, Time FROM tblphonedata"), 0, {200, 6}),
+                 DatabaseError);
 }
 
 }  // namespace

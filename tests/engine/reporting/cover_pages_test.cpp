@@ -16,7 +16,7 @@ using Lines = std::vector<std::string>;
 
 class CoverPagesTest : public ::testing::Test {
 protected:
-    // The lines behind the head that every page begins with.
+    // The lines after the head that every page begins with.
     Lines Written(void (*write)(const std::filesystem::path&, const CoverDescription&),
                   const CoverSettings& settings) {
         constexpr std::ptrdiff_t kHeadLines = 9;
@@ -67,7 +67,7 @@ TEST_F(CoverPagesTest, TheCoverShowsWhatIsSwitchedOn) {
     EXPECT_EQ(bare[15], "<b>All Calls</b></font>");
 }
 
-TEST_F(CoverPagesTest, TheBackPageAlwaysTellsItsMaker) {
+TEST_F(CoverPagesTest, TheBackPageAlwaysNamesItsMaker) {
     for (const bool notes : {true, false}) {
         const Lines page = Written(WriteBackPage, {.generatedBy = false, .notes = notes});
         EXPECT_EQ(page.size(), 32U);
@@ -79,7 +79,7 @@ TEST_F(CoverPagesTest, TheBackPageAlwaysTellsItsMaker) {
 TEST(CoverSettingsTest, ComeBackAsTheyWereSaved) {
     test::TestApplication test;
     CoverSettings saved = {.cover = true, .customTitle = true, .titleText = "T", .date = true, .notes = true};
-    SaveCoverSettings(test.settings, saved);
+    SaveCoverSettings(test.application, saved);
     const CoverSettings loaded = LoadCoverSettings(test.settings);
     EXPECT_TRUE(loaded.cover && loaded.customTitle && loaded.date && loaded.notes);
     EXPECT_FALSE(loaded.backing || loaded.artwork || loaded.logo || loaded.time || loaded.generatedBy);
@@ -87,7 +87,7 @@ TEST(CoverSettingsTest, ComeBackAsTheyWereSaved) {
     EXPECT_EQ(test.settings.Read("BBacking"), "0");
 
     saved.titleText = "";
-    SaveCoverSettings(test.settings, saved);
+    SaveCoverSettings(test.application, saved);
     EXPECT_EQ(LoadCoverSettings(test.settings).titleText, " ");
 }
 

@@ -18,7 +18,6 @@ protected:
         test_.Execute("INSERT INTO tblgroupnames(ID, Name) VALUES (4, 'Sales')");
         test_.Execute(
             "INSERT INTO tblgroupmap(GroupID, Extension) VALUES (4, '201'), (4, '305'), (5, '999')");
-        OpenDatabase(test_.application.session);
     }
 
     /// The statement of a report with the keys "A|B=value|...": columns, options, or the
@@ -41,11 +40,12 @@ protected:
         const IniFile report(test_.WriteReport("Case", data, options));
         ReportFlags flags;
         flags.Read(report);
-        return BuildQuery(test_.application.session, {.flags = flags,
-                                                      .options = ReadReportOptions(report),
-                                                      .inputs = inputs,
-                                                      .rules = rules,
-                                                      .isMitel5000 = isMitel5000});
+        return BuildQuery(DatabaseScope(test_.application.session.database),
+                          {.flags = flags,
+                           .options = ReadReportOptions(report),
+                           .inputs = inputs,
+                           .rules = rules,
+                           .isMitel5000 = isMitel5000});
     }
 
     test::TestApplication test_;
