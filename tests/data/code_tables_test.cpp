@@ -71,7 +71,7 @@ TEST(CodeTables, LeadEveryNumberToOneRow) {
         for (const auto& [code, name] : rows) {
             EXPECT_THAT(code, testing::MatchesRegex(expected.code));
             EXPECT_THAT(name, testing::MatchesRegex(expected.name)) << code;
-            EXPECT_TRUE(codes.insert(code).second) << code << " stands twice";
+            EXPECT_TRUE(codes.insert(code).second) << code << " is there twice";
             if (table.Find(code).rows == 1) continue;
             for (char digit = '0'; digit <= '9'; ++digit) {
                 EXPECT_GT(table.Find(code + digit).rows, 0U) << code << " hides " << code << digit;

@@ -1,5 +1,5 @@
 // A text file in the system's single-byte code page, written in large pieces. Report
-// pages and comma text are made of it.
+// pages and comma text are such files.
 #pragma once
 
 #include <filesystem>
@@ -12,14 +12,14 @@ namespace tallix {
 
 class AnsiFile {
 public:
-    /// Replaces the file. A file that cannot be opened takes what is written and keeps
-    /// none of it: a report run reports no fault of its page.
+    /// Replaces the file. What is written to a file that cannot be opened is lost: a report
+    /// run does not report failures of its page.
     explicit AnsiFile(const std::filesystem::path& file) : file_(file) {}
 
     /// Adds UTF-8 text; characters outside the code page become "?".
     void Write(std::string_view utf8);
 
-    /// The same, with a carriage return and a line feed behind it.
+    /// The same, followed by a carriage return and a line feed.
     void Line(std::string_view utf8);
     void Lines(std::initializer_list<std::string_view> lines);
 

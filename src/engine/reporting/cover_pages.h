@@ -1,6 +1,6 @@
-// The pages before and behind a report, each a small HTML file of its own beside the
+// The pages before and after a report, each a small HTML file in the folder of the
 // report's. They are written and left there: neither the screen nor the printer
-// takes them.
+// shows them.
 #pragma once
 
 #include <filesystem>

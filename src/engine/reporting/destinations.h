@@ -1,5 +1,5 @@
 // Where a finished report goes: on the screen, to a printer, or into another
-// application. What each destination does, step by step; the windows that take part
+// application. This is what each destination does, step by step; the windows
 // are reached through an interface.
 //
 // A window hands its report over with the DeliverReport of windows/reporting/report_delivery.h.
@@ -20,7 +20,7 @@ struct DestinationChoice {
     Destination destination = Destination::OnScreen;
     std::string printer{};                   ///< text of the printer list, for ToPrinter
     std::string application{};               ///< text of the application list, for InExternalApplication
-    std::string editorFile{kCommaTextPath};  ///< what the text editor is told to open
+    std::string editorFile{kCommaTextPath};  ///< what the text editor opens
 };
 
 /// The windows and the print system, as the destinations use them.
@@ -45,9 +45,8 @@ public:
     virtual void SetCurrentPrinter(const std::string& name) = 0;
 };
 
-/// Delivers the page that the latest run left. Nothing that fails on the way is told:
-/// a printer that is gone, a program that cannot be started, a file that cannot be
-/// renamed.
+/// Delivers the page that the latest run left. Failures are not reported: a printer that
+/// does not exist, a program that cannot be started, a file that cannot be renamed.
 void DeliverReport(Application& application, DeliveryWindows& windows, const DestinationChoice& choice);
 
 }  // namespace tallix

@@ -28,8 +28,8 @@ struct ListRow {
     FolderSetting folder;
 };
 
-// The value name of version 2.0 is misspelt, and "Settings" is not what the command
-// reads: a contract with the lists that are out there.
+// The value name of version 2.0 is misspelt, and the command reads another key than
+// "Settings". Installed lists rely on both.
 constexpr ListRow kList[] = {
     {"Microsoft Excel 2010", {kExcel2010, "Path"}},
     {"Microsoft Excel 2007", {kExcel2007, "Path"}},
@@ -65,8 +65,8 @@ std::string Stored(const SettingsStore& settings, const FolderSetting& setting) 
     return value;
 }
 
-/// Nothing where the value is shorter than what is to be cut off: a command without a
-/// folder would be of another program.
+/// Nothing where the value is shorter than what is cut off: a command without a folder
+/// would start another program.
 std::optional<std::string> FolderOf(const SettingsStore& settings, const CommandRow& row) {
     const std::string value = Stored(settings, row.folder);
     if (Len(value) < row.tail) return {};

@@ -1,9 +1,8 @@
 // The applications that a report can be opened in, as comma text: which of them a
 // person is offered, and the command line that starts each.
 //
-// The list and the commands are two tables that differ in places: the versions of
-// these programs that were met in the field decide what each says, and neither is
-// derived from the other.
+// The list and the commands are two tables that differ in places, and neither is derived
+// from the other: each is a contract with the versions of these programs in use.
 #pragma once
 
 #include <string>
@@ -14,9 +13,9 @@
 
 namespace tallix {
 
-/// Where the folder of OpenOffice.org 3.0 is found under "HKLM": the value names the
-/// program behind the folder, and the command cuts it off. Its kin record themselves
-/// in the same place.
+/// Where the folder of OpenOffice.org 3.0 is found under "HKLM". The value names the
+/// program after the folder, and the command cuts that off. Related office suites record
+/// themselves in the same place.
 inline constexpr std::string_view kOpenOffice3Key = "Software\\OpenOffice.org\\OpenOffice.org\\3.0";
 inline constexpr std::string_view kOpenOffice3Value = "Path";
 inline constexpr std::string_view kOpenOffice3Program = "\\soffice.exe";

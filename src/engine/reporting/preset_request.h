@@ -21,7 +21,7 @@ struct PresetChoices {
     std::vector<std::string> groups;  ///< "ALL", then names
 };
 
-/// Reads the lists over a connection of its own. Throws DatabaseError.
+/// Reads the lists. Opens the database for itself. Throws DatabaseError.
 PresetChoices ReadPresetChoices(Application& application);
 
 /// The inputs of the window, by the keys of section "Options" that enable them.
@@ -33,7 +33,7 @@ public:
     /// None is enabled.
     EnabledInputs() = default;
 
-    /// Those whose key says "True", in any case. A file that is not there enables none.
+    /// Those whose key says "True", in any case. A missing file enables none.
     explicit EnabledInputs(const std::filesystem::path& reportFile);
 
     bool operator[](Input input) const { return enabled_[static_cast<std::size_t>(input)]; }
@@ -45,7 +45,7 @@ private:
 /// Why a run is refused: a demanded input is empty or not numeric. Nothing otherwise.
 std::optional<Message> RefusalOf(const PresetRun& run);
 
-/// What a person is told of a run that found no records.
+/// The message after a run that found no records.
 Message NoDataMessage();
 
 }  // namespace tallix

@@ -27,7 +27,7 @@ struct ReportSettings {
     bool coloured = false;  ///< the layout that `V1Reports` "1" selects
     ReportColours colours{};
     std::string alignment{};  ///< "Left", "Center" or "Right"
-    bool areaCode = false;    ///< the site's dialling code stands before short numbers
+    bool areaCode = false;    ///< short numbers are shown after the site's dialling code
     bool storedCosts = true;
     std::string billing{};
     std::string timeOpen{};

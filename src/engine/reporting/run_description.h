@@ -13,10 +13,10 @@
 
 namespace tallix {
 
-/// The entry of the site and group lists that stands for no choice.
+/// The entry of the site and group lists that means no choice.
 inline constexpr std::string_view kAll = "ALL";
 
-/// The filter values of a run, as texts; an empty text is no filter.
+/// The filter values of a run, as texts; an empty text does not filter.
 struct RunInputs {
     std::string extension{};
     std::string account{};

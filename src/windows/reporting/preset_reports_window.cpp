@@ -57,7 +57,7 @@ QWidget* PresetReportsWindow::ReportsColumn() {
     auto* column = new QWidget;
     auto* label = new QLabel("Available Reports");
     label->setBuddy(reports_);
-    reports_->setAccessibleName(label->text());  // a list is not told its label
+    reports_->setAccessibleName(label->text());  // a list does not take it from its label
     reports_->setModel(reportNames_);
     reports_->setUniformItemSizes(true);
     reports_->setSpacing(toolkit::kGrid / 4);

@@ -54,7 +54,7 @@ ReportOutputWindow::ReportOutputWindow(toolkit::Forms& forms, Application& appli
     connect(&busyTimer_, &QTimer::timeout, this, &ReportOutputWindow::LookWhetherBusy);
     busyTimer_.setInterval(kBusyInterval);
     new toolkit::DialogKeys(*this, nullptr, close_);
-    close_->setShortcut(Qt::Key_Escape);  // the browser gives no key back that it was given
+    close_->setShortcut(Qt::Key_Escape);  // the browser keeps the keys that it gets
 }
 
 QFrame* ReportOutputWindow::WaitingFrame() {
@@ -116,7 +116,7 @@ void ReportOutputWindow::LookWhetherBusy() {
     busyTimer_.stop();
 }
 
-// The control is not busy any more either; the frame stays to tell why nothing is seen.
+// The frame stays, to say why the window is empty.
 void ReportOutputWindow::ShowLoadFailure() {
     busyTimer_.stop();
     waitingText_->setText("Report Failed to Load!");

@@ -22,8 +22,7 @@ public:
     /// Begins to show the page of the latest run.
     void Navigate();
 
-    /// Prints with the page setup of reports, which the settings hold for the time of the
-    /// call alone.
+    /// Prints with the page setup of reports, which is in the settings only during the call.
     void Print(toolkit::PrintOption option);
 
 protected:

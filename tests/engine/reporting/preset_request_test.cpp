@@ -43,7 +43,7 @@ TEST(EnabledInputsTest, AreThoseThatSayTrue) {
     EXPECT_FALSE(EnabledInputs(folder.Path() / "gone.SRT")[Input::Date]);
 }
 
-TEST(RefusalTest, TellsTheFirstDemandThatIsNotMet) {
+TEST(RefusalTest, NamesTheFirstDemandThatIsNotMet) {
     struct Case {
         std::string extension, account;
         bool demandsExtension, demandsAccount;

@@ -70,7 +70,7 @@ TEST_F(QueryBuilderTest, ComposesTheStatementOfAPreset) {
         {"Group=Sales|Where=AND Internal = 0", " WHERE (Extension=201 OR Extension=305) AND Internal = 0"},
         {"Sum=Duration", ""},  // reads whole calls
     };
-    for (const auto& [keys, behind] : cases) EXPECT_EQ(Build(keys), kAllCalls + behind) << keys;
+    for (const auto& [keys, rest] : cases) EXPECT_EQ(Build(keys), kAllCalls + rest) << keys;
     EXPECT_EQ(Build("Sum=destnumc|Where=GROUP BY DestNum"),
               "SELECT DestNum, COUNT(DestNum) FROM tblphonedata GROUP BY DestNum");
     test_.application.session.database.kind = DatabaseKind::SqlServer;
@@ -84,18 +84,18 @@ TEST_F(QueryBuilderTest, FindsTheExtensionInTheNumberColumnOfAMitel5000) {
         {"Extension|Where=WHERE Internal = 0",
          R"( WHERE Internal = 0 AND (OrigNum = "201" OR OrigNum = "201 "))"},
     };
-    for (const auto& [keys, behind] : cases) EXPECT_EQ(Build(keys, kPresetQuery, true), kAllCalls + behind);
+    for (const auto& [keys, rest] : cases) EXPECT_EQ(Build(keys, kPresetQuery, true), kAllCalls + rest);
     EXPECT_EQ(Build("DestNum|Extension", kUnattendedQuery, true), kAllCalls + R"( WHERE Extension = "201")");
 }
 
-TEST_F(QueryBuilderTest, SchedulesApplyNoGroupsAndNoAccountBehindAClause) {
+TEST_F(QueryBuilderTest, SchedulesApplyNoGroupsAndNoAccountAfterAClause) {
     const std::pair<const char*, std::string> cases[] = {
         {"Extension|Where=WHERE Internal = 0", R"( WHERE Internal = 0 AND Extension = "201")"},
         {"Site=002|Where=WHERE Internal = 0", R"( WHERE (Internal = 0) AND Site = "002")"},
         {"Account|Where=WHERE Internal = 0", " WHERE Internal = 0"},
         {"Group=Sales", ""},
     };
-    for (const auto& [keys, behind] : cases) EXPECT_EQ(Build(keys, kUnattendedQuery), kAllCalls + behind);
+    for (const auto& [keys, rest] : cases) EXPECT_EQ(Build(keys, kUnattendedQuery), kAllCalls + rest);
 }
 
 }  // namespace

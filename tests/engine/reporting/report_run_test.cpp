@@ -47,7 +47,7 @@ protected:
         return lines;
     }
 
-    // What stands between the four lines and the heads above, and the total below.
+    // The lines between the heads and the total.
     std::vector<std::string> Rows() const {
         std::vector<std::string> lines = Lines();
         if (lines.size() < 7) return {};
@@ -166,13 +166,13 @@ TEST_F(ReportRunTest, KeepsRecordsByTheirFilters) {
         {"a start alone; a call without a date goes with the one before",
          {.startDate = "02/02/2021"},
          {third, fourth, odd}},
-        {"a start behind the end", {.startDate = "03/02/2021", .endDate = "01/02/2021"}, {}},
+        {"a start after the end", {.startDate = "03/02/2021", .endDate = "01/02/2021"}, {}},
         {"both times are exclusive", {.timeFrom = "09:00", .timeTo = "17:00"}, {third, odd}},
-        {"one time alone is no filter", {.timeFrom = "09:00"}, {first, second, third, fourth, odd}},
+        {"one time alone does not filter", {.timeFrom = "09:00"}, {first, second, third, fourth, odd}},
         {"a schedule keeps blank numbers", {}, {first, second, third, fourth, odd, blank}, true},
         {"a schedule with both times", {.timeFrom = "09:00", .timeTo = "17:00"}, {third, odd, blank}, true},
         {"a schedule with an end alone", {.timeTo = "09:00"}, {first, odd}, true},
-        {"a schedule with a start alone keeps what is no time", {.timeFrom = "09:00"}, {odd}, true},
+        {"a schedule with a start alone keeps only what is not a time", {.timeFrom = "09:00"}, {odd}, true},
     };
     for (const Case& c : cases) {
         const RunOutcome outcome =
@@ -213,7 +213,7 @@ TEST_F(ReportRunTest, BoundsTheRecordsLookedAt) {
     options["Top"] = "99999";
     test.WriteReport("Top", count, options);
     Run("Top");
-    EXPECT_EQ(Rows().size(), 3u) << "a bound that is no 16-bit number is none";
+    EXPECT_EQ(Rows().size(), 3u) << "a bound beyond 16 bits is ignored";
 }
 
 TEST_F(ReportRunTest, EndsWithoutDataWhereTheServerHasNoneOrRefuses) {

@@ -139,7 +139,7 @@ TEST_F(PresetReportsWindowTest, EveryRunEndsAtTheMainMenuOrAtTheReport) {
     struct Case {
         const char* report;
         const char* extension;
-        const char* message;  ///< the opening of what the person is told; null for a report
+        const char* message;  ///< its opening; null for a report
         bool leavesPage;
         bool vanishes = false;  ///< the report's file, between its choice and the run
     };
@@ -186,7 +186,7 @@ TEST_F(PresetReportsWindowTest, QuotesInEveryFieldHarmNothing) {
     EXPECT_TRUE(IsVisible(kReportOutputForm)) << "the calls are still there";
 }
 
-TEST_F(PresetReportsWindowTest, TheDestinationEnablesItsListAndAPrinterThatIsGoneKeepsTheWindow) {
+TEST_F(PresetReportsWindowTest, TheDestinationEnablesItsListAndAMissingPrinterKeepsTheWindow) {
     world.InsertCall();
     const QWidget& window = Open();
     QComboBox* printerList = nullptr;
