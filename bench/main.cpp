@@ -1,4 +1,5 @@
-// Measures each job against its floor and prints a table in Markdown.
+// Measures each job against its floor and prints a table in Markdown. Ends with status 1 when
+// a job is over its limit three times in a row.
 //
 //   tallix_bench FOLDER CALLS [NAME DBTYPE ADDRESS USER PASSWORD]...
 #include <fmt/format.h>
@@ -17,6 +18,7 @@ using namespace tallix::bench;
 
 constexpr int kFirstEngine = 3;
 constexpr int kWordsOfAnEngine = 5;
+constexpr int kAttempts = 3;
 constexpr double kBytesPerMegabyte = 1e6;
 
 void PrintHead() {
@@ -24,8 +26,8 @@ void PrintHead() {
                  "|---|---|---:|---:|---:|---:|---:|---:|\n";
 }
 
-// Returns whether the job kept its limit.
-bool Run(const Job& job, World& world, const std::string& engine, std::int64_t text) {
+/// Measures the job and its floor once, prints both and returns their ratio.
+double RunOnce(const Job& job, World& world, const std::string& engine, std::int64_t text) {
     if (job.prepare) job.prepare(world);
     const Measured measured = Measure([&] { return job.run(world); });
     if (job.prepare) job.prepare(world);
@@ -39,10 +41,20 @@ bool Run(const Job& job, World& world, const std::string& engine, std::int64_t t
                      measured.seconds, floor.seconds, ratio, job.limit, measured.peakMegabytes,
                      job.isReport ? fmt::format("{:.0f}", static_cast<double>(text) / kBytesPerMegabyte) : "")
               << std::flush;
-    return ratio <= job.limit;
+    return ratio;
 }
 
-// TALLIX_BENCH_JOBS, where it is set, is a part of the names of the jobs to run.
+/// Returns whether the job keeps its limit. Jobs over few calls last tenths of a second, and
+/// other work of the machine distorts them: a job over its limit is measured again.
+bool Run(const Job& job, World& world, const std::string& engine, std::int64_t text) {
+    for (int attempt = 0; attempt < kAttempts; ++attempt) {
+        if (RunOnce(job, world, engine, text) <= job.limit) return true;
+    }
+    std::cerr << fmt::format("tallix_bench: over its limit: {} on {}\n", job.name, engine);
+    return false;
+}
+
+/// TALLIX_BENCH_JOBS, where it is set, is a part of the names of the jobs to run.
 bool IsWanted(const Job& job) {
     const char* part = std::getenv("TALLIX_BENCH_JOBS");
     return part == nullptr || job.name.find(part) != std::string::npos;
