@@ -20,7 +20,7 @@ class DemoCalendar {
 public:
     DemoCalendar(std::uint64_t calls, std::uint64_t seed);
 
-    /// The calls of the day that lies `index` days behind kFirstCallDay. The counts of
+    /// The calls of the day `index` days after kFirstCallDay. The counts of
     /// all days together are the number of calls asked for.
     std::uint64_t CallsOn(std::size_t index) const;
     std::size_t Days() const { return weightUntil_.size(); }

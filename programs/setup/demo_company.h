@@ -1,5 +1,5 @@
 // The made-up company of the demonstration data: its sites, its people and who works
-// with whom. What a seed decides (numbers dialled, calls) lies elsewhere.
+// with whom. What a seed decides (numbers dialled, calls) is elsewhere.
 #pragma once
 
 #include <span>

@@ -74,7 +74,7 @@ std::vector<const NumberRange*> RangesOf(NumberKind kind) {
 }
 
 // The first numbers take the ranges in turn, so that each is dialled; the others are
-// spread with a preference for those that stand first.
+// spread with a preference for the first ones.
 std::vector<std::string> MakeNumbers(NumberKind kind, std::uint32_t count, RandomSource& random) {
     const std::vector<const NumberRange*> ranges = RangesOf(kind);
     std::vector<std::string> numbers;

@@ -1,5 +1,5 @@
 // The outside numbers that the made-up company knows: some tens of thousands, of every
-// kind that a tariff tells apart.
+// kind that a tariff prices differently.
 #pragma once
 
 #include <array>
@@ -20,7 +20,7 @@ inline constexpr std::size_t kNumberKinds = 8;
 struct NumberRange {
     NumberKind kind;
     std::string_view prefix;
-    int digits;             ///< behind the prefix
+    int digits;             ///< after the prefix
     std::string_view cost;  ///< pence a billing unit
 };
 

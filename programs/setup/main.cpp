@@ -13,7 +13,7 @@ namespace {
 constexpr int kFailed = 1;
 constexpr int kNotUnderstood = 2;
 
-// Database clients tell their failures in several lines; a script wants one.
+// Database clients report their failures in several lines; a script wants one.
 int Fail(std::string text, int status) {
     while (!text.empty() && text.back() == '\n') text.pop_back();
     std::replace_if(

@@ -25,7 +25,7 @@ bool HoldsSuite(const fs::path& folder) {
 
 }  // namespace
 
-// Debian's own package, then the makers' packages, which lie in a folder a version.
+// Debian's own package, then the makers' packages, which are in a folder per version.
 std::vector<fs::path> OfficeFolders() {
     std::vector<fs::path> folders = {"/usr/lib/libreoffice/program"};
     std::error_code error;

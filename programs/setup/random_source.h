@@ -1,4 +1,4 @@
-// Chance that gives the same values on every platform. The generator behind it is
+// Random values that are the same on every platform. The generator is
 // fixed by the language standard; the ways of using it are integer arithmetic of
 // this file alone, since the library's own distributions differ between makers.
 #pragma once
@@ -36,7 +36,7 @@ public:
         return Below(narrow);
     }
 
-    /// The place in `weights`, each as likely as its weight tells. Not all are 0.
+    /// The place in `weights`, each as likely as its weight says. Not all are 0.
     std::size_t Weighted(std::span<const std::uint32_t> weights) {
         std::uint32_t sum = 0;
         for (const std::uint32_t weight : weights) sum += weight;

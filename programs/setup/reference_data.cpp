@@ -34,7 +34,7 @@ std::vector<std::string> ReadRow(std::string line, const std::string& file) {
     if (line.ends_with('\r')) line.pop_back();
     const std::size_t comma = line.find(',');
     if (comma == 0 || comma == std::string::npos) {
-        throw SetupError(fmt::format("{} has a line that is no code and name: {}", file, line));
+        throw SetupError(fmt::format("{} has a line that is not a code and a name: {}", file, line));
     }
     return {line.substr(0, comma), DecodeLine(std::string_view(line).substr(comma + 1))};
 }

@@ -10,7 +10,7 @@
 namespace tallix {
 
 /// Fills each of the tables that is empty from its file in `folder` and says so. Throws
-/// SetupError when a file cannot be read or holds a line that is no code and name.
+/// SetupError when a file cannot be read or holds a line that is not a code and a name.
 void FillReferenceData(ado::Connection& connection, const std::filesystem::path& folder, std::ostream& out);
 
 }  // namespace tallix

@@ -1,4 +1,4 @@
-// What ends a set-up, told in one line.
+// What ends a set-up, in one line.
 #pragma once
 
 #include <stdexcept>

@@ -22,13 +22,13 @@ struct SetupOptions {
     std::uint64_t seed = 1;
 };
 
-/// A command line that is not understood, told in one line.
+/// A command line that is not understood; the text is one line.
 class UsageError : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
 };
 
-/// Reads the arguments behind the program's name. Of an option given twice the last
+/// Reads the arguments after the program's name. Of an option given twice the last
 /// counts. Throws UsageError.
 SetupOptions ParseSetupOptions(const std::vector<std::string>& arguments);
 

@@ -11,8 +11,8 @@
 
 namespace tallix {
 
-/// What stands between its making and Commit happens wholly or not at all, and far
-/// faster than statement by statement. The program itself begins no transaction.
+/// The statements from its construction to Commit happen wholly or not at all, and far
+/// faster than one by one. The program itself begins no transaction.
 class Transaction {
 public:
     /// `connection` must outlive the transaction.

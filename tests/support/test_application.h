@@ -23,13 +23,13 @@ namespace tallix::test {
 
 std::unique_ptr<ado::Connection> ConnectTo(const std::string& connectionText);
 
-/// All rows of a statement, a line each, "|" behind every value, NULL by its name.
+/// All rows of a statement, one per line, "|" after every value, NULL by its name.
 std::string AllRows(ado::Connection& connection, std::string_view statement);
 
 /// The lines of a file without their CR LF.
 std::vector<std::string> ReadLines(const std::filesystem::path& file);
 
-/// Events that a test takes a hand in: they are served by another queue, or do what it says.
+/// Events that a test controls: they are served by another queue, or do what it says.
 class TestEvents : public EventQueue {
 public:
     void Serve() override {

@@ -41,7 +41,7 @@ public:
     /// Runs a statement and fetches its rows. Recordset's own way in.
     Result Fetch(std::string_view statement);
 
-    /// The server behind an open connection. Throws DatabaseError when closed.
+    /// The server of an open connection. Throws DatabaseError when closed.
     Engine& Server() const;
 
 private:

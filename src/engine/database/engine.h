@@ -1,5 +1,5 @@
 // What a database server must be able to do for Connection and Recordset. One
-// implementation a client library; nothing outside foundation/ado sees it.
+// implementation per client library; nothing outside this folder uses it.
 #pragma once
 
 #include <cstdint>

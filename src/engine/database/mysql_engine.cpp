@@ -87,7 +87,7 @@ void MySqlEngine::FetchRows(MYSQL_RES& rows, RowArena& arena) {
     arena.Finish();
 }
 
-// Without a primary key, the first unique one tells rows apart as well.
+// Without a primary key, the first unique key identifies rows as well.
 std::vector<std::string> MySqlEngine::KeyColumns(const std::string& table) {
     const Result keys = Query(
         fmt::format("SELECT index_name, column_name FROM information_schema.statistics "

@@ -33,7 +33,7 @@ public:
     Recordset(Recordset&&) noexcept;
     Recordset& operator=(Recordset&&) noexcept;
 
-    /// Runs the statement and stands on its first row. A set that was open is closed
+    /// Runs the statement and moves to its first row. A set that was open is closed
     /// first. `connection` must outlive all writes through the set. Throws DatabaseError;
     /// the set is then closed.
     void Open(std::string_view statement, Connection& connection);
@@ -107,7 +107,7 @@ private:
     Connection* connection_ = nullptr;
     std::string statement_;
     std::string table_;                   ///< in its server's quotes, once something was written
-    std::vector<std::size_t> keyPlaces_;  ///< the columns that tell a row, likewise
+    std::vector<std::size_t> keyPlaces_;  ///< the columns that identify a row, likewise
     std::int64_t row_ = 0;
     std::unique_ptr<Changes> changes_;  ///< absent while nothing was set
 };

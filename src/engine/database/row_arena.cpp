@@ -40,7 +40,7 @@ void RowArena::AppendSlowly(Value cell) {
     }
 }
 
-// Begins a block with the part of the row that is filled already, since a row lies in one
+// Begins a block with the part of the row that is filled already, since a row is in one
 // block. Returns false, with all as it was, for a row that no block holds.
 bool RowArena::MakeRoom(std::size_t cellBytes) {
     const std::size_t rowStart = RowStart();

@@ -65,7 +65,7 @@ private:
     template <typename Number>
     static constexpr Number kNull = static_cast<Number>(Number{1} << (8 * sizeof(Number) - 1));
 
-    /// The highest offset is 0, where the first cell starts; below it stands the end of
+    /// The highest offset is 0, where the first cell starts; below it is the end of
     /// each cell in turn.
     struct Block {
         Block(std::int64_t first, std::size_t size, bool longRow);

@@ -14,7 +14,7 @@
 namespace tallix::ado {
 
 /// What a refused row does: it is counted and left out, or its failure is thrown, with the
-/// rows before it stored and none behind it.
+/// rows before it stored and none after it.
 enum class Refusal { Skips, Throws };
 
 class RowBatch {

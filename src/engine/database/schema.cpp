@@ -22,7 +22,7 @@ constexpr std::string_view kCreateTable = "CREATE TABLE ";
 constexpr std::string_view kCreateIndex = "CREATE INDEX ";
 constexpr std::string_view kIfAbsent = "IF NOT EXISTS ";
 
-/// What the statements for MariaDB say, and what stands in its place on MySQL.
+/// What the statements for MariaDB say, and its replacement on MySQL.
 constexpr std::string_view kMariaDbCollation = "utf8mb4_nopad_bin";
 constexpr std::string_view kMySqlCollation = "utf8mb4_0900_bin";
 
@@ -44,8 +44,8 @@ std::string ReadSchema(const std::filesystem::path& file) {
     return *text;
 }
 
-/// The word behind `lead` (and behind "IF NOT EXISTS"); empty where `lead` does not occur.
-std::string NameBehind(std::string_view statement, std::string_view lead) {
+/// The word after `lead` (and after "IF NOT EXISTS"); empty where `lead` does not occur.
+std::string NameAfter(std::string_view statement, std::string_view lead) {
     std::size_t begin = statement.find(lead);
     if (begin == std::string_view::npos) return {};
     begin += lead.size();
@@ -81,7 +81,7 @@ bool HasMySqlIndex(Engine& server, const std::string& index) {
 void Lay(Engine& server, std::string statement, bool mySqlProper) {
     if (mySqlProper) {
         statement = Replace(statement, kMariaDbCollation, kMySqlCollation);
-        const std::string index = NameBehind(statement, kCreateIndex);
+        const std::string index = NameAfter(statement, kCreateIndex);
         if (!index.empty()) {
             if (HasMySqlIndex(server, index)) return;
             statement = Replace(statement, kIfAbsent, {});
@@ -115,7 +115,7 @@ std::vector<std::string> LayDownSchema(ado::Connection& connection,
     const bool mySqlProper = IsMySqlProper(server);
     std::vector<std::string> made;
     for (std::string& statement : SchemaStatements(ReadSchema(schemaFolder / FileName(server.Kind())))) {
-        std::string table = NameBehind(statement, kCreateTable);
+        std::string table = NameAfter(statement, kCreateTable);
         if (!table.empty() && !HasTable(server, table)) made.push_back(std::move(table));
         Lay(server, std::move(statement), mySqlProper);
     }

@@ -1,5 +1,5 @@
-// Lays down the tables and indexes that a database lacks. What they are stands in one
-// file of statements a server, in the folder "schema" of the installation.
+// Creates the tables and indexes that a database lacks. Their statements are in one file per
+// server, in the folder "schema" of the installation.
 #pragma once
 
 #include <filesystem>

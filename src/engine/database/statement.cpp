@@ -131,7 +131,7 @@ bool Token::Closed() const {
     const auto inside = text.substr(1);
     const auto last = inside.find_last_not_of(closing);
     const std::size_t closers = inside.size() - (last == std::string_view::npos ? 0 : last + 1);
-    return closers % 2 == 1;  // an even number stands for delimiters inside
+    return closers % 2 == 1;  // an even number means delimiters inside
 }
 
 std::string Token::Content() const {

@@ -1,5 +1,5 @@
 // The pieces of a statement: words, literals, identifiers, as every server here writes
-// them. What they turn into on their way to a server is in ado/translation.h.
+// them. What they turn into on their way to a server is in database/translation.h.
 #pragma once
 
 #include <string>
@@ -14,7 +14,7 @@ enum class TokenKind { Blank, Word, Number, DoubleQuoted, Apostrophed, Bracketed
 
 struct Token {
     TokenKind kind;
-    std::string_view text;  ///< as it stands in the statement, delimiters included
+    std::string_view text;  ///< as written in the statement, delimiters included
 
     /// Whether the token is this word, given in lower case, in any case.
     bool Is(std::string_view lowerCaseWord) const;

@@ -15,7 +15,7 @@ namespace {
 constexpr std::array<std::string_view, 4> kDataStatements{"select", "insert", "update", "delete"};
 constexpr std::array<std::string_view, 8> kComparisons{"=", "<", ">", "<=", ">=", "<>", "!=", "=="};
 constexpr std::array<std::string_view, 4> kConditionWords{"where", "having", "on", "when"};
-constexpr std::array<std::string_view, 4> kBehindOrder{"limit", "offset", "fetch", "for"};
+constexpr std::array<std::string_view, 4> kAfterOrder{"limit", "offset", "fetch", "for"};
 
 /// The tables of calls, whose rows are numbered in this column.
 constexpr std::array<std::string_view, 2> kCallTables{"tblphonedata", "tblarchive"};
@@ -26,7 +26,7 @@ bool IsOneOf(const Token& token, const std::array<std::string_view, Count>& word
     return std::any_of(words.begin(), words.end(), [&](std::string_view word) { return token.Is(word); });
 }
 
-/// A token that is no blank, with the blanks before it and what it turns into.
+/// A token that is not a blank, with the blanks before it and what it turns into.
 struct Piece {
     Token token;
     std::string_view before;
@@ -74,7 +74,7 @@ private:
 
     Server server_;
     std::vector<Piece> pieces_;
-    std::string_view blankBehind_;
+    std::string_view blankAfter_;
 };
 
 Translation::Translation(std::string_view statement, Server server) : server_(server) {
@@ -89,7 +89,7 @@ Translation::Translation(std::string_view statement, Server server) : server_(se
         }
         at += token.text.size();
     }
-    blankBehind_ = statement.substr(blankFrom);
+    blankAfter_ = statement.substr(blankFrom);
 }
 
 std::string Translation::Run() {
@@ -108,7 +108,7 @@ std::string Translation::Run() {
     }
     std::string statement;
     for (const Piece& piece : pieces_) statement.append(piece.before).append(piece.text);
-    return statement.append(blankBehind_);
+    return statement.append(blankAfter_);
 }
 
 bool Translation::IsComparison(std::size_t at) const {
@@ -117,7 +117,7 @@ bool Translation::IsComparison(std::size_t at) const {
 }
 
 // 'Username' in "where 'Username' = ...": a word in apostrophes where a condition begins,
-// with a comparison behind it. A literal there would compare two constants, which no
+// with a comparison after it. A literal there would compare two constants, which no
 // statement has a use for.
 bool Translation::IsColumnName(std::size_t at) const {
     const Token& token = At(at);
@@ -129,7 +129,7 @@ bool Translation::IsColumnName(std::size_t at) const {
     return inside.size() == 1 && inside.front().kind == TokenKind::Word;
 }
 
-// Values go into statements as they are. Some servers would run what stands behind one that
+// Values go into statements as they are. Some servers would run what follows one that
 // broke out of its quotes.
 void Translation::RefuseSecondStatement() const {
     const auto ends = [](const Piece& piece) { return piece.token.text == ";"; };
@@ -176,7 +176,7 @@ void Translation::TurnQuotedName(std::size_t at) {
     }
 }
 
-// Behind the column that begins here ("Extension", "t.Extension"); `at` where none does.
+// The place after the column that begins here ("Extension", "t.Extension"); `at` where none does.
 std::size_t Translation::ColumnEnd(std::size_t at) const {
     const auto isName = [this](std::size_t place) {
         const TokenKind kind = At(place).kind;
@@ -248,17 +248,17 @@ std::size_t Translation::FindOutside(std::size_t from, Test test) const {
     return from;
 }
 
-// The piece behind "FIRST BY"; the number of pieces where there is none.
+// The piece after "FIRST BY"; the number of pieces where it does not occur.
 std::size_t Translation::FindBy(std::string_view first) const {
     const std::size_t at =
         FindOutside(0, [&](std::size_t place) { return At(place).Is(first) && At(place + 1).Is("by"); });
     return std::min(at + 2, pieces_.size());
 }
 
-// Where what stands behind an ORDER BY list begins.
+// Where the part after an ORDER BY list begins.
 std::size_t Translation::OrderEnd(std::size_t from) const {
     return FindOutside(from,
-                       [&](std::size_t at) { return IsOneOf(At(at), kBehindOrder) || At(at).text == ";"; });
+                       [&](std::size_t at) { return IsOneOf(At(at), kAfterOrder) || At(at).text == ";"; });
 }
 
 std::size_t Translation::GroupEnd(std::size_t from) const {
@@ -267,8 +267,8 @@ std::size_t Translation::GroupEnd(std::size_t from) const {
         end, FindOutside(from, [&](std::size_t at) { return At(at).Is("having") || At(at).Is("order"); }));
 }
 
-// What rows that a statement leaves equal are told apart by; nothing where they need not
-// or cannot be.
+// The columns that order the rows that a statement leaves equal; none where no order is
+// needed or possible.
 std::vector<Piece> Translation::EqualRowsOrder() const {
     const std::size_t groups = FindBy("group");
     if (groups < pieces_.size()) {

@@ -3,7 +3,7 @@
 // replacing text.
 //
 // The common sense of a statement, whichever server runs it:
-// - "..." and '...' are literals; a doubled delimiter stands for one, a backslash for
+// - "..." and '...' are literals; a doubled delimiter means one, a backslash means
 //   itself. Only a word in apostrophes on the left of a comparison is a column.
 // - Text compares byte by byte, case and trailing blanks included, where the tables have
 //   the collation of our schema; LIKE has % and _ and no escape character.
@@ -25,7 +25,7 @@ namespace tallix::ado {
 /// The statement as `server` takes it. A literal that is not closed is left as it is,
 /// so that the server refuses it. Statements other than SELECT, INSERT, UPDATE and
 /// DELETE (the schema's) are the server's own and pass unchanged. Throws DatabaseError
-/// where a second statement stands behind the first.
+/// where a second statement follows the first.
 std::string Translate(std::string_view statement, Server server);
 
 }  // namespace tallix::ado

@@ -1,4 +1,4 @@
-// What every action of the program works with: where files lie, the settings, the
+// What every action of the program works with: where files are, the settings, the
 // person, the clock, the events, and the session. Made once in main.
 #pragma once
 

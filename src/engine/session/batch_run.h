@@ -9,8 +9,8 @@
 
 namespace tallix {
 
-/// Writes, runs and deletes a batch file; waiting events run in between. Nothing is told
-/// of its outcome, and a folder that cannot be written to has none. Two windows may use
+/// Writes, runs and deletes a batch file; waiting events run in between. Its outcome is not
+/// reported, and a folder that cannot be written to has none. Two windows may use
 /// one name at a time.
 void RunBatch(Application& application, std::string_view fileName, std::string_view line);
 

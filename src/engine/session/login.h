@@ -17,7 +17,7 @@ inline constexpr int kLoginAttempts = 3;
 
 enum class LoginOutcome {
     LoggedIn,  ///< the session is set
-    Refused,   ///< no such account, or another password: which of them is not told
+    Refused,   ///< no such account, or another password: which of them is not reported
     HeldBack,  ///< a text holds a word that goes into no statement; the database was not asked
 };
 

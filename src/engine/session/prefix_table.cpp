@@ -113,8 +113,8 @@ PrefixTable::Match PrefixTable::Find(std::string_view prefix) const {
 }
 
 std::optional<std::size_t> PrefixTable::Narrow(std::string_view number, PrefixLengths lengths) const {
-    // Codes share the less with the number the farther they lie from its own place in
-    // their order. The two on either side tell all: up to the second best length in
+    // Codes share the less with the number the farther they are from its own place in
+    // their order. The two on either side decide: up to the second best length in
     // common several rows begin with the prefix, up to the best one row, beyond it none.
     const std::size_t place = LowerBound(number);
     std::size_t best = 0;

@@ -1,10 +1,10 @@
 // Which row of a code table begins with the first characters of a telephone number.
 // Tariff, areas, providers and countries are all searched so: the prefix of the number
-// grows until at most one row is left. That narrows a prefix and is no longest match;
-// a code longer than the prefix is found, and may differ from the number behind it.
+// grows until at most one row is left. That narrows a prefix and is not a longest match;
+// a code longer than the prefix is found, and may differ from the number after it.
 //
-// PrefixTable answers from memory. PrefixLookup stands before a table of the database
-// and asks the server where the server could see a prefix with other eyes.
+// PrefixTable answers from memory. PrefixLookup is for a table of the database
+// and asks the server where the server could compare a prefix differently.
 #pragma once
 
 #include <cstddef>
@@ -78,7 +78,7 @@ public:
     /// The value of the row that narrowing ends on, as in PrefixTable; lengths count
     /// characters. NULL reads as the empty text. The view lives as long as the lookup.
     ///
-    /// A prefix that is no plain number is put to the server, once each, as
+    /// A prefix that is not a plain number is put to the server, once each, as
     /// `SELECT * FROM table WHERE code LIKE "prefix%"`; a refused statement has no rows.
     std::optional<std::string_view> Narrow(std::string_view number, PrefixLengths lengths);
 

@@ -14,9 +14,9 @@ std::string_view WithoutLeadingBlanks(std::string_view text) {
     return text.substr(std::min(text.find_first_not_of(' '), text.size()));
 }
 
-// Blanks in front of the path are dropped, those behind it stay. A quote at the front
+// Blanks in front of the path are dropped, those after it stay. A quote at the front
 // takes the last character with it, whatever that is: a quoted path with a blank
-// behind it therefore names nothing.
+// after it therefore names nothing.
 std::string_view PathText(std::string_view commandLine) {
     const std::string_view text = WithoutLeadingBlanks(commandLine);
     if (!text.starts_with('"')) return text;
@@ -27,11 +27,11 @@ std::string_view PathText(std::string_view commandLine) {
 }  // namespace
 
 RunRequest DecideRun(std::string_view commandLine) {
-    if (commandLine.empty()) return {RunKind::Interactive, ""};
+    if (commandLine.empty()) return {StartKind::Interactive, ""};
     const std::string_view path = PathText(commandLine);
-    if (path.ends_with(kDefinitionEnding)) return {RunKind::ScheduledReport, std::string(path)};
-    if (commandLine == kBackupWord) return {RunKind::Backup, ""};
-    return {RunKind::Nothing, ""};
+    if (path.ends_with(kDefinitionEnding)) return {StartKind::ScheduledReport, std::string(path)};
+    if (commandLine == kBackupWord) return {StartKind::Backup, ""};
+    return {StartKind::Nothing, ""};
 }
 
 }  // namespace tallix

@@ -1,4 +1,4 @@
-// What a run is to do, told by the text behind the program's name.
+// What a run is to do, decided by the text after the program's name.
 #pragma once
 
 #include <string>
@@ -6,7 +6,7 @@
 
 namespace tallix {
 
-enum class RunKind {
+enum class StartKind {
     Interactive,      ///< an empty command line: a person at the screen
     ScheduledReport,  ///< the path of a scheduled report definition
     Backup,           ///< the exact word "Backup"
@@ -14,11 +14,11 @@ enum class RunKind {
 };
 
 struct RunRequest {
-    RunKind kind = RunKind::Nothing;
-    std::string pathText;  ///< the definition's path as told, of a scheduled report only
+    StartKind kind = StartKind::Nothing;
+    std::string pathText;  ///< the definition's path as given, of a scheduled report only
 };
 
-/// Reads the raw command line. A path may stand between double quotes; it counts only
+/// Reads the raw command line. A path may be between double quotes; it counts only
 /// when its last four characters are ".SSR" in upper case.
 RunRequest DecideRun(std::string_view commandLine);
 

@@ -10,7 +10,7 @@
 namespace tallix {
 
 /// Shows one critical message for each folder that is missing and then calls `onMissing`;
-/// the check goes on behind the first one. Folders are stored paths, with "\" or "/".
+/// the check goes on after the first one. Folders are stored paths, with "\" or "/".
 void RequireFolders(std::span<const std::string> folders, Prompts& prompts,
                     const std::function<void()>& onMissing);
 

@@ -13,7 +13,7 @@ bool IsDatabaseAddress(const std::string& text);
 
 /// Stores the address for the next start: the session of this run keeps its own, empty
 /// one. Then tests for the folders of the installation; each that is missing has its
-/// message, and `onMissing` is called behind it.
+/// message, and `onMissing` is called after it.
 void SaveDatabaseAddress(Application& application, const std::string& address,
                          const std::function<void()>& onMissing);
 

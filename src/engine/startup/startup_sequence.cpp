@@ -92,7 +92,7 @@ void StartupSequence::CheckFolders() {
 
 void StartupSequence::HandOver() {
     const RunRequest request = DecideRun(commandLine_);
-    if (request.kind == RunKind::Interactive) return OpenLogin();
+    if (request.kind == StartKind::Interactive) return OpenLogin();
     RunUnattended(request);
     application_.events.Serve();
     End();
@@ -106,10 +106,10 @@ void StartupSequence::OpenLogin() {
 }
 
 void StartupSequence::RunUnattended(const RunRequest& request) {
-    if (request.kind == RunKind::ScheduledReport) {
+    if (request.kind == StartKind::ScheduledReport) {
         work_.runReport(ReadScheduledReport(ToNativePath(request.pathText)));
     }
-    if (request.kind == RunKind::Backup) work_.dump();
+    if (request.kind == StartKind::Backup) work_.dump();
 }
 
 void StartupSequence::End() {

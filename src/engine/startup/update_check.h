@@ -16,8 +16,8 @@
 namespace tallix {
 
 /// The file in the application folder that holds the manifest while it is read. After a
-/// failure it stays behind until the program is left. One spelling everywhere: file
-/// names here tell case apart.
+/// failure it stays until the program is left. One spelling everywhere: file
+/// names here are case-sensitive.
 inline constexpr std::string_view kManifestCopy = "Temp.dat";
 
 /// What the main window shows below its menu.

@@ -37,7 +37,7 @@ TEST(Translate, SpeaksTheDialectOfTheServer) {
         {MySql, "UPDATE tblsite SET 3PTName = 'x'", "UPDATE tblsite SET 3PTName = 'x'"},
         {SqlServer, "UPDATE tblsite SET 3PTName = 'x'", "UPDATE tblsite SET [3PTName] = 'x'"},
         {SqlServer, "Delete * From tblcostmap", "Delete From tblcostmap"},
-        // Sqlite compares texts with bare numbers as numbers where it is told to.
+        // Sqlite compares texts with bare numbers as numbers where the translation demands it.
         {Sqlite, "select * from t where a.[Rings]>=-1.5e3 and 7 <> `b` and not c!=.5",
          "select * from t where CAST(a.[Rings] AS REAL)>=-1.5e3 and 7 <> CAST(`b` AS REAL) and not CAST(c AS "
          "REAL)!=.5"},

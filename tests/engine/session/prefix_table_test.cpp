@@ -9,7 +9,7 @@ namespace {
 
 using Rows = std::vector<std::pair<std::string, std::string>>;
 
-/// The search as it is told: the prefix grows until at most one row begins with it.
+/// The search in its simplest form: the prefix grows until at most one row begins with it.
 std::optional<std::size_t> NarrowStepByStep(const Rows& rows, std::string_view number,
                                             PrefixLengths lengths) {
     for (std::size_t length = lengths.first; length <= std::min(lengths.last, number.size()); ++length) {

@@ -14,14 +14,14 @@ TEST(DecideRun, TellsTheRunFromTheRawText) {
         {"\"/t/Daily.SSR\u00A3", "/t/Daily.SSR"}};  // one character, two bytes
     for (const auto& [commandLine, path] : reports) {
         const RunRequest request = DecideRun(commandLine);
-        EXPECT_EQ(request.kind, RunKind::ScheduledReport) << commandLine;
+        EXPECT_EQ(request.kind, StartKind::ScheduledReport) << commandLine;
         EXPECT_EQ(request.pathText, path);
     }
-    EXPECT_EQ(DecideRun("").kind, RunKind::Interactive);
-    EXPECT_EQ(DecideRun("Backup").kind, RunKind::Backup);
+    EXPECT_EQ(DecideRun("").kind, StartKind::Interactive);
+    EXPECT_EQ(DecideRun("Backup").kind, StartKind::Backup);
     for (const char* nothing : {"/t/Daily.SSR ", "\"/t/A Day.SSR\" ", "\"/t/Daily.SSR", "/t/Daily.ssr",
                                 "backup", " Backup", "\"Backup\"", "\"", "   "}) {
-        EXPECT_EQ(DecideRun(nothing).kind, RunKind::Nothing) << nothing;
+        EXPECT_EQ(DecideRun(nothing).kind, StartKind::Nothing) << nothing;
     }
 }
 

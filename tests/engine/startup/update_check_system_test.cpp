@@ -101,7 +101,7 @@ TEST_F(UpdateCheckTest, LooksUpToDateWhateverFails) {
 
     maker_.Publish(kManifest, "2.0.0");
     SetManifestAddress(maker_.Address(kManifest));
-    EXPECT_TRUE(std::filesystem::remove(Copy())) << "left behind by the unreadable page";
+    EXPECT_TRUE(std::filesystem::remove(Copy())) << "left by the unreadable page";
     std::filesystem::create_directory(Copy());
     EXPECT_EQ(Check().text, kUpToDate);
 }

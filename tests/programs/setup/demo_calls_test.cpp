@@ -66,7 +66,7 @@ TEST(CallGenerator, EndsForTheGreatestCount) {
     EXPECT_GT(seen.size(), 10000U);
 }
 
-// A tariff row is claimed by the first digits that tell it from all others.
+// A tariff row is identified by its first digits.
 TEST(NumberRanges, CanBeToldApartByTheTariff) {
     std::vector<std::string> prefixes;
     for (const NumberRange& range : NumberRanges()) prefixes.push_back(Replace(range.prefix, " ", ""));

@@ -37,12 +37,12 @@ TEST(SetupOptions, RefusesWithAnOptionNamed) {
         // The login would never take these.
         {{"--admin-password", "myUpDaTes"}, "--admin-password takes"},
         {{"--admin-password", std::string(45, 'x')}, "--admin-password takes"}};
-    for (const auto& [arguments, told] : lines) {
+    for (const auto& [arguments, message] : lines) {
         try {
             ParseSetupOptions(arguments);
             ADD_FAILURE() << "taken: " << arguments[0];
         } catch (const UsageError& failure) {
-            EXPECT_THAT(failure.what(), testing::HasSubstr(told));
+            EXPECT_THAT(failure.what(), testing::HasSubstr(message));
         }
     }
 }

@@ -15,7 +15,7 @@ using testing::HasSubstr;
 
 class SetupSystem : public testing::Test, protected test::SetupInstallation {};
 
-// Failed, and told why in one line.
+// Failed, with the reason in one line.
 void ExpectFailure(const ProgramRun& run, const std::string& why) {
     EXPECT_NE(run.status, 0);
     EXPECT_EQ(std::count(run.err.begin(), run.err.end(), '\n'), 1) << run.err;
