@@ -110,7 +110,7 @@ TEST_F(SetupSystem, TellsWhatIsMissingOrCannotBeWritten) {
     std::filesystem::remove(Home() / "reference");
     ExpectFailure(RunSetup({}), "reference data cannot be read: ");
     std::filesystem::rename(Home() / "reference.broken", Home() / "reference");
-    ExpectFailure(RunSetup({}), "no code and name: 0113;Leeds");
+    ExpectFailure(RunSetup({}), "not a code and a name: 0113;Leeds");
     std::filesystem::remove(Home() / "schema");
     ExpectFailure(RunSetup({}), "schema");
 }
