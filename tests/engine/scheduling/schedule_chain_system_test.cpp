@@ -74,7 +74,8 @@ TEST_F(ScheduleChain, ReachesTheFolderAndTheMailboxWithinItsMinute) {
     PointMailTo(server);
     const std::string awkward = "It's 50% #1 $(touch injected) `id`;&| <x>";
     const std::string folder = (Home() / "out").string() + "\\";
-    SaveSchedule(application_, {awkward, "All Calls", "Daily", Delivery::ToFolder, folder, {}}, SaveMode::New);
+    SaveSchedule(application_, {awkward, "All Calls", "Daily", Delivery::ToFolder, folder, {}},
+                 SaveMode::New);
     SaveSchedule(application_, {"By mail", "All Calls", "Daily", Delivery::ByMail, "", {}}, SaveMode::New);
     CreateBackupTask(application_);
     LetAllRunNow();
