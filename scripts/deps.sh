@@ -5,7 +5,7 @@
 set -eu
 
 packages="
-    cmake ninja-build g++ pkg-config ccache dpkg-dev
+    git cmake ninja-build g++ pkg-config ccache dpkg-dev
     libsqlite3-dev libmariadb-dev libpq-dev unixodbc-dev libcurl4-openssl-dev libzip-dev libfmt-dev
     qt6-base-dev qt6-svg-dev qt6-webengine-dev libgl-dev libcups2-dev libqpdf-dev
     libgtest-dev libgmock-dev
