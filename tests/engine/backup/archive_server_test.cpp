@@ -1,5 +1,5 @@
-// Calls leave tblphonedata for a file or a table, with the same outcome on every server,
-// and none is lost when the work breaks off.
+// Calls leave tblphonedata for a file or a table, with the same outcome on every server, and
+// none is lost when the archiving fails.
 #include <gmock/gmock.h>
 
 #include "backup/archive.h"
@@ -15,22 +15,22 @@ using test::ReadLines;
 using test::RunProgram;
 using testing::SizeIs;
 
-/// Answers as a window would, and notes what it was told.
+/// Answers as a window would, and notes the calls it gets.
 class NotedView : public ArchiveView, public RunProgress {
 public:
-    void ShowProgress() override { told += "show "; }
+    void ShowProgress() override { shown += "show "; }
     ArchiveRequest Request() const override { return request; }
-    void LockInputs() override { told += "lock "; }
+    void LockInputs() override { shown += "lock "; }
     RunProgress& Records() override { return *this; }
-    void ClearInputs() override { told += "clear "; }
-    void HideProgress() override { told += "hide "; }
-    void ResetProgress() override { told += "reset"; }
+    void ClearInputs() override { shown += "clear "; }
+    void HideProgress() override { shown += "hide "; }
+    void ResetProgress() override { shown += "reset"; }
     void Record(std::int64_t record, std::int64_t) override {
         if (record == strikesAt) strike();
     }
 
     ArchiveRequest request;
-    std::string told;
+    std::string shown;
     std::int64_t strikesAt = 0;
     std::function<void()> strike;
 };
@@ -58,12 +58,12 @@ protected:
     NotedView view_;
 };
 
-TEST_P(Archives, TakeTheCallsWhoseTextLiesBetweenTheMonths) {
+TEST_P(Archives, TakeTheCallsWhoseTextIsBetweenTheMonths) {
     const std::string file = test_.Folder() / "out.SAF";
     view_.request = {ArchivePeriod::SelectedMonths, "",           "01/2010", "06/2010",
                      ArchiveDestination::ToFile,    {"any", file}};
     RunArchive(test_.application, view_);
-    EXPECT_EQ(view_.told, "show lock clear hide reset");
+    EXPECT_EQ(view_.shown, "show lock clear hide reset");
     EXPECT_EQ(test_.Rows(kCalls), "1|\n5|\n6|\n");
     EXPECT_EQ(RunProgram("/usr/bin/unzip", {"-t", file}).status, 0);
     EXPECT_EQ(RunProgram("/usr/bin/unzip", {"-p", file, "archive.tmp"}).out,
@@ -84,8 +84,7 @@ TEST_P(Archives, TakeTheYearIntoTheTableWithNullsAndSites) {
     EXPECT_EQ(test_.Rows(kArchived), "1|01/01/2010|0|001|\n2|31/06/2010|0|001|\n3|02/07/2010|NULL|002|\n");
     test_.Execute("DELETE FROM tblphonedata");
     test_.prompts.answers = {Answer::Yes};
-    EXPECT_THROW(RunArchive(test_.application, view_), DatabaseError)
-        << "a set that was not opened is closed";
+    EXPECT_THROW(RunArchive(test_.application, view_), DatabaseError) << "closes a set that was not opened";
     EXPECT_EQ(test_.prompts.messages.back().icon, MessageIcon::Critical);
 }
 
@@ -107,7 +106,7 @@ TEST(BrokenArchive, LosesNoCallWithItsServer) {
         };
         test.prompts.answers = {Answer::Yes};
         EXPECT_THROW(RunArchive(test.application, view), DatabaseError);
-        EXPECT_EQ(view.told, "show lock ");
+        EXPECT_EQ(view.shown, "show lock ");
         EXPECT_THAT(ReadLines(test.application.folder / "archive.tmp"), SizeIs(rows > 0 ? 0 : 2 + 4));
     }
 }

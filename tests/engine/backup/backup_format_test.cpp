@@ -62,11 +62,11 @@ TEST_F(AutomatedBackupTest, StopsAtARawLineThatCannotBeCut) {
         test.Execute("INSERT INTO tblrawdata(Data, SiteID) VALUES (" + std::string(data) + ", '001')");
         EXPECT_THROW(WriteAutomatedBackup(test.application), ConversionError) << data;
         EXPECT_THAT(ReadLines(File()), ElementsAre(StartsWith("INSERT INTO tblphonedata(")))
-            << "what was whole";
+            << "complete lines are kept";
     }
 }
 
-TEST_F(AutomatedBackupTest, EndsWhereTheFileCannotBeOpened) {
+TEST_F(AutomatedBackupTest, FailsWhereTheFileCannotBeOpened) {
     EXPECT_THROW(BackupWriter(test.Folder() / "no folder" / "x.sbk", test.events), std::runtime_error);
 }
 

@@ -10,7 +10,7 @@ namespace {
 TEST(BackupTaskTest, IsOneDailyEntryHoweverOftenItIsSaved) {
     test::TestApplication test;
     const std::filesystem::path folder = test.application.folder;
-    std::string batch;  // as it stands in the pause that is left to it
+    std::string batch;  // as it is while events are served
     test.events.onServe = [&] { batch = test::ReadBytes(folder / "CreateBKP.bat"); };
     test.crontab.Set("0 0 * * * foreign\n");
     CreateBackupTask(test.application);
@@ -22,7 +22,7 @@ TEST(BackupTaskTest, IsOneDailyEntryHoweverOftenItIsSaved) {
     DeleteBackupTask(test.application);
     EXPECT_EQ(test.crontab.Text(), "0 0 * * * foreign\n");
     for (const auto& entry : std::filesystem::directory_iterator(folder)) {
-        EXPECT_TRUE(entry.is_directory()) << entry.path() << " is left behind";
+        EXPECT_TRUE(entry.is_directory()) << entry.path() << " was not deleted";
     }
 }
 

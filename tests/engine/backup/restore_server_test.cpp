@@ -1,4 +1,4 @@
-// What a backup wrote on any server comes back on any other, and nothing but that.
+// A backup from any server restores on any other, and executes nothing else.
 #include "backup/restore.h"
 
 #include <gmock/gmock.h>
@@ -38,7 +38,7 @@ std::vector<std::string> Dump(TestApplication& from, const std::set<BackupGroup>
     const auto file = from.Folder() / "calls.sbk";
     WriteBackup(from.application, channel, file, groups, progress);
     std::vector<std::string> lines = ReadLines(file);
-    std::sort(lines.begin(), lines.end());  // a server promises no order
+    std::sort(lines.begin(), lines.end());  // a server guarantees no order
     return lines;
 }
 
@@ -51,7 +51,7 @@ std::vector<std::string> Difference(const std::vector<std::string>& one,
     return lines;
 }
 
-/// A value with an apostrophe, which nothing escapes.
+/// Has a value with an apostrophe, which is not escaped.
 bool IsDamaged(const std::string& line) {
     return std::count(line.begin(), line.end(), '\'') % 2 == 1;
 }

@@ -9,7 +9,7 @@
 namespace tallix {
 namespace {
 
-TEST(ZipFiles, GoThereAndBackAgain) {
+TEST(ZipFiles, AreReadByOtherProgramsAndUnzipped) {
     const test::TempFolder folder;
     const std::string root = folder.Path();
     folder.Write("below/a file.txt", std::string(100'000, 'x'));
@@ -20,7 +20,7 @@ TEST(ZipFiles, GoThereAndBackAgain) {
     zip.AskPassword = [](const std::string& question) { return question; };
     zip.AddFile("below");
     EXPECT_THROW(zip.AddFile("below"), ZipListError);
-    EXPECT_THROW(zip.RemoveFile("querty"), ZipListError) << "the marker is no file";
+    EXPECT_THROW(zip.RemoveFile("querty"), ZipListError) << "the marker is not a file";
     EXPECT_EQ(zip.MakeZipFile(), 0) << zip.GetLastMessage();
     const std::string question = "Please Enter The Password!";
     EXPECT_EQ(test::RunProgram("/usr/bin/unzip", {"-P", question, "-t", zip.ZipFileName}).status, 0);
@@ -38,7 +38,7 @@ TEST(ZipFiles, GoThereAndBackAgain) {
     EXPECT_EQ(std::filesystem::file_size(out), 100'000);
 }
 
-TEST(ZipFiles, ReturnTheFailureAndOnlyTellOfOneThatStopsTheBeginning) {
+TEST(ZipFiles, ReturnTheFailureAndShowOneThatStopsTheBeginning) {
     const test::TempFolder folder;
     folder.Write("archive.tmp", "text");
     NoEvents events;

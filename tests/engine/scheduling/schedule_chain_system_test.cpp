@@ -1,6 +1,6 @@
-// The whole way of a schedule: saved as the window saves it, kept in the user's real
-// crontab, fired by the real cron, run by the built program with no display, delivered to
-// a folder and to a mail server. The user's crontab is back in place afterwards.
+// A schedule from end to end: saved as the window saves it, kept in the user's real crontab,
+// started by the real cron, run by the built program with no display, delivered to a folder
+// and to a mail server. The user's crontab is restored afterwards.
 #include <gmock/gmock.h>
 
 #include <iostream>
@@ -45,7 +45,7 @@ protected:
         for (const auto& [name, value] : Environment()) unsetenv(name.c_str());
     }
 
-    /// Has every task run at the next minute.
+    /// Makes every task run at the next minute.
     static void LetAllRunNow() {
         const std::string text = RunChild({"env", "VISUAL=cat", "crontab", "-e"}).out;
         RunChild({"crontab", "-"},
@@ -79,7 +79,7 @@ TEST_F(ScheduleChain, ReachesTheFolderAndTheMailboxWithinItsMinute) {
     SaveSchedule(application_, {"By mail", "All Calls", "Daily", Delivery::ByMail, "", {}}, SaveMode::New);
     CreateBackupTask(application_);
     LetAllRunNow();
-    // Where the machine has one already, this one ends at once.
+    // Ends at once where the machine has a cron already.
     const test::RunningProgram cron("/usr/sbin/cron -f");
     const auto complete = [&] {
         return !server.Mails().empty() && !Delivered().empty() &&

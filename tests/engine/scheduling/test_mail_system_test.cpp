@@ -8,7 +8,7 @@
 namespace tallix {
 namespace {
 
-TEST(TestMailTest, GoesToTheFirstSiteAndTellsSoEvenWhenItFails) {
+TEST(TestMailTest, GoesToTheFirstSiteAndReportsSuccessEvenWhenItFails) {
     test::TestApplication world;
     const test::SmtpServer server({{"ann", "secret"}});
     TestMailInput input;
@@ -38,9 +38,6 @@ TEST(TestMailTest, GoesToTheFirstSiteAndTellsSoEvenWhenItFails) {
     ASSERT_EQ(mails.size(), 3U);
     EXPECT_EQ(mails[0].to, "manager@example.test");
     EXPECT_EQ(mails[0].user, "ann");
-    EXPECT_EQ(mails[0].headers.at("Subject"), "Tallix Test Email");
-    EXPECT_THAT(mails[0].body,
-                testing::StartsWith("This is a test email from Tallix Call Accounting System"));
     EXPECT_THAT(mails[0].attachments, testing::IsEmpty());
     EXPECT_THAT(mails[1].attachments, testing::ElementsAre(testing::Pair("Logo.jpg", "picture")));
     EXPECT_THAT(mails[2].attachments, testing::IsEmpty());

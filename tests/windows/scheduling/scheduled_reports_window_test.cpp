@@ -11,6 +11,7 @@ namespace {
 
 using ::testing::ElementsAre;
 using ::testing::EndsWith;
+using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 
 class ScheduledReportsWindowTest : public test::FormTest {
@@ -42,7 +43,7 @@ protected:
 
 TEST_F(ScheduledReportsWindowTest, OffersTheParametersThatAReportCanUse) {
     auto& reports = Labelled<QComboBox>("Select Preset Report:");
-    EXPECT_EQ(reports.count(), 2) << "a file of another prefix is no preset report";
+    EXPECT_EQ(reports.count(), 2) << "a file of another prefix is not a preset report";
     EXPECT_FALSE(reports.isEnabled());
     Click("Create New");
     reports.setCurrentText("Calls");
@@ -53,7 +54,7 @@ TEST_F(ScheduledReportsWindowTest, OffersTheParametersThatAReportCanUse) {
         }
         return labels;
     };
-    EXPECT_EQ(enabled(), "Date:") << "of True and true the first is told alone";
+    EXPECT_EQ(enabled(), "Date:") << "True allows a parameter, true does not";
     Type("Date:", "01/02/2021");
     reports.setCurrentText("Times");
     EXPECT_EQ(enabled(), "Site:Time:");
@@ -61,20 +62,16 @@ TEST_F(ScheduledReportsWindowTest, OffersTheParametersThatAReportCanUse) {
     EXPECT_EQ(Labelled<QComboBox>("Time:").count(), 1440);
 }
 
-TEST_F(ScheduledReportsWindowTest, RefusesWhatLacksInItsOrder) {
+TEST_F(ScheduledReportsWindowTest, RefusesWhatIsMissingInItsOrder) {
     Click("Create New");
     Click("Save Schedule");
+    EXPECT_EQ(LastMessage().text, "You have not entered a name for this task. Schedule Not Saved!");
     Type("Task Name:", "Week");
     Click("Save Schedule");
+    EXPECT_THAT(LastMessage().text, HasSubstr("a frequency"));
     Click("Weekly");
     Click("Save Schedule");
-    std::vector<std::string> texts;
-    for (const Message& message : world.prompts.messages)
-        texts.push_back(message.title + ": " + message.text);
-    EXPECT_THAT(texts,
-                ElementsAre("Tallix Reports: You have not entered a name for this task. Schedule Not Saved!",
-                            "Tallix Reports: You have not selected a frequency. Schedule Not Saved!",
-                            "Tallix Reports: You have not selected a report to be run. Schedule Not Saved!"));
+    EXPECT_THAT(LastMessage().text, HasSubstr("a report to be run"));
     EXPECT_TRUE(std::filesystem::is_empty(Scheduled()));
 }
 
@@ -102,7 +99,7 @@ TEST_F(ScheduledReportsWindowTest, SavesEditsAndDeletesAScheduleWithItsTask) {
     Labelled<QComboBox>("Time:").setCurrentText("09:00");
     Click("Save Schedule");
     EXPECT_EQ(world.crontab.Text(), "# Tallix_My Week\n1 * * * *" + command);
-    EXPECT_EQ(Listed(), QStringList({"My Week", "My Week"})) << "until the list is read anew";
+    EXPECT_EQ(Listed(), QStringList({"My Week", "My Week"})) << "until the list is loaded again";
     const ScheduledReport stored = ReadSchedule(world.application, "My Week");
     EXPECT_EQ(stored.output + stored.site + stored.timeStart, "EmailALL09:00");
 
@@ -118,7 +115,7 @@ TEST_F(ScheduledReportsWindowTest, SavesEditsAndDeletesAScheduleWithItsTask) {
     EXPECT_TRUE(std::filesystem::is_empty(Scheduled()));
 }
 
-TEST_F(ScheduledReportsWindowTest, StaysWhileATaskIsMade) {
+TEST_F(ScheduledReportsWindowTest, StaysOpenWhileATaskIsCreated) {
     toolkit::QtEvents events;
     world.events.queue = &events;
     Later([this] {
@@ -130,7 +127,7 @@ TEST_F(ScheduledReportsWindowTest, StaysWhileATaskIsMade) {
     RunToTheEnd();
 }
 
-TEST_F(ScheduledReportsWindowTest, ANameThatIsNoFileNameGoesNowhere) {
+TEST_F(ScheduledReportsWindowTest, ANameThatIsNotAFileNameIsNotSaved) {
     for (const char* name : {"../Standard/STD_Calls", "..\\..\\x", "/tmp/x"}) Create(name, "Daily");
     EXPECT_TRUE(std::filesystem::is_empty(Scheduled()));
     EXPECT_EQ(world.crontab.Text(), "");
