@@ -7,6 +7,7 @@
 #include <array>
 #include <optional>
 
+#include "administration/accounts.h"
 #include "costing/cost_computation.h"
 #include "session/access_rights.h"
 #include "toolkit/form_names.h"
@@ -16,7 +17,6 @@
 namespace tallix {
 namespace {
 
-constexpr char kAdministrator[] = "Administrator";
 constexpr char kComputeQuestion[] =
     "Tallix will now compute call cost data and save it back to the database for use in reports. Depending "
     "on the amount of call data you have, this process may take several minutes. Are you sure you wish to "
