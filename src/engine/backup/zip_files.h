@@ -98,7 +98,7 @@ public:
     bool ExtractNewer = false;      ///< writes over files that are older than their member
     bool ExtractOnlyNewer = false;  ///< the same
 
-    // Stored only: names, line ends and privileges are not changed, and there is no console.
+    // Stored without effect: names, line ends and privileges stay as they are, without a console.
     int MessageLevel = 0;
     bool WriteToStdOut = false;
     bool ConvertCRtoCRLF = false;

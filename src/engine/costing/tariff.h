@@ -17,7 +17,6 @@ public:
     /// outlive the tariff: numbers with other characters than digits are looked up by the
     /// server.
     explicit Tariff(const DatabaseScope& database);
-    explicit Tariff(const Session& session) : Tariff(session.DBConn) {}
 
     /// The cost of the "Default" row; zero where there is none.
     const UnitCost& Standard() const { return standard_; }
