@@ -1,5 +1,5 @@
-// What the servers that can be run take is shown on them (engines_server_test.cpp); here
-// stand the dialect of the one that cannot, and what running does not tell.
+// Servers that can be run show what they accept in engines_server_test.cpp. These tests hold the
+// dialect of the server that cannot, and what running does not show.
 #include "database/translation.h"
 
 #include <gtest/gtest.h>

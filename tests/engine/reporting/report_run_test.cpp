@@ -118,7 +118,7 @@ TEST_F(ReportRunTest, NamesNumbersAndCountries) {
                                     "07800900999,Beta,GBR,",    //
                                     "960123,Home,GBR,",         // the site's own
                                     "59999,Voicemail,GBR,",     //
-                                    "0912345,&nbsp;,GBR,",      // no prefix tells the two rows apart
+                                    "0912345,&nbsp;,GBR,",      // no prefix distinguishes the two rows
                                     "33123456789,&nbsp;,FRA,",  //
                                     "353123456,&nbsp;,IRL,",    //
                                     "3,&nbsp;,GBR,",            // too short for either search

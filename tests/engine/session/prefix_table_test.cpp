@@ -53,7 +53,7 @@ TEST(PrefixTable, FindCountsTheRowsThatBeginWithThePrefix) {
     EXPECT_EQ(PrefixTable(Rows{}).Find("0").rows, 0U);
 }
 
-TEST(PrefixTable, TellsNumbersThatEveryServerComparesAlike) {
+TEST(PrefixTable, RecognisesNumbersThatEveryServerComparesAlike) {
     for (const char* plain : {"", "01632960000", "+44*#"}) EXPECT_TRUE(IsPlainNumber(plain)) << plain;
     for (const char* other : {"0%", "0_1", "01 2", "x1", "0\"", "0'", "0\\", "\xC2\xB9"}) {
         EXPECT_FALSE(IsPlainNumber(other)) << other;

@@ -5,7 +5,7 @@
 namespace tallix {
 namespace {
 
-TEST(DecideRun, TellsTheRunFromTheRawText) {
+TEST(DecideRun, DecidesByTheRawText) {
     const std::pair<const char*, const char*> reports[] = {
         {"/t/Two  Words.SSR", "/t/Two  Words.SSR"},
         {"  /t/Daily.SSR", "/t/Daily.SSR"},

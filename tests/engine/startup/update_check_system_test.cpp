@@ -46,7 +46,7 @@ protected:
     test::HttpServer maker_;
 };
 
-TEST_F(UpdateCheckTest, TellsANewerVersionFromTheFirstLine) {
+TEST_F(UpdateCheckTest, ReadsANewerVersionFromTheFirstLine) {
     maker_.Publish(kManifest, "2.0.0\r\nsecond line\r\n");
     const UpdateNotice newer = Check();
     EXPECT_EQ(newer.text, "A newer version of Tallix is available! Click here to get it.");

@@ -67,7 +67,7 @@ TEST(CallGenerator, EndsForTheGreatestCount) {
 }
 
 // A tariff row is identified by its first digits.
-TEST(NumberRanges, CanBeToldApartByTheTariff) {
+TEST(NumberRanges, AreDistinctInTheTariff) {
     std::vector<std::string> prefixes;
     for (const NumberRange& range : NumberRanges()) prefixes.push_back(Replace(range.prefix, " ", ""));
     for (const DemoSite& site : DemoSites()) {

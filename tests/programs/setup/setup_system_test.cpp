@@ -102,7 +102,7 @@ TEST_F(SetupSystem, StoresNoAddressThatItDidNotReach) {
     }
 }
 
-TEST_F(SetupSystem, TellsWhatIsMissingOrCannotBeWritten) {
+TEST_F(SetupSystem, ReportsWhatIsMissingOrCannotBeWritten) {
     Folder().Write("file", "");
     ExpectFailure(RunSetup({}, "file"), "setting DBType cannot be written");
     EXPECT_FALSE(std::filesystem::exists(Home() / "tallix.db"));
