@@ -67,7 +67,7 @@ QWidget* ToolsPage::ToolPanel() {
         toolkit::MakeQuiet(*purpose);
         grid->addWidget(button, static_cast<int>(buttons_.size()), 0);
         grid->addWidget(purpose, static_cast<int>(buttons_.size()), 1);
-        connect(button, &QPushButton::clicked, this, [this, &tool] { Start(tool.form); });
+        connect(button, &QPushButton::clicked, this, [this, form = tool.form] { Start(form); });
         buttons_.push_back(button);
     }
     return panel;
