@@ -8,7 +8,6 @@
 #include <chrono>
 #include <utility>
 
-#include "session/database.h"
 #include "toolkit/style.h"
 #include "toolkit/unload_orders.h"
 
@@ -137,16 +136,13 @@ void StatisticsWindow::OnLoad() {
 void StatisticsWindow::Refresh() {
     refreshTimer_.stop();
     waiting_->show();
-    Session& session = Program().session;
-    OpenDatabase(session);
-    calls_.Open("select * from tblphonedata", OpenConnection(session));
-    totalCalls_->setText(QString::number(calls_.RecordCount()));
+    statistics_.emplace(Program().session.database);
+    totalCalls_->setText(QString::number(statistics_->TotalCalls()));
 }
 
 void StatisticsWindow::OnUnload() {
     refreshTimer_.stop();
-    calls_.Close();
-    CloseDatabase(Program().session);
+    statistics_.reset();
     MainWindow::OnUnload();
 }
 

@@ -1,13 +1,14 @@
 // The main menu with call statistics ("Form18"). It opens where the session's UseStatsMain
-// is set, which nothing sets at present. Of the statistics the number of calls is filled.
+// is set, which nothing sets at present. Only the number of calls is filled in.
 #pragma once
 
 #include <QFrame>
 #include <QGroupBox>
 #include <QLabel>
 #include <QTimer>
+#include <optional>
 
-#include "database/recordset.h"
+#include "reporting/call_statistics.h"
 #include "reporting/plot.h"
 #include "windows/session/main_window.h"
 
@@ -39,7 +40,7 @@ protected:
     void OnLoad() override;
     void OnUnload() override;
 
-    /// Leaves without a word: no log row, no file deleted.
+    /// Leaves silently: writes no log row and deletes no file.
     void ExitReports() override;
 
 private:
@@ -55,7 +56,7 @@ private:
     QLabel* emergencyCalls_;
     QGroupBox* waiting_;
 
-    ado::Recordset calls_;  ///< stays open until the form goes
+    std::optional<CallStatistics> statistics_;  ///< from the first refresh until the form goes
 };
 
 }  // namespace tallix

@@ -21,7 +21,7 @@ protected:
         UnderTest<AboutWindow>(kAboutForm, world.application);
         UnderTest<StatisticsWindow>(kStatisticsForm, world.application);
         UnderTest<MainWindow>(kMainForm, world.application);
-        StandIn({kPresetReportsForm, kCoverPagesForm, kLoginForm});
+        AddEmptyForms({kPresetReportsForm, kCoverPagesForm, kLoginForm});
     }
 
     std::vector<std::string> ShownEntries() {
@@ -57,7 +57,7 @@ TEST_F(MainWindowTest, AnEntryOpensItsWindowAndHidesTheMenuByMouseAndByKey) {
     EXPECT_EQ(forms.Find(kMainForm), &menu);
     menu.show();
     Click("Archive");
-    EXPECT_TRUE(menu.isVisible()) << "there is no such window";
+    EXPECT_TRUE(menu.isVisible()) << "that form is not registered";
 }
 
 TEST_F(MainWindowTest, EntriesHaveTheirPicturesAndOnlyExportKeepsItsLookUnderTheMouse) {
@@ -123,7 +123,6 @@ TEST_F(MainWindowTest, TheStatisticsMenuCountsTheCallsAndLeavesWithoutAWord) {
     Click("Refresh Stats");
     EXPECT_EQ(Window().findChild<QLabel*>("TotalCalls")->text(), "3");
     EXPECT_TRUE(Window().findChild<QWidget*>("PleaseWait")->isVisible());
-    EXPECT_TRUE(world.application.session.DBConn.IsOpen());
 
     std::vector<std::string> stops;
     const QWidget* stop = &Button("Options");
