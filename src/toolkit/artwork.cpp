@@ -16,7 +16,7 @@ constexpr int kBarWidth = kGrid;
 constexpr int kBarGap = kGrid / 2;
 constexpr int kMarkHeight = 8 * kGrid;
 
-// Heights of the bars in grid steps: a day's calls, say.
+// Heights of the bars in grid steps.
 constexpr std::array<int, kEntryColours.size()> kBarHeights = {3, 5, 4, 7, 6, 8};
 
 }  // namespace

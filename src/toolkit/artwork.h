@@ -29,7 +29,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 };
 
-/// The row that windows begin with: the mark, and beside it a heading over `below`.
+/// The first row of a window: the mark, and next to it a heading above `below`.
 QLayout* ProductTitle(QWidget* window, const QString& heading, QLabel* below);
 
 }  // namespace tallix::toolkit

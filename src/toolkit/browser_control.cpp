@@ -5,8 +5,8 @@
 
 namespace tallix::toolkit {
 
-// A page that is seen while it loads is laid out again and again, which takes several
-// times as long as all else; it is shown when it is there.
+// A visible page is laid out again and again while it loads, which takes several times as
+// long as everything else. It is shown when it has been loaded.
 BrowserControl::BrowserControl(const SettingsStore& settings, Printers& printers, QWidget* parent)
     : QWidget(parent),
       settings_(settings),
@@ -25,7 +25,7 @@ BrowserControl::BrowserControl(const SettingsStore& settings, Printers& printers
     connect(page_.get(), &LocalPage::Failed, this, &BrowserControl::NavigateError);
 }
 
-// A print job may still hold the page.
+// A print job may still own the page.
 BrowserControl::~BrowserControl() {
     view_->setPage(nullptr);
 }

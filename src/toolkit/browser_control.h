@@ -26,19 +26,19 @@ public:
     BrowserControl(const SettingsStore& settings, Printers& printers, QWidget* parent = nullptr);
     ~BrowserControl() override;
 
-    /// Begins to load a file as a page, and returns. The file may be deleted at once.
+    /// Starts to load a file as a page and returns. The file may be deleted at once.
     void Navigate(const std::filesystem::path& file);
 
-    /// Whether the page is still on its way.
+    /// Whether the page is still loading.
     bool Busy() const { return page_->IsLoading(); }
 
-    /// Prints the page, once it is there, on the printer that the print dialog names or on
+    /// Prints the page once it is loaded, on the printer that the print dialog returns or on
     /// the current one. Header and footer are those of the settings at the time of the
-    /// call; the printing itself is not waited for.
+    /// call. Does not wait for the printing.
     void ExecWB(BrowserCommand command, PrintOption option);
 
 signals:
-    /// The file could not be loaded, or what draws it has died.
+    /// The file could not be loaded, or its renderer has crashed.
     void NavigateError();
 
 private:

@@ -7,8 +7,8 @@
 
 namespace tallix::toolkit {
 
-/// What acts on the contents stands at the left, what ends with them at the right. The
-/// layout belongs to whoever adds it to another.
+/// Buttons that act on the contents are at the left, those that close the window at the
+/// right. The caller owns the layout.
 QBoxLayout* ButtonRow(const QList<QPushButton*>& left, const QList<QPushButton*>& right);
 
 }  // namespace tallix::toolkit

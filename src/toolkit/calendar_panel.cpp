@@ -75,7 +75,7 @@ void CalendarPanel::Open(const QDate& today, const QWidget& anchor) {
     calendar_->setFocus();
 }
 
-// A day that is chosen with Enter is told twice; the second time the panel is gone.
+// A day that is chosen with Enter is reported twice; the second time the panel is hidden.
 void CalendarPanel::Choose(const QDate& day) {
     if (!isVisible()) return;
     hide();

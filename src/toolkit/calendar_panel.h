@@ -1,4 +1,4 @@
-// A month calendar that stands by an input until a day is clicked or something else is.
+// A month calendar next to an input. It closes when a day, or anything else, is clicked.
 #pragma once
 
 #include <QCalendarWidget>

@@ -5,7 +5,7 @@
 
 namespace tallix::toolkit {
 
-/// Holds every minute of the day, and nothing until a person chooses or types one.
+/// Offers every minute of the day. Empty until a person chooses or types one.
 QComboBox* MakeTimeList();
 
 }  // namespace tallix::toolkit

@@ -11,8 +11,8 @@ namespace tallix::toolkit {
 class EntryButton : public QPushButton {
     Q_OBJECT
 public:
-    /// `picture` names a pair of pictures that come with the program. With no hover effect
-    /// the entry looks the same under the mouse.
+    /// `picture` names a pair of pictures that come with the program. Without a hover
+    /// effect the entry looks the same under the mouse.
     EntryButton(const QString& label, const QString& picture, QColor colour, bool hasHoverEffect,
                 QWidget* parent = nullptr);
 

@@ -1,6 +1,6 @@
-// A small form laid over a page: a title, inputs with their labels, and the buttons "Save"
-// and "Cancel". The keyboard stays in it until one of them is pressed and then goes back to
-// where it was; Enter saves where the input takes no Enter itself, Escape cancels.
+// A small form over a page: inputs with their labels, and the buttons "Save" and "Cancel".
+// Enter saves where the input does not take Enter itself, Escape cancels, and the keyboard
+// then goes back to where it was.
 //
 //     panel_ = new toolkit::EntryPanel(*this);
 //     panel_->AddInput("Number:", number_);
@@ -8,15 +8,15 @@
 //     ... panel_->Open("Add Number"); ... panel_->hide();
 #pragma once
 
+#include <QDialogButtonBox>
 #include <QFormLayout>
-#include <QPointer>
 #include <QPushButton>
 
-#include "toolkit/overlay.h"
+#include "toolkit/panel.h"
 
 namespace tallix::toolkit {
 
-class EntryPanel : public Overlay {
+class EntryPanel : public Panel {
     Q_OBJECT
 public:
     explicit EntryPanel(QWidget& page);
@@ -31,26 +31,22 @@ public:
     QPushButton& SaveButton() const { return *save_; }
     QPushButton& CancelButton() const { return *cancel_; }
 
-    /// Shows the panel and gives the focus to its first enabled input.
+    /// Shows the panel and gives the focus to its first enabled input. "Cancel" and Escape
+    /// hide it and emit QDialog::rejected.
     void Open(const QString& title);
 
 signals:
-    /// "Save" was pressed. The panel stays open: whoever saves hides it, or not when the
-    /// inputs are refused.
+    /// "Save" was pressed. The panel stays open: the slot hides it unless it refuses the
+    /// inputs.
     void Saved();
 
-    /// "Cancel" was pressed, and the panel is hidden.
-    void Cancelled();
-
 private:
-    void hideEvent(QHideEvent* event) override;
-    bool focusNextPrevChild(bool next) override;
-    QList<QWidget*> FocusChain() const;
+    void FocusFirstInput();
 
     QFormLayout* inputs_;
+    QDialogButtonBox* buttons_;
     QPushButton* save_;
     QPushButton* cancel_;
-    QPointer<QWidget> focusBefore_;  ///< has it again when the panel is gone
 };
 
 }  // namespace tallix::toolkit

@@ -15,18 +15,18 @@ public:
     /// `forms` must outlive the form.
     Form(Forms& forms, const QString& caption);
 
-    /// Ends this form. What follows in the caller still runs; the form itself is
-    /// destroyed when control is back in the event loop.
+    /// Unloads this form. It is destroyed when control returns to the event loop, so the
+    /// caller may still use it.
     void Unload();
 
 protected:
-    /// Run once, when the form has been made and has its name.
+    /// Called once, when the form has its name.
     virtual void OnLoad() {}
 
-    /// Run once, before the form goes.
+    /// Called once, before the form is destroyed.
     virtual void OnUnload() {}
 
-    /// The way to the other windows.
+    /// For opening other windows.
     Forms& OtherForms() const { return forms_; }
 
     /// Closing the window unloads the form.

@@ -38,8 +38,8 @@ void Forms::Hide(const QString& name) {
     if (Form* form = Find(name)) form->hide();
 }
 
-// The form may be the one whose event is being served: it is taken off the list at
-// once, and destroyed when control is back in the event loop.
+// The form may be the one whose event is being handled. It leaves the list at once, and
+// is destroyed when control returns to the event loop.
 void Forms::Unload(const QString& name) {
     Form* form = Find(name);
     if (form == nullptr) return;
@@ -51,8 +51,8 @@ void Forms::Unload(const QString& name) {
     loaded_.erase(place);
 }
 
-// Asked when an unloaded form is destroyed: the action that unloaded it is over then. So
-// one action may unload every form, show a message, and load another form.
+// Called when an unloaded form is destroyed, after the action that unloaded it. So an
+// action may unload every form, show a message, and load another form.
 void Forms::EndWhenEmpty() {
     if (loaded_.empty()) QCoreApplication::quit();
 }

@@ -1,11 +1,11 @@
-// The forms of the program by name, and their life: a form is made when it is first
-// loaded, may be shown and hidden any number of times, and is gone when unloaded; the
-// next load makes a fresh one. The process ends when the last form has been unloaded.
+// The forms of the program by name. A form is made when it is first loaded, may be shown
+// and hidden any number of times, and is destroyed when unloaded. The next load makes a
+// new one. The process ends when the last form has been unloaded.
 //
 //     forms.Register("Form6", [&] { return std::make_unique<LoginWindow>(forms, application); });
 //     forms.Show("Form6");
 //
-// Windows open one another by name through this object, so that none includes another.
+// Windows open one another by name through this object, without including each other.
 #pragma once
 
 #include <QObject>
@@ -28,8 +28,8 @@ public:
 
     void Register(const QString& name, Factory factory);
 
-    /// The loaded form of that name, made now where none is. Null for a name that
-    /// nobody registered; Show, Hide and Unload pass over such a name.
+    /// The form of that name, which is made now unless it is loaded. Null for a name that
+    /// is not registered. Show, Hide and Unload ignore such a name.
     Form* Load(const QString& name);
     void Show(const QString& name);
     void Hide(const QString& name);

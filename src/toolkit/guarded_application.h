@@ -1,6 +1,6 @@
-// The toolkit's application object, which catches what no handler caught: the toolkit
-// cannot carry an exception through its event loop. The first one is handed to the
-// failure handler and ends the event loop with status 1.
+// The Qt application object. It catches what no handler caught, since exceptions cannot
+// pass through Qt's event loop. The first one is passed to the failure handler and ends
+// the event loop with status 1.
 #pragma once
 
 #include <QApplication>
@@ -14,7 +14,7 @@ class GuardedApplication : public QApplication {
 public:
     using FailureHandler = std::function<void(const std::exception&)>;
 
-    /// `argumentCount` must outlive the application, as the toolkit asks.
+    /// `argumentCount` must outlive the application.
     GuardedApplication(int& argumentCount, char** arguments, FailureHandler onFailure);
 
     bool notify(QObject* receiver, QEvent* event) override;

@@ -59,7 +59,7 @@ public:
 
     /// Lets a person edit cells in place: a double click opens a cell, with all of its text
     /// selected, and F2 the cells of the selected row in turn. Enter, or going elsewhere,
-    /// writes the text to the model. There is no other way out: Escape does not cancel.
+    /// writes the text to the model. Escape does not cancel.
     void EnableEditing();
 
     using QTreeView::edit;

@@ -22,11 +22,11 @@ constexpr char kOpenFiles[] = "/proc/self/fd/";
 constexpr char kFlagsVariable[] = "QTWEBENGINE_CHROMIUM_FLAGS";
 constexpr char kAccessibleVariable[] = "QTWEBENGINE_ENABLE_LINUX_ACCESSIBILITY";
 
-// The older layout takes less than half of the memory for a table, in whose cells a
-// report page consists; the newer one ends at a limit that no setting raises.
+// The older layout needs less than half of the memory for a table, and a report page is
+// one large table. The newer layout has a limit that no setting raises.
 constexpr char kLayoutFlags[] = " --disable-blink-features=LayoutNG,LayoutNGTable";
 
-// Read by the browser when its first page is made, and by nobody later.
+// The browser reads these only when its first page is made.
 void PrepareBrowser() {
     static const bool prepared = [] {
         QWebEngineUrlScheme scheme(kScheme);
@@ -34,7 +34,7 @@ void PrepareBrowser() {
         scheme.setFlags(QWebEngineUrlScheme::LocalScheme | QWebEngineUrlScheme::LocalAccessAllowed);
         QWebEngineUrlScheme::registerScheme(scheme);
         qputenv(kFlagsVariable, qgetenv(kFlagsVariable) + kLayoutFlags);
-        // A page is told to a screen reader only where one is at work: it costs memory.
+        // Pages are announced only while a screen reader is running: it costs memory.
         if (QAccessible::isActive()) qputenv(kAccessibleVariable, "1");
         // The browser refuses to run as root inside its sandbox.
         if (geteuid() == 0) qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
@@ -82,8 +82,8 @@ void ReportFiles::requestStarted(QWebEngineUrlRequestJob* job) {
     job->reply(type.toUtf8(), picture.release());
 }
 
-// Each request reads the open file from its beginning by itself, even a deleted one: a
-// load that another one replaced may have asked for it already.
+// Each request reads the open file from its beginning, even when it has been deleted: a
+// load that was replaced by another may have asked for it before.
 void ReportFiles::SendReport(QWebEngineUrlRequestJob& job) {
     if (!opened_) return job.fail(QWebEngineUrlRequestJob::UrlNotFound);
     auto report = std::make_unique<QFile>(kOpenFiles + QString::number(opened_->handle()));
@@ -113,7 +113,7 @@ void LocalPage::Load(const std::filesystem::path& file) {
     page_.load(UrlOf(QString::fromStdString(std::filesystem::absolute(file).string())));
 }
 
-// A load that another one replaced is "stopped" and of no concern.
+// A load that was replaced by another reports "stopped", which is ignored.
 void LocalPage::Follow(const QWebEngineLoadingInfo& info) {
     if (info.status() == QWebEngineLoadingInfo::LoadFailedStatus) return Fail();
     if (info.status() != QWebEngineLoadingInfo::LoadSucceededStatus) return;

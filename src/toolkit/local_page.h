@@ -3,7 +3,7 @@
 // this machine, with "\" or "/" between their folders. Nothing else is fetched, no
 // script runs and no link is followed: report rows carry text from outside.
 //
-// A page stands by itself, so that a print job can keep it when its window is gone.
+// A page does not belong to a window, so that a print job can keep it when its window is gone.
 #pragma once
 
 #include <QFile>
@@ -31,7 +31,7 @@ private:
     std::unique_ptr<QFile> opened_;  ///< null where it could not be opened
 };
 
-/// Lets requests for files of this machine pass, and none other.
+/// Lets only requests for files of this machine pass.
 class LocalRequestsOnly : public QWebEngineUrlRequestInterceptor {
 public:
     void interceptRequest(QWebEngineUrlRequestInfo& request) override;
@@ -42,7 +42,7 @@ class LocalPage : public QObject {
 public:
     LocalPage();
 
-    /// Begins to load a file in place of the present one, and returns.
+    /// Starts to load a file in place of the present one and returns.
     void Load(const std::filesystem::path& file);
 
     bool IsLoading() const { return loading_; }
@@ -50,8 +50,8 @@ public:
     QWebEnginePage& Page() { return page_; }
 
 signals:
-    /// The latest file is there, or could not be loaded: no such file, or the process
-    /// that draws it has died.
+    /// The latest file has been loaded, or could not be: it does not exist, or the
+    /// process that renders it has crashed.
     void Loaded();
     void Failed();
 

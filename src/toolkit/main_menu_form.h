@@ -1,4 +1,4 @@
-// The way back to the main menu, for every window that hid it.
+// Shows the main menu again, for the windows that were opened from it.
 #pragma once
 
 #include "session/session.h"
@@ -9,7 +9,7 @@ namespace tallix::toolkit {
 /// The name of the form that is the main menu of this session.
 const char* MainMenuForm(const Session& session);
 
-/// Shows it, loading it where it is not.
+/// Shows the main menu, and loads it first where needed.
 void ShowMainMenu(Forms& forms, const Session& session);
 
 }  // namespace tallix::toolkit

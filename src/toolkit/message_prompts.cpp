@@ -4,6 +4,7 @@
 #include <QColorDialog>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <algorithm>
 
 namespace tallix::toolkit {
 namespace {
@@ -43,34 +44,41 @@ std::optional<std::filesystem::path> Chosen(const QString& path) {
     return std::filesystem::path(path.toStdString());
 }
 
+// The active window. For a moment after a panel has closed none is active.
+QWidget* Owner() {
+    if (QWidget* active = QApplication::activeWindow()) return active;
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    const auto shown = std::find_if(windows.begin(), windows.end(), [](const QWidget* window) {
+        return window->isVisible() && window->windowType() == Qt::Window;
+    });
+    return shown == windows.end() ? nullptr : *shown;
+}
+
 }  // namespace
 
 Answer MessagePrompts::Show(const Message& message) {
     QMessageBox box(IconOf(message.icon), QString::fromStdString(message.title),
-                    QString::fromStdString(message.text), ButtonsOf(message.buttons),
-                    QApplication::activeWindow());
+                    QString::fromStdString(message.text), ButtonsOf(message.buttons), Owner());
     box.setTextFormat(Qt::PlainText);
     return AnswerOf(box.exec(), message.buttons);
 }
 
 std::optional<std::filesystem::path> MessagePrompts::AskOpenFile(const FileQuestion& question) {
-    return Chosen(QFileDialog::getOpenFileName(
-        QApplication::activeWindow(), QString::fromStdString(question.title), {}, FilterOf(question)));
+    return Chosen(QFileDialog::getOpenFileName(Owner(), QString::fromStdString(question.title), {},
+                                               FilterOf(question)));
 }
 
 std::optional<std::filesystem::path> MessagePrompts::AskSaveFile(const FileQuestion& question) {
-    return Chosen(QFileDialog::getSaveFileName(
-        QApplication::activeWindow(), QString::fromStdString(question.title), {}, FilterOf(question)));
+    return Chosen(QFileDialog::getSaveFileName(Owner(), QString::fromStdString(question.title), {},
+                                               FilterOf(question)));
 }
 
 std::optional<std::filesystem::path> MessagePrompts::AskFolder(const std::string& title) {
-    return Chosen(
-        QFileDialog::getExistingDirectory(QApplication::activeWindow(), QString::fromStdString(title)));
+    return Chosen(QFileDialog::getExistingDirectory(Owner(), QString::fromStdString(title)));
 }
 
 std::optional<Colour> MessagePrompts::AskColour(const std::string& title) {
-    const QColor colour =
-        QColorDialog::getColor(Qt::white, QApplication::activeWindow(), QString::fromStdString(title));
+    const QColor colour = QColorDialog::getColor(Qt::white, Owner(), QString::fromStdString(title));
     if (!colour.isValid()) return std::nullopt;
     return Colour{colour.red(), colour.green(), colour.blue()};
 }

@@ -1,6 +1,6 @@
 #include "toolkit/page_stamp.h"
 
-// The document library's pointers are those of the standard library.
+// Makes the document library use the standard library's pointers.
 #define POINTERHOLDER_TRANSITION 4
 
 #include <QBuffer>
@@ -41,7 +41,7 @@ void DrawLine(QPainter& painter, const QRectF& area, const PageLine& line) {
     painter.drawText(area, Qt::AlignRight | Qt::AlignVCenter, QString::fromStdString(line.right));
 }
 
-/// A document of the same number of pages that holds nothing but headers and footers.
+/// A document of the same number of pages with only headers and footers.
 QByteArray DrawStamps(const QSizeF& size, const PageSetup& setup, int pages) {
     QByteArray bytes;
     QBuffer buffer(&bytes);
@@ -105,7 +105,7 @@ QByteArray Stamp(const QByteArray& pdf, const PageSetup& setup) {
 QByteArray StampPages(const QByteArray& pdf, const PageSetup& setup) {
     try {
         return Stamp(pdf, setup);
-    } catch (const std::exception&) {  // the library's own, for a document that is none
+    } catch (const std::exception&) {  // from the library, for bytes that are not a document
         return {};
     }
 }

@@ -1,6 +1,7 @@
 #include "toolkit/permission_list.h"
 
 #include "toolkit/style.h"
+#include "toolkit/text.h"
 
 namespace tallix::toolkit {
 namespace {
@@ -13,8 +14,7 @@ PermissionList::PermissionList(QWidget* parent) : QListWidget(parent) {
     setMinimumHeight(kHeight);
     ensurePolished();  // rows that are scrolled before they show are measured with the right style
     for (const std::string_view label : kRightLabels) {
-        auto* right =
-            new QListWidgetItem(QString::fromUtf8(label.data(), static_cast<qsizetype>(label.size())), this);
+        auto* right = new QListWidgetItem(ToQString(label), this);
         right->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
         right->setCheckState(Qt::Unchecked);
     }

@@ -14,7 +14,7 @@ namespace tallix::toolkit {
 namespace {
 
 constexpr char kUntitled[] = "Tallix Reports";
-constexpr std::chrono::minutes kLongestWait{5};  ///< of a process that ends for one job
+constexpr std::chrono::minutes kLongestWait{5};  ///< of an ending process for one job
 
 // Room for a header and a footer in the margins.
 const QPageLayout& SheetLayout() {

@@ -1,7 +1,7 @@
-// A page on its way to a printer. The job stands by itself: it waits until the page is
-// loaded, has it drawn as a document, stamps header and footer on it, gives it to the
-// spooler and destroys itself. The window that began it may be gone by then; a process
-// that ends waits for its jobs.
+// Prints a page. The job owns itself: it waits until the page is loaded, renders it as a
+// document, stamps header and footer on it, passes it to the spooler and destroys itself.
+// The window that started it may be gone by then. A process that ends waits for its
+// jobs.
 #pragma once
 
 #include <QObject>
@@ -16,7 +16,7 @@ namespace tallix::toolkit {
 class PrintJob : public QObject {
     Q_OBJECT
 public:
-    /// Begins the job. What fails on the way ends it without a word.
+    /// Starts the job. A failure ends it silently.
     static void Start(std::shared_ptr<LocalPage> page, PageSetup setup, PrintTicket ticket);
 
 private:

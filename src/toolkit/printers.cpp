@@ -20,7 +20,7 @@ std::vector<std::string> Printers::Names() const {
     return names;
 }
 
-// Without a printer the dialog would offer files alone, and there is no printing to one.
+// Without a printer the dialog would offer files alone, and pages are not printed to files.
 std::optional<PrintTicket> Printers::Ask(QWidget* parent) const {
     if (Names().empty()) return {};
     QPrinter printer;

@@ -1,4 +1,4 @@
-// The print system: the devices there are, the one that is current, and the print
+// The print system: its devices, the current one, and the print
 // dialog.
 #pragma once
 
@@ -19,7 +19,7 @@ public:
     /// The device names, as the print system lists them now.
     virtual std::vector<std::string> Names() const;
 
-    /// The print dialog, over `parent`. Nothing when cancelled, or when there is no
+    /// The print dialog, over `parent`. Nothing when cancelled, or without a
     /// printer to choose.
     virtual std::optional<PrintTicket> Ask(QWidget* parent) const;
 

@@ -8,7 +8,7 @@ namespace tallix::toolkit {
 namespace {
 
 constexpr std::chrono::milliseconds kPaintInterval{50};
-constexpr int kCardWidth = 48 * kGrid;
+constexpr int kPanelWidth = 48 * kGrid;
 
 }  // namespace
 
@@ -53,15 +53,16 @@ void ProgressLine::ShowText(const QString& text) {
 }
 
 ProgressPanel::ProgressPanel(QWidget& window, const QString& title, const QString& text)
-    : Overlay(window, title) {
+    : Panel(window, title) {
     setCursor(Qt::BusyCursor);
-    Card().setFixedWidth(kCardWidth);
-    CardRows().addWidget(new QLabel(text, &Card()));
+    setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
+    setFixedWidth(kPanelWidth);
+    if (!text.isEmpty()) Contents().addWidget(new QLabel(text));
 }
 
 ProgressLine& ProgressPanel::AddLine(EventQueue& events, const QString& pattern) {
-    auto* line = new ProgressLine(events, pattern, &Card());
-    CardRows().addWidget(line);
+    auto* line = new ProgressLine(events, pattern, this);
+    Contents().addWidget(line);
     return *line;
 }
 

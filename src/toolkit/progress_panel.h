@@ -1,5 +1,5 @@
-// What a window shows of its own long work: a card over the greyed window with a title,
-// what is being done, and a bar with its text for each kind of record that is counted.
+// Says what a window is at work on: a title, a text, and a bar for each kind of record that
+// is counted. It blocks the window, and cannot be closed.
 //
 //     ProgressPanel panel(window, "Please Wait", "Your selected report is being generated.");
 //     ProgressLine& records = panel.AddLine(application.events, "Processing Record %1 Of %2");
@@ -13,7 +13,7 @@
 
 #include "host/event_queue.h"
 #include "host/run_progress.h"
-#include "toolkit/overlay.h"
+#include "toolkit/panel.h"
 
 namespace tallix::toolkit {
 
@@ -22,14 +22,14 @@ namespace tallix::toolkit {
 class ProgressLine : public QWidget, public RunProgress {
     Q_OBJECT
 public:
-    /// `pattern` has "%1" for the record and "%2" for the bound, where they are told at all. `events` are
-    /// served at every record and must outlive the line.
+    /// `pattern` may have "%1" for the record and "%2" for the bound. `events` are served at
+    /// every record and must outlive the line.
     ProgressLine(EventQueue& events, const QString& pattern, QWidget* parent = nullptr);
 
     void Record(std::int64_t record, std::int64_t bound) override;
 
-    /// A text in place of the record's, painted at once: what follows may not come back
-    /// to the event loop for a while.
+    /// A text in place of the record's, painted at once: what follows may not return to
+    /// the event loop for a while.
     void ShowText(const QString& text);
 
     /// Back to the beginning, with no text.
@@ -45,14 +45,17 @@ private:
     Moment shown_{};
 };
 
-class ProgressPanel : public Overlay {
+class ProgressPanel : public Panel {
     Q_OBJECT
 public:
-    /// Hidden until shown. Covers `window`, whose inputs the caller disables.
+    /// Hidden until shown. An empty `text` takes no room.
     ProgressPanel(QWidget& window, const QString& title, const QString& text);
 
     /// The line belongs to the panel.
     ProgressLine& AddLine(EventQueue& events, const QString& pattern);
+
+    /// Escape and the window manager do not close it.
+    void reject() override {}
 };
 
 }  // namespace tallix::toolkit

@@ -1,14 +1,16 @@
 #include "toolkit/qt_events.h"
 
 #include <QCoreApplication>
+#include <QEventLoop>
+#include <QThread>
 #include <future>
+#include <memory>
 
 namespace tallix::toolkit {
 namespace {
 
 constexpr std::chrono::milliseconds kPaintInterval{50};
 constexpr std::chrono::milliseconds kPause{5};
-constexpr std::chrono::milliseconds kWorkInterval{10};
 
 }  // namespace
 
@@ -22,8 +24,14 @@ void QtEvents::Serve() {
 }
 
 void QtEvents::ServeDuring(const std::function<void()>& work) {
-    std::future<void> outcome = std::async(std::launch::async, work);
-    while (outcome.wait_for(kWorkInterval) != std::future_status::ready) QCoreApplication::processEvents();
+    std::packaged_task<void()> task(work);  // which keeps what the work throws
+    std::future<void> outcome = task.get_future();
+    const std::unique_ptr<QThread> thread(QThread::create([&task] { task(); }));
+    QEventLoop loop;
+    QObject::connect(thread.get(), &QThread::finished, &loop, &QEventLoop::quit);
+    thread->start();
+    loop.exec();
+    thread->wait();
     outcome.get();
 }
 

@@ -1,5 +1,5 @@
-// A small coloured report: title bar, table head, rows of which every second one is
-// shaded, and the bar of the totals.
+// A small coloured report: title bar, table head, rows with every second one shaded, and
+// the bar of the totals.
 #pragma once
 
 #include <QColor>

@@ -1,5 +1,5 @@
-// The orders in which the program's windows are unloaded when a person leaves. Names of
-// forms that are not loaded are passed over.
+// The orders in which windows are unloaded when a person leaves. Forms that are not loaded
+// are skipped.
 #pragma once
 
 #include <array>

@@ -3,19 +3,14 @@
 namespace tallix::toolkit {
 
 WaitPanel::WaitPanel(QWidget& widget, const QString& title, const QString& text)
-    : window_(*widget.window()), held_(window_), panel_(window_, title, text) {}
+    : held_(*widget.window()), panel_(*widget.window(), title, text) {}
 
 ProgressLine& WaitPanel::AddLine(EventQueue& events, const QString& pattern) {
     return panel_.AddLine(events, pattern);
 }
 
-void WaitPanel::Show() {
-    panel_.show();
-    window_.repaint();
-}
-
-void WorkUnderPanel(QWidget& widget, EventQueue& events, const QString& title, const QString& text,
-                    const std::function<void()>& work) {
+void RunWithPanel(QWidget& widget, EventQueue& events, const QString& title, const QString& text,
+                  const std::function<void()>& work) {
     WaitPanel panel(widget, title, text);
     panel.Show();
     events.ServeDuring(work);

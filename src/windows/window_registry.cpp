@@ -23,7 +23,7 @@
 namespace tallix {
 namespace {
 
-/// A window that is made with the forms, the application and whatever else it needs.
+/// Registers a window whose constructor takes the forms, the application and `more`.
 template <typename Window, typename... More>
 void Register(toolkit::Forms& forms, const char* name, Application& application, More&... more) {
     forms.Register(name, [&forms, &application, &more...] {
@@ -49,7 +49,7 @@ void RegisterWindows(toolkit::Forms& forms, Application& application, ReportFlag
     Register<CallCostMapWindow>(forms, kCallCostMapForm, application);
     Register<CustomReportsWindow>(forms, kCustomReportsForm, application, printers);
     Register<ScheduledReportsWindow>(forms, kSchedulesForm, application);
-    // Held by no window: what a restore has opened stays open for the rest of the run.
+    // Not owned by a window: what a restore has opened stays open for the rest of the run.
     forms.Register(kBackupForm, [&forms, &application, channel = std::make_shared<BackupChannel>()] {
         return std::make_unique<BackupWindow>(forms, application, *channel);
     });

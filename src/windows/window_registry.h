@@ -8,9 +8,9 @@
 
 namespace tallix {
 
-/// Registers all forms but the splash, which knows the command line. What the windows work
-/// with must outlive `forms`: `flags` are those of the latest report, `printers` hold the
-/// current one.
+/// Registers all forms but the splash, which needs the command line. The arguments must
+/// outlive `forms`. `flags` are those of the latest report, `printers` hold the current
+/// one.
 void RegisterWindows(toolkit::Forms& forms, Application& application, ReportFlags& flags,
                      toolkit::Printers& printers);
 

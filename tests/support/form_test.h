@@ -1,4 +1,4 @@
-// The ground of the tests of one window: an application of its own, and the window as a
+// The base of the tests of one window: an application of its own, and the window as a
 // person sees it, by the words on it.
 //
 //     SitesWindowTest() { UnderTest<SitesWindow>(kSitesForm, world.application); }
@@ -37,13 +37,13 @@ protected:
     void UnderTest(const char* name) { form_ = name; }
 
     /// Empty forms in the places of other windows.
-    void StandIn(std::initializer_list<const char*> names) {
+    void AddEmptyForms(std::initializer_list<const char*> names) {
         for (const char* name : names) {
             forms.Register(name, [this, name] { return std::make_unique<toolkit::Form>(forms, name); });
         }
     }
 
-    /// Takes a page of the options under test, which then stands alone.
+    /// Takes a page of the options under test, in a window of its own.
     template <typename Page>
     Page& OpenPage() {
         auto* page = new Page(world.application, nullptr);
@@ -71,11 +71,11 @@ protected:
             if (widget->isVisible()) return *widget;
             if (hidden == nullptr) hidden = widget;
         }
-        if (hidden == nullptr) throw std::runtime_error("no \"" + caption.toStdString() + "\"");
+        if (hidden == nullptr) throw std::runtime_error("there is no \"" + caption.toStdString() + "\"");
         return *hidden;
     }
     QAbstractButton& Button(const QString& caption) { return Captioned<QAbstractButton>(caption); }
-    void Click(const QString& caption) { Button(caption).click(); }
+    void Click(const QString& caption) { ClickOn(Button(caption)); }
 
     /// The input that the label belongs to.
     template <typename Input = QLineEdit>
@@ -117,7 +117,7 @@ protected:
 
     const Message& LastMessage() const { return world.prompts.messages.back(); }
 
-    /// What the access log tells, first to last.
+    /// What the access log says, first to last.
     std::vector<std::string> Logged() {
         std::vector<std::string> events;
         for (const AccessLogRow& row : ReadAccessLog(world.application.session)) events.push_back(row.back());

@@ -35,7 +35,7 @@ protected:
           list(new ListView(costs, &window)) {
         list->setObjectName("Costs");
         list->setGeometry(10, 20, 400, 200);
-        costs.Set({{"0044", "1.50"}, {"01"}, {"0033", "2.00"}});
+        costs.Set({{"0044", "1.50"}, {"01", ""}, {"0033", "2.00"}});
         window.resize(420, 240);
         window.show();
         window.activateWindow();
@@ -109,6 +109,7 @@ TEST_F(ListViewTest, ACellIsEditedInPlaceAndEnterWritesIt) {
     QTest::keyClicks(box, "3.25");
     EXPECT_EQ(costs.At(1).pence, "");
     QTest::keyClick(box, Qt::Key_Return);
+    QCoreApplication::processEvents();  // what Enter does to the cell comes next
     EXPECT_EQ(costs.At(1).pence, "3.25");
     EXPECT_TRUE(list->hasFocus());
 
@@ -119,6 +120,7 @@ TEST_F(ListViewTest, ACellIsEditedInPlaceAndEnterWritesIt) {
         ASSERT_NE(box, nullptr) << text;
         EXPECT_EQ(box->selectedText(), text);
         QTest::keyClick(box, Qt::Key_Return);
+        QCoreApplication::processEvents();
     }
 }
 

@@ -14,7 +14,7 @@ namespace {
 
 class MessagePromptsTest : public test::WindowTest {
 protected:
-    /// Shows the message and presses a button; an empty one stands for Escape.
+    /// Shows the message and presses a button; NoButton presses Escape.
     Answer Press(const Message& message, QMessageBox::StandardButton button) {
         Later([&, button] {
             auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());

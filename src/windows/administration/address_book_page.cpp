@@ -96,8 +96,8 @@ void AddressBookPage::Delete() {
 void AddressBookPage::Import() {
     const auto file = Program().prompts.AskOpenFile(kImportFile);
     if (!file) return;
-    toolkit::WorkUnderPanel(*this, Program().events, "Please Wait...", "Import CSV",
-                            [&] { ImportAddressBook(Program().session, *file); });
+    toolkit::RunWithPanel(*this, Program().events, "Please Wait...", "Import CSV",
+                          [&] { ImportAddressBook(Program().session, *file); });
     Load();
     Program().prompts.Show({"Tallix Reports", "Import complete!", MessageIcon::Information});
 }

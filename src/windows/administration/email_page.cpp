@@ -49,7 +49,7 @@ TestMailInput EmailPage::Input() const {
 void EmailPage::Test(TestAttachment attachment) {
     const TestMailInput input = Input();
     Message outcome;
-    toolkit::WorkUnderPanel(*this, Program().events, "Sending Test Email", "Please Wait...",
+    toolkit::RunWithPanel(*this, Program().events, "Sending Test Email", "Please Wait...",
                             [&] { outcome = SendTestMail(Program(), input, attachment); });
     Program().prompts.Show(outcome);
 }

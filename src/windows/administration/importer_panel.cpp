@@ -21,9 +21,9 @@ constexpr char kExample[] =
 ImporterPanel::ImporterPanel(QWidget& window, Application& application)
     : EntryPanel(window),
       application_(application),
-      enabled_(new QCheckBox("Enable Importer Service", &Card())),
-      createsCsv_(new QCheckBox("Create CSV File", &Card())) {
-    auto* example = new QLabel(kExample, &Card());
+      enabled_(new QCheckBox("Enable Importer Service", this)),
+      createsCsv_(new QCheckBox("Create CSV File", this)) {
+    auto* example = new QLabel(kExample, this);
     toolkit::MakeQuiet(*example);
     AddRow(Switches());
     AddRow(Places());
@@ -53,11 +53,11 @@ QGridLayout* ImporterPanel::Places() {
 /// Down the first column, then down the next.
 void ImporterPanel::AddPlace(QGridLayout& grid, std::size_t value) {
     const std::string_view label = kImportedValues.at(value).label;
-    auto* box = new QLineEdit(&Card());
+    auto* box = new QLineEdit(this);
     box->setFixedWidth(kBoxWidth);
     box->setAlignment(Qt::AlignRight);
     box->setValidator(new QIntValidator(0, kLastPlace, box));
-    auto* words = new QLabel(QString::fromUtf8(label.data(), static_cast<qsizetype>(label.size())), &Card());
+    auto* words = new QLabel(QString::fromUtf8(label.data(), static_cast<qsizetype>(label.size())), this);
     words->setBuddy(box);
     const int row = static_cast<int>(value) % kRows;
     const int column = static_cast<int>(value) / kRows * 2;
@@ -72,8 +72,6 @@ void ImporterPanel::SetTabOrders() {
         setTabOrder(last, place);
         last = place;
     }
-    setTabOrder(last, &SaveButton());
-    setTabOrder(&SaveButton(), &CancelButton());
 }
 
 void ImporterPanel::OpenStored() {

@@ -9,7 +9,7 @@
 #include "toolkit/button_row.h"
 #include "toolkit/dialog_keys.h"
 #include "toolkit/forms.h"
-#include "toolkit/held_open.h"
+#include "toolkit/held_window.h"
 #include "toolkit/main_menu_form.h"
 #include "toolkit/style.h"
 #include "windows/administration/accounts_page.h"

@@ -27,8 +27,6 @@ SiteEntryPanel::SiteEntryPanel(QWidget& window)
     columns->addLayout(PlaceColumn());
     columns->addLayout(SwitchColumn());
     AddRow(columns);
-    setTabOrder(lastInput_, &SaveButton());
-    setTabOrder(&SaveButton(), &CancelButton());
     for (const QLineEdit* field : {switchIp_, switchPort_})
         connect(field, &QLineEdit::textChanged, this, &SiteEntryPanel::ShowWhetherIncluded);
     connect(included_, &QCheckBox::clicked, this, &SiteEntryPanel::Include);
@@ -78,14 +76,14 @@ QLineEdit* SiteEntryPanel::AddText(QGridLayout& column, const QString& label,
 }
 
 void SiteEntryPanel::AddInputRow(QGridLayout& column, const QString& label, QWidget* input) {
-    input->setParent(&Card());
+    input->setParent(this);
     input->setMinimumWidth(kInputWidth);
     if (lastInput_ != nullptr) setTabOrder(lastInput_, input);
     lastInput_ = input;
     column.addWidget(input, row_, 1);
     const int row = row_++;
     if (label.isEmpty()) return;
-    auto* words = new QLabel(label, &Card());
+    auto* words = new QLabel(label, this);
     words->setBuddy(input);
     column.addWidget(words, row, 0);
 }

@@ -78,7 +78,7 @@ void SitesWindow::ConnectButtons() {
     connect(save_, &QPushButton::clicked, this, &SitesWindow::SaveAndExit);
     connect(exit_, &QPushButton::clicked, this, &SitesWindow::ExitWithoutSaving);
     connect(entry_, &toolkit::EntryPanel::Saved, this, &SitesWindow::SaveSite);
-    connect(entry_, &toolkit::EntryPanel::Cancelled, this, &SitesWindow::CloseEntry);
+    connect(entry_, &QDialog::rejected, this, &SitesWindow::CloseEntry);
 }
 
 void SitesWindow::OnLoad() {

@@ -113,7 +113,7 @@ void ToolsPage::ComputeCosts() {
     const Answer answer = application_.prompts.Show(
         {"Call Costs", kComputeQuestion, MessageIcon::Information, MessageButtons::YesNo});
     if (answer != Answer::Yes) return;
-    toolkit::WorkUnderPanel(*this, application_.events, "Calculating Call Costings", "Please Wait...",
+    toolkit::RunWithPanel(*this, application_.events, "Calculating Call Costings", "Please Wait...",
                             [this] { tallix::ComputeCosts(application_.session, application_.settings); });
 }
 

@@ -6,6 +6,7 @@
 
 #include "toolkit/dialog_keys.h"
 #include "toolkit/style.h"
+#include "toolkit/wait_panel.h"
 
 namespace tallix {
 namespace {
@@ -32,8 +33,7 @@ CallCostMapWindow::CallCostMapWindow(toolkit::Forms& forms, Application& applica
           {{"Area", &CostMapRow::area, kAreaTwips},
            {"Charge", &CostMapRow::charge, toolkit::kPlainColumnWidth, Qt::AlignHCenter}},
           this)),
-      list_(new toolkit::ListView(*map_, this)),
-      waiting_(new toolkit::Overlay(*this, "Please Wait...")) {
+      list_(new toolkit::ListView(*map_, this)) {
     auto* purpose = new QLabel(kPurpose, this);
     purpose->setWordWrap(true);
     auto* rows = new QVBoxLayout(this);
@@ -75,7 +75,6 @@ QLayout* CallCostMapWindow::ButtonRow() {
 QPushButton* CallCostMapWindow::AddButton(QHBoxLayout& row, const QString& caption) {
     auto* button = new QPushButton(caption, this);
     row.addWidget(button);
-    buttons_.push_back(button);
     return button;
 }
 
@@ -90,13 +89,13 @@ void CallCostMapWindow::PopulateFromDatabase() {
 }
 
 void CallCostMapWindow::Save() {
-    for (QPushButton* button : buttons_) button->setEnabled(false);
-    waiting_->show();
-    waiting_->repaint();
-    const bool saved = SaveCostMap(application_.session, map_->All());
-    if (saved) application_.prompts.Show(kSaved);
-    waiting_->hide();
-    for (QPushButton* button : buttons_) button->setEnabled(true);
+    bool saved = false;
+    {
+        toolkit::WaitPanel waiting(*this, "Please Wait...", "");
+        waiting.Show();
+        application_.events.ServeDuring([&] { saved = SaveCostMap(application_.session, map_->All()); });
+        if (saved) application_.prompts.Show(kSaved);
+    }
     if (!saved) application_.prompts.Show(kRefused);
 }
 

@@ -10,7 +10,6 @@
 #include "session/application.h"
 #include "toolkit/form.h"
 #include "toolkit/list_view.h"
-#include "toolkit/overlay.h"
 
 namespace tallix {
 
@@ -34,8 +33,6 @@ private:
     Application& application_;
     toolkit::RecordModel<CostMapRow>* map_;
     toolkit::ListView* list_;
-    toolkit::Overlay* waiting_;
-    std::vector<QPushButton*> buttons_;
 };
 
 }  // namespace tallix

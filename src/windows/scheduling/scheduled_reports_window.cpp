@@ -7,7 +7,7 @@
 #include "toolkit/dialog_keys.h"
 #include "toolkit/form_names.h"
 #include "toolkit/forms.h"
-#include "toolkit/held_open.h"
+#include "toolkit/held_window.h"
 #include "toolkit/label.h"
 #include "toolkit/style.h"
 #include "toolkit/text.h"

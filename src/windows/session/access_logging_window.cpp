@@ -38,7 +38,7 @@ AccessLoggingWindow::AccessLoggingWindow(toolkit::Forms& forms, Application& app
     rows->addWidget(purpose);
     rows->addWidget(ListFrame(), 1);
     rows->addLayout(ButtonRow());
-    resize(sizeHint());  // all columns, also where that is more than the desktop would give at first
+    resize(sizeHint());  // all columns, even where the desktop would offer less
 }
 
 QWidget* AccessLoggingWindow::ListFrame() {

@@ -36,7 +36,7 @@ void KeepPlaceWhileHidden(QWidget& widget) {
     widget.hide();
 }
 
-// Keys that put something into a field or take it out, Enter and Escape among them.
+// Keys that add text to a field or remove it. Enter and Escape count as well.
 bool IsTyped(const QKeyEvent& key) {
     return !key.text().isEmpty() && key.key() != Qt::Key_Tab && key.key() != Qt::Key_Delete;
 }
@@ -142,14 +142,14 @@ void LoginWindow::OnUnload() {
     progressTimer_.stop();
 }
 
-// A login that is under way serves events; it must find its window when it is over.
+// A login serves events while it runs, and needs its window afterwards.
 void LoginWindow::closeEvent(QCloseEvent* event) {
     if (checking_) return event->ignore();
     Form::closeEvent(event);
 }
 
-// The button goes by what the field held before the key, so that it lags one key, and the
-// field typed in last decides.
+// The button follows the text before the key, so it lags by one key, and the field that
+// was typed in last decides.
 bool LoginWindow::eventFilter(QObject* watched, QEvent* event) {
     const auto* field = qobject_cast<QLineEdit*>(watched);
     if (field != nullptr && event->type() == QEvent::KeyPress && IsTyped(*static_cast<QKeyEvent*>(event))) {

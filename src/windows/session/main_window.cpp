@@ -113,7 +113,7 @@ QLayout* MainWindow::FooterRow() {
     return row;
 }
 
-// The Tab key comes to its inputs where the eye does.
+// Tab reaches its inputs after the entries to the left of it.
 void MainWindow::AddPanel(QWidget& panel) {
     middle_->addWidget(&panel);
     QWidget* before = entries_.back();
@@ -134,7 +134,7 @@ void MainWindow::OnUnload() {
     updateTimer_.stop();
 }
 
-// The entries that are shown close ranks; the others cannot be reached.
+// The visible entries leave no gaps between them.
 void MainWindow::ArrangeEntries() {
     int place = 0;
     for (std::size_t i = 0; i < entries_.size(); ++i) {
@@ -146,7 +146,7 @@ void MainWindow::ArrangeEntries() {
     }
 }
 
-// A form that is not there, or that went again while it was loaded, leaves the menu.
+// The menu stays when the form does not exist or unloaded itself while it was loaded.
 void MainWindow::Open(const QString& form) {
     OtherForms().Show(form);
     if (OtherForms().Find(form) != nullptr) OtherForms().Hide(objectName());

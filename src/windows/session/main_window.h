@@ -1,5 +1,5 @@
 // The main menu ("Form1"): the entries that the person's rights allow, who is connected to
-// what, the update notice, and the ways out. It stays loaded, hidden, while a window
+// what, the update notice, and the buttons to leave. It stays loaded, hidden, while a window
 // opened from it is shown.
 #pragma once
 
@@ -25,7 +25,7 @@ public:
     MainWindow(toolkit::Forms& forms, Application& application);
 
 protected:
-    /// What tells the two forms of the main menu apart.
+    /// What differs between the two forms of the main menu.
     struct Kind {
         bool exportHasHoverEffect;
         NoUpdatesSetting noUpdates;

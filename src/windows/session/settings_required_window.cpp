@@ -82,7 +82,7 @@ QLayout* SettingsRequiredWindow::ButtonRow() {
     return row;
 }
 
-// Typing behind a pass changes nothing: the result and the button stay as they are.
+// Typing after a pass changes nothing: the result and the button stay as they are.
 void SettingsRequiredWindow::TestAddress() {
     const bool passed = IsDatabaseAddress(address_->text().toStdString());
     save_->setEnabled(passed);
@@ -92,7 +92,7 @@ void SettingsRequiredWindow::TestAddress() {
     result_->setPalette(colours);
 }
 
-// The login comes even when folders are missing and this window has gone.
+// The login opens even when folders are missing and this window has been unloaded.
 void SettingsRequiredWindow::SaveChanges() {
     SaveDatabaseAddress(application_, address_->text().toStdString(), [this] { Unload(); });
     OtherForms().Load(kLoginForm);

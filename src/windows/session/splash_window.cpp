@@ -9,6 +9,7 @@
 #include "toolkit/form_names.h"
 #include "toolkit/forms.h"
 #include "toolkit/style.h"
+#include "toolkit/text.h"
 
 namespace tallix {
 namespace {
@@ -85,8 +86,7 @@ void SplashWindow::Advance() {
     if (!sequence_.HasEnded()) timer_.start();
 }
 
-// A hairline round the splash, which has no frame of the desktop's, and a dot where a
-// tick is still to come.
+// A hairline in place of a window frame, and a dot where a tick is still to come.
 void SplashWindow::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), palette().base());
@@ -111,7 +111,7 @@ void SplashWindow::ShowSplash() {
 }
 
 void SplashWindow::ShowStep(std::string_view caption, int tick) {
-    const QString text = QString::fromUtf8(caption.data(), static_cast<qsizetype>(caption.size()));
+    const QString text = toolkit::ToQString(caption);
     caption_->setText(text);
     ticks_.at(tick)->setAccessibleName(text);
     ticks_.at(tick)->show();

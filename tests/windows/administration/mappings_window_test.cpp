@@ -16,7 +16,7 @@ class MappingsWindowTest : public test::FormTest {
 protected:
     MappingsWindowTest() {
         world.application.folder = world.Folder() / "ReportsTool";
-        StandIn({kOptionsForm});
+        AddEmptyForms({kOptionsForm});
         UnderTest<MappingsWindow>(kMappingsForm, world.application);
         world.Insert("tblrawdata", {{"Data", kLine}, {"SiteID", "001"}});
     }

@@ -19,8 +19,13 @@ class OptionsWindowTest : public test::FormTest {
 protected:
     OptionsWindowTest() {
         std::filesystem::create_directories(world.Folder() / "Collector");
-        StandIn({kMainForm, kSitesForm, kAccessLoggingForm});
+        AddEmptyForms({kMainForm, kSitesForm, kAccessLoggingForm});
         UnderTest<OptionsWindow>(kOptionsForm, world.application);
+    }
+
+    void ChoosePage(const QString& name) {
+        auto& list = *Window().findChild<QListWidget*>();
+        list.setCurrentItem(list.findItems(name, Qt::MatchExactly).value(0));
     }
 
     /// The entries at the side that can be chosen.
@@ -60,8 +65,10 @@ TEST_F(OptionsWindowTest, OffersWhatTheRightsGrant) {
 TEST_F(OptionsWindowTest, HidesForTheWindowsItOpensAndStaysForUnknownOnes) {
     world.Insert("tblsite", {{"ID", "001"}});
     EXPECT_EQ(Window().findChild<QLabel*>("SiteCount")->text(), "1");
+    ChoosePage("Tools");
     Click("Edit Call Costings");
     EXPECT_TRUE(IsVisible(kOptionsForm));
+    ChoosePage("Sites");
     Click("Configure Sites");
     EXPECT_FALSE(IsVisible(kOptionsForm));
     EXPECT_TRUE(IsVisible(kSitesForm));
@@ -86,7 +93,9 @@ TEST_F(OptionsWindowTest, SavesWhatIsOnTheScreenAndLeaves) {
     Captioned<QRadioButton>("Italian").click();
     Captioned<QRadioButton>("Right").click();
     world.prompts.paths = {"/srv/reports"};
+    ChoosePage("Folders");
     Click("Browse");
+    ChoosePage("Tools");
     Click("Disable");
     Click("Save and Exit");
     EXPECT_EQ(LastMessage().text, "Settings saved!");
@@ -129,6 +138,7 @@ TEST_F(OptionsWindowTest, SavesOnceThoughItIsClickedAndClosedMeanwhile) {
 TEST_F(OptionsWindowTest, AsksBeforeDiscardingExtensionsFromTheCallsAndSavesThem) {
     world.InsertCall({{"Extension", "305"}});
     world.prompts.answers = {Answer::Yes, Answer::No, Answer::Yes};
+    ChoosePage("Extensions");
     Click("Get From Data");
     Window().close();
     EXPECT_EQ(LastMessage().text,
@@ -137,6 +147,7 @@ TEST_F(OptionsWindowTest, AsksBeforeDiscardingExtensionsFromTheCallsAndSavesThem
     Click("Exit Without Saving");
     EXPECT_FALSE(IsLoaded());
     world.prompts.answers = {Answer::Yes};
+    ChoosePage("Extensions");
     Click("Get From Data");
     Click("Save and Exit");
     EXPECT_FALSE(IsLoaded());
@@ -174,6 +185,7 @@ TEST_F(OptionsWindowTest, ComputesCostsOnYes) {
     const auto count = [&] {
         return DatabaseScope(world.application.session.database).Query("SELECT * FROM tblcostcount").Count();
     };
+    ChoosePage("Tools");
     Click("Compute Costs");
     EXPECT_EQ(count(), 0) << "No was the answer";
     world.prompts.answers = {Answer::Yes};
@@ -192,10 +204,12 @@ TEST_F(OptionsWindowTest, OnlyASaveStoresTheRestoredColours) {
             .name();
     };
     EXPECT_EQ(header(), "#010203");
+    ChoosePage("Report Design");
     Click("Restore Defaults");
     EXPECT_EQ(header(), "#b40300");
     Click("Exit Without Saving");
     EXPECT_EQ(header(), "#010203");
+    ChoosePage("Report Design");
     world.prompts.colours = {{0, 0, 0}};
     Click("Table Header Colour");
     EXPECT_EQ(header(), "#010203");

@@ -12,7 +12,7 @@ namespace {
 class SitesWindowTest : public test::FormTest {
 protected:
     SitesWindowTest() {
-        StandIn({kOptionsForm});
+        AddEmptyForms({kOptionsForm});
         UnderTest<SitesWindow>(kSitesForm, world.application);
         world.Insert("tblphonemapping", {{"Mapping_Name", "Reception"}});
         world.Insert("tblsite", {{"ID", "1"}, {"Name", "Head"}, {"VM", "500"}, {"3PTDatabase", "2"}});

@@ -18,7 +18,7 @@ protected:
         std::ofstream(manager) << "#!/bin/sh\necho $2 $3 >>" << asked_.string();
         std::filesystem::permissions(manager, std::filesystem::perms::owner_all);
         qputenv("PATH", QByteArray::fromStdString(manager.parent_path()) + ":" + path_);
-        StandIn({kMainForm});
+        AddEmptyForms({kMainForm});
         UnderTest<ArchiveWindow>(kArchiveForm, world.application);
     }
     ~ArchiveWindowTest() override { qputenv("PATH", path_); }

@@ -12,7 +12,7 @@ using testing::ElementsAre;
 class BackupWindowTest : public test::FormTest {
 protected:
     BackupWindowTest() {
-        StandIn({kMainForm});
+        AddEmptyForms({kMainForm});
         UnderTest<BackupWindow>(kBackupForm, world.application, channel_);
         forms.Show(kMainForm);
     }

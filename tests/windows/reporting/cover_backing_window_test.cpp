@@ -12,7 +12,7 @@ namespace {
 class CoverBackingWindowTest : public test::FormTest {
 protected:
     CoverBackingWindowTest() {
-        StandIn({kMainForm, kOptionsForm});
+        AddEmptyForms({kMainForm, kOptionsForm});
         UnderTest<CoverBackingWindow>(kCoverPagesForm, world.application);
     }
 };

@@ -13,7 +13,7 @@ class CustomReportsWindowTest : public test::FormTest {
 protected:
     CustomReportsWindowTest() {
         world.application.session.ReportsLocation = world.application.folder.string();
-        StandIn({kMainForm, kReportOutputForm});
+        AddEmptyForms({kMainForm, kReportOutputForm});
         UnderTest<CustomReportsWindow>(kCustomReportsForm, world.application, printers_);
         forms.Show(kMainForm);
     }

@@ -25,7 +25,7 @@ class PresetReportsWindowTest : public test::FormTest {
 protected:
     PresetReportsWindowTest() {
         world.events.queue = &events_;
-        StandIn({kMainForm, kReportOutputForm});
+        AddEmptyForms({kMainForm, kReportOutputForm});
         UnderTest<PresetReportsWindow>(kPresetReportsForm, world.application, flags_, printers_);
         world.WriteReport("All Calls", {{"Date", "True"}}, {});
         world.WriteReport("Of Extension", {{"Date", "True"}}, {{"Extension", "True"}});

@@ -36,7 +36,7 @@ public:
 class ReportOutputTest : public test::FormTest {
 protected:
     ReportOutputTest() {
-        StandIn({kMainForm, kStatisticsForm, kPresetReportsForm});
+        AddEmptyForms({kMainForm, kStatisticsForm, kPresetReportsForm});
         UnderTest<ReportOutputWindow>(kReportOutputForm, world.application, printers_);
         forms.Load(kMainForm);
         forms.Load(kPresetReportsForm);

@@ -18,7 +18,7 @@ class ScheduledReportsWindowTest : public test::FormTest {
 protected:
     ScheduledReportsWindowTest() {
         UnderTest<ScheduledReportsWindow>(kSchedulesForm, world.application);
-        StandIn({kOptionsForm});
+        AddEmptyForms({kOptionsForm});
         std::filesystem::create_directories(Scheduled());
         world.WriteReport("Calls", {}, {{"Date", "True"}, {"Account", "true"}});
         world.WriteReport("Times", {}, {{"Time", "True"}, {"Site", "True"}});

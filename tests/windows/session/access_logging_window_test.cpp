@@ -11,7 +11,7 @@ class AccessLoggingWindowTest : public test::FormTest {
 protected:
     AccessLoggingWindowTest() {
         UnderTest<AccessLoggingWindow>(kAccessLoggingForm, world.application);
-        StandIn({kOptionsForm});
+        AddEmptyForms({kOptionsForm});
         world.Insert(
             "tbllogging",
             {{"Date", "08/03/2021"}, {"Time", "09:00"}, {"User", "Bob"}, {"Data", "Report Run - Calls"}});

@@ -20,7 +20,7 @@ protected:
                                   {"Password", EncipherForStorage("S")},
                                   {"AccessType", EncipherForStorage(std::string(42, '1'))},
                                   {"GroupID", "0"}});
-        StandIn({kMainForm});
+        AddEmptyForms({kMainForm});
         UnderTest<LoginWindow>(kLoginForm, world.application);
         forms.Show(kLoginForm);
     }

@@ -14,7 +14,7 @@ protected:
     SettingsRequiredWindowTest() {
         world.application.session.database.server.clear();
         UnderTest<SettingsRequiredWindow>(kSettingsRequiredForm, world.application);
-        StandIn({kLoginForm});
+        AddEmptyForms({kLoginForm});
     }
 
     QLineEdit& Field() { return *Window().findChild<QLineEdit*>(); }

@@ -1,5 +1,5 @@
 // A window that stays while it works: events that are served meanwhile may ask it to close,
-// and the work would go on in a window that is gone.
+// and the work would continue in a window that is gone.
 #pragma once
 
 #include <QObject>
@@ -9,8 +9,8 @@
 
 namespace tallix::toolkit {
 
-/// Turns the inputs of a window off and refuses its closing, for as long as it lives. Those
-/// that were off before stay off behind it, and the focus is where it was.
+/// Turns the inputs of a window off and refuses its closing, for as long as it lives. Inputs
+/// that were off before stay off afterwards, and the focus returns to where it was.
 class HeldWindow : public QObject {
 public:
     /// `window` must outlive this.

@@ -1,4 +1,4 @@
-#include "toolkit/held_open.h"
+#include "toolkit/held_window.h"
 
 #include <QEvent>
 
@@ -6,7 +6,7 @@ namespace tallix::toolkit {
 
 HeldWindow::HeldWindow(QWidget& window) : window_(window), focus_(window.focusWidget()) {
     for (QWidget* part : window.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
-        if (!part->isEnabledTo(&window)) continue;
+        if (part->isWindow() || !part->isEnabledTo(&window)) continue;
         part->setEnabled(false);
         disabled_.emplace_back(part);
     }
