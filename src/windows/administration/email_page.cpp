@@ -50,7 +50,7 @@ void EmailPage::Test(TestAttachment attachment) {
     const TestMailInput input = Input();
     Message outcome;
     toolkit::RunWithPanel(*this, Program().events, "Sending Test Email", "Please Wait...",
-                            [&] { outcome = SendTestMail(Program(), input, attachment); });
+                          [&] { outcome = SendTestMail(Program(), input, attachment); });
     Program().prompts.Show(outcome);
 }
 

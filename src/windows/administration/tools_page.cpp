@@ -114,7 +114,7 @@ void ToolsPage::ComputeCosts() {
         {"Call Costs", kComputeQuestion, MessageIcon::Information, MessageButtons::YesNo});
     if (answer != Answer::Yes) return;
     toolkit::RunWithPanel(*this, application_.events, "Calculating Call Costings", "Please Wait...",
-                            [this] { tallix::ComputeCosts(application_.session, application_.settings); });
+                          [this] { tallix::ComputeCosts(application_.session, application_.settings); });
 }
 
 }  // namespace tallix
