@@ -20,44 +20,6 @@ constexpr int kRowsInView = 12;
 
 }  // namespace
 
-void ListRows::Set(std::vector<ListRow> rows) {
-    beginResetModel();
-    rows_ = std::move(rows);
-    endResetModel();
-}
-
-void ListRows::Append(ListRow row) {
-    beginInsertRows({}, Count(), Count());
-    rows_.push_back(std::move(row));
-    endInsertRows();
-}
-
-void ListRows::Remove(int row) {
-    beginRemoveRows({}, row, row);
-    rows_.erase(rows_.begin() + row);
-    endRemoveRows();
-}
-
-QString ListRows::Text(int row, int column) const {
-    const ListRow& cells = rows_.at(row);
-    return std::cmp_less(column, cells.size()) ? QString::fromStdString(cells[column]) : QString();
-}
-
-void ListRows::SetText(int row, int column, const QString& text) {
-    setData(index(row, column), text, Qt::EditRole);
-}
-
-void ListRows::WriteText(int row, int column, const QString& text) {
-    ListRow& cells = rows_.at(row);
-    cells.resize(std::max(cells.size(), static_cast<std::size_t>(column) + 1));
-    cells[column] = text.toStdString();
-}
-
-ListView::ListView(const std::vector<ListColumn>& columns, QWidget* parent)
-    : ListView(*new ListRows(columns, nullptr), parent) {
-    model_.setParent(this);
-}
-
 ListView::ListView(ListModel& model, QWidget* parent) : QTreeView(parent), model_(model) {
     setModel(&model_);
     setUniformRowHeights(true);

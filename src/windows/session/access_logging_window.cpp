@@ -5,7 +5,6 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
-#include "session/access_log.h"
 #include "toolkit/button_row.h"
 #include "toolkit/form_names.h"
 #include "toolkit/forms.h"
@@ -14,14 +13,9 @@
 namespace tallix {
 namespace {
 
-const std::vector<toolkit::ListColumn>& Columns() {
-    static const std::vector<toolkit::ListColumn> columns = {
-        {"Date", 1000},
-        {"Time", 900, Qt::AlignHCenter},
-        {"User", toolkit::kPlainColumnWidth, Qt::AlignHCenter},
-        {"Description", 5330},
-    };
-    return columns;
+/// The text of a row at a place.
+auto Cell(std::size_t place) {
+    return [place](const AccessLogRow& row) { return row.at(place); };
 }
 
 }  // namespace
@@ -29,7 +23,13 @@ const std::vector<toolkit::ListColumn>& Columns() {
 AccessLoggingWindow::AccessLoggingWindow(toolkit::Forms& forms, Application& application)
     : Form(forms, "Tallix Reports Tool - Access Logging"),
       application_(application),
-      list_(new toolkit::ListView(Columns(), this)) {
+      log_(new toolkit::RecordModel<AccessLogRow>(
+          {{"Date", Cell(0), 1000},
+           {"Time", Cell(1), 900, Qt::AlignHCenter},
+           {"User", Cell(2), toolkit::kPlainColumnWidth, Qt::AlignHCenter},
+           {"Description", Cell(3), 5330}},
+          this)),
+      list_(new toolkit::ListView(*log_, this)) {
     auto* rows = new QVBoxLayout(this);
     rows->setContentsMargins(toolkit::kMargin, toolkit::kMargin, toolkit::kMargin, toolkit::kMargin);
     rows->setSpacing(toolkit::kSpacing * 2);
@@ -72,7 +72,7 @@ QPushButton* AccessLoggingWindow::Button(const QString& caption) {
 }
 
 void AccessLoggingWindow::OnLoad() {
-    list_->Rows().Set(ReadAccessLog(application_.session));
+    log_->Set(ReadAccessLog(application_.session));
 }
 
 void AccessLoggingWindow::OnUnload() {

@@ -3,6 +3,7 @@
 
 #include <QPushButton>
 
+#include "session/access_log.h"
 #include "session/application.h"
 #include "toolkit/form.h"
 #include "toolkit/list_view.h"
@@ -25,6 +26,7 @@ private:
     QPushButton* Button(const QString& caption);
 
     Application& application_;
+    toolkit::RecordModel<AccessLogRow>* log_;
     toolkit::ListView* list_;
 };
 

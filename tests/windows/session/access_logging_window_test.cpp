@@ -17,7 +17,7 @@ protected:
             {{"Date", "08/03/2021"}, {"Time", "09:00"}, {"User", "Bob"}, {"Data", "Report Run - Calls"}});
     }
 
-    const toolkit::ListRow kShown = {"08/03/2021", "09:00", "Bob", "Report Run - Calls"};
+    const std::vector<std::string> kShown = {"08/03/2021", "09:00", "Bob", "Report Run - Calls"};
 };
 
 TEST_F(AccessLoggingWindowTest, ShowsTheLogAndExportsIt) {
@@ -35,8 +35,8 @@ TEST_F(AccessLoggingWindowTest, KeepsTheClearedRowsUntilItIsOpenedAgainFromTheOp
     Click("Exit Logging Screen");
     EXPECT_THAT(forms.Loaded(), testing::ElementsAre(kOptionsForm));
     EXPECT_TRUE(IsVisible(kOptionsForm));
-    EXPECT_THAT(Rows(),
-                testing::ElementsAre(toolkit::ListRow{"09/03/2021", "14:05", "Ann", "Access Log Cleared!"}));
+    EXPECT_THAT(Rows(), testing::ElementsAre(
+                            std::vector<std::string>{"09/03/2021", "14:05", "Ann", "Access Log Cleared!"}));
 }
 
 }  // namespace
