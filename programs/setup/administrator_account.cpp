@@ -6,9 +6,8 @@
 #include <random>
 #include <string>
 
-#include "database/recordset.h"
+#include "database/database_scope.h"
 #include "session/access_rights.h"
-#include "session/database.h"
 #include "session/login.h"
 #include "text/encryption_tools.h"
 #include "text/text_conversion.h"
@@ -20,7 +19,7 @@ constexpr std::string_view kUserName = "Administrator";
 constexpr std::string_view kEmail = "administrator@localhost";
 constexpr std::string_view kNoGroup = "0";
 
-// No vowels, so that no word comes about; no characters that are taken for others.
+// Without vowels, so that it holds no word, and without characters that look alike.
 constexpr std::string_view kPasswordCharacters = "BCDFGHJKLMNPQRSTVWXZbcdfghjkmnpqrstvwxz23456789";
 constexpr std::size_t kPasswordLength = 14;
 
@@ -32,16 +31,13 @@ std::string MakeUpPassword() {
     return password;
 }
 
-bool IsThere(Session& session, std::string_view storedName) {
-    ado::Recordset users;
-    users.Open("select * from tblusers where Username = " + Quoted(session, storedName),
-               OpenConnection(session));
-    return users.RecordCount() > 0;
+bool IsThere(const DatabaseScope& database, std::string_view storedName) {
+    return !database.Query("select * from tblusers where Username = " + database.Quoted(storedName))
+                .IsEmpty();
 }
 
-void AddAccount(Session& session, std::string_view storedName, std::string_view password) {
-    ado::Recordset users;
-    users.Open("select * from tblusers", OpenConnection(session));
+void AddAccount(const DatabaseScope& database, std::string_view storedName, std::string_view password) {
+    ado::Recordset users = database.Edit("select * from tblusers");
     users.AddNew();
     users.Collect("Username", storedName);
     users.Collect("Password", EncipherForStorage(password));
@@ -58,14 +54,14 @@ bool CanLogInWith(std::string_view password) {
     return length > 0 && length <= kLongestAccountText && !HoldsGuardedWord(password);
 }
 
-void EnsureAdministrator(Session& session, std::string_view password, std::ostream& out) {
+void EnsureAdministrator(const DatabaseScope& database, std::string_view password, std::ostream& out) {
     const std::string storedName = EncipherForStorage(kUserName);
-    if (IsThere(session, storedName)) {
+    if (IsThere(database, storedName)) {
         out << fmt::format("Account {}: there already, password unchanged\n", kUserName);
         return;
     }
     const std::string chosen = password.empty() ? MakeUpPassword() : std::string(password);
-    AddAccount(session, storedName, chosen);
+    AddAccount(database, storedName, chosen);
     out << fmt::format("Account {}: made with all rights and {}\n", kUserName,
                        password.empty() ? "the password " + chosen : "the password given");
 }

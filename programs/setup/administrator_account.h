@@ -4,7 +4,7 @@
 #include <iosfwd>
 #include <string_view>
 
-#include "session/session.h"
+#include "database/database_scope.h"
 
 namespace tallix {
 
@@ -15,8 +15,8 @@ inline constexpr std::size_t kLongestAccountText = 44;
 bool CanLogInWith(std::string_view password);
 
 /// Makes the account "Administrator" with all rights where there is none, and says so.
-/// An empty password is replaced by one that is made up and shown this once. The
-/// session's connection must be open. Throws DatabaseError.
-void EnsureAdministrator(Session& session, std::string_view password, std::ostream& out);
+/// An empty password is replaced by one that is made up and shown this once. Throws
+/// DatabaseError.
+void EnsureAdministrator(const DatabaseScope& database, std::string_view password, std::ostream& out);
 
 }  // namespace tallix

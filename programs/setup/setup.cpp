@@ -11,10 +11,10 @@
 
 #include "costing/cost_computation.h"
 #include "database/connection_text.h"
+#include "database/database_scope.h"
 #include "database/schema.h"
 #include "host/prompts.h"
 #include "platform/paths.h"
-#include "session/database.h"
 #include "settings/settings_store.h"
 #include "setup/administrator_account.h"
 #include "setup/demo_data.h"
@@ -70,10 +70,11 @@ private:
 
 // The embedded database is first read by its first statement, which therefore belongs
 // to reaching it.
-void Reach(Session& session, std::ostream& out) {
-    OpenDatabase(session);
-    OpenConnection(session).Fetch("SELECT 1 AS Answer");
-    out << fmt::format("Database: {} reached\n", session.database.server);
+DatabaseScope Reach(const DatabaseAddress& address, std::ostream& out) {
+    DatabaseScope database(address);
+    database.Query("SELECT 1 AS Answer");
+    out << fmt::format("Database: {} reached\n", address.server);
+    return database;
 }
 
 void LayDownTables(ado::Connection& connection, const std::filesystem::path& folder, std::ostream& out) {
@@ -87,9 +88,9 @@ constexpr std::pair<const char*, const char*> kCompanySettings[] = {{"TimeOpen",
                                                                     {"TimeClosed", "17:30"}};
 
 // The costs that reports show are computed ones.
-void AddCompany(const SetupOptions& options, Session& session, const SettingsStore& settings,
-                std::ostream& out) {
-    if (!AddDemonstration(OpenConnection(session), *options.demoCalls, options.seed, out)) return;
+void AddCompany(const SetupOptions& options, const DatabaseScope& database, const Session& session,
+                const SettingsStore& settings, std::ostream& out) {
+    if (!AddDemonstration(database.Connection(), *options.demoCalls, options.seed, out)) return;
     for (const auto& [name, value] : kCompanySettings) {
         if (settings.Read(name).empty()) settings.Write(name, value);
     }
@@ -97,14 +98,13 @@ void AddCompany(const SetupOptions& options, Session& session, const SettingsSto
 }
 
 // What the database holds, once it was reached and is remembered.
-void FillDatabase(const SetupOptions& options, Session& session, const SettingsStore& settings,
-                  std::ostream& out) {
+void FillDatabase(const SetupOptions& options, const DatabaseScope& database, const Session& session,
+                  const SettingsStore& settings, std::ostream& out) {
     const std::filesystem::path folder = ApplicationFolder();
-    ado::Connection& connection = OpenConnection(session);
-    LayDownTables(connection, folder / "schema", out);
-    FillReferenceData(connection, folder / "reference", out);
-    EnsureAdministrator(session, options.adminPassword, out);
-    if (options.demoCalls) AddCompany(options, session, settings, out);
+    LayDownTables(database.Connection(), folder / "schema", out);
+    FillReferenceData(database.Connection(), folder / "reference", out);
+    EnsureAdministrator(database, options.adminPassword, out);
+    if (options.demoCalls) AddCompany(options, database, session, settings, out);
 }
 
 }  // namespace
@@ -114,13 +114,12 @@ void SetUp(const SetupOptions& options, std::ostream& out) {
     const SettingsStore settings(MachineSettingsFolder(), UserSettingsFolder(), prompts);
     const DatabaseChoice choice = ChooseDatabase(options, settings, ApplicationFolder());
     DatabaseFile file(choice);  // outlives the connection to it
-    Session session = SessionFor(choice);
-    Reach(session, out);
+    const Session session = SessionFor(choice);
+    const DatabaseScope database = Reach(session.database, out);
     SeedSettings(choice, settings, out);
     RecordOfficeSuite(OfficeFolders(), settings, out);
     file.Keep();
-    FillDatabase(options, session, settings, out);
-    CloseDatabase(session);
+    FillDatabase(options, database, session, settings, out);
 }
 
 }  // namespace tallix

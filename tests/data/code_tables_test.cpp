@@ -5,7 +5,7 @@
 #include <set>
 #include <sstream>
 
-#include "session/prefix_table.h"
+#include "database/prefix_table.h"
 #include "support/places.h"
 #include "support/temp_folder.h"
 

@@ -5,10 +5,10 @@
 #include <fstream>
 #include <sstream>
 
+#include "database/database_scope.h"
 #include "database/recordset.h"
 #include "database/schema.h"
 #include "reporting/catalogue.h"
-#include "session/database.h"
 #include "support/places.h"
 
 namespace tallix::test {

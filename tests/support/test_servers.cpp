@@ -7,8 +7,8 @@
 
 #include <fmt/format.h>
 
+#include "database/database_scope.h"
 #include "database/schema.h"
-#include "session/database.h"
 #include "support/end_guard.h"
 #include "support/places.h"
 #include "support/run_program.h"

@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "costing/cost_text.h"
-#include "session/prefix_table.h"
+#include "database/prefix_table.h"
 #include "session/session.h"
 
 namespace tallix {

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <bit>
 
+#include "database/prefix_table.h"
 #include "failures/attempt.h"
-#include "session/prefix_table.h"
 #include "text/text_conversion.h"
 #include "text/text_pieces.h"
 

@@ -17,13 +17,13 @@
 #include "costing/call_pricing.h"
 #include "costing/tariff.h"
 #include "database/database_scope.h"
+#include "database/prefix_table.h"
 #include "host/event_queue.h"
 #include "reporting/catalogue.h"
 #include "reporting/key_lookup.h"
 #include "reporting/report_columns.h"
 #include "reporting/report_settings.h"
 #include "reporting/site.h"
-#include "session/prefix_table.h"
 
 namespace tallix {
 

@@ -47,10 +47,6 @@ void WriteLog(const DatabaseScope& database, const Session& session, const Clock
     database.Execute(statement);
 }
 
-void WriteLog(Session& session, const Clock& clock, std::string_view event) {
-    WriteLog(session.DBConn, session, clock, event);
-}
-
 void LogOnItsOwn(const Session& session, const Clock& clock, std::string_view event) {
     Attempt([&] { WriteLog(DatabaseScope(session.database), session, clock, event); });
 }

@@ -17,9 +17,6 @@ namespace tallix {
 void WriteLog(const DatabaseScope& database, const Session& session, const Clock& clock,
               std::string_view event);
 
-/// The same over session.DBConn.
-void WriteLog(Session& session, const Clock& clock, std::string_view event);
-
 /// Opens the database for one such row and closes it. Ignores failures of the database: the
 /// action goes on without its row.
 void LogOnItsOwn(const Session& session, const Clock& clock, std::string_view event);

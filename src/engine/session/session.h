@@ -4,14 +4,13 @@
 
 #include <string>
 
-#include "database/database_scope.h"
+#include "database/database_address.h"
 #include "session/access_rights.h"
 
 namespace tallix {
 
 struct Session {
     DatabaseAddress database;
-    DatabaseScope DBConn;  ///< open only during an operation
     std::string ReportsLocation;
     std::string DocsLocation;
     std::string Currency;

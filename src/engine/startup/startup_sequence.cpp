@@ -3,8 +3,8 @@
 #include <array>
 #include <utility>
 
+#include "database/database_scope.h"
 #include "platform/paths.h"
-#include "session/database.h"
 #include "startup/installation_check.h"
 
 namespace tallix {

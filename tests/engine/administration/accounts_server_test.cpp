@@ -108,13 +108,13 @@ TEST(AccountRulesTest, RefuseInTheirOrder) {
         std::string title;
     };
     const Case cases[] = {
-        {{"", "", "", "", ""}, "Username Incorrect"},
-        {{longest + "x", "", "", "", ""}, "Username Incorrect"},
-        {{longest, "", "", "", ""}, "Password Incorrect"},
-        {{"a", longest, longest + "@", "", ""}, "Email Address Incorrect"},
-        {{"a", "b", "c", "", ""}, "Bad Email Address"},
-        {{"a", "b", "@", "", ""}, ""},
-        {{"a", "ä" + longest.substr(1), "@", "", ""}, ""},
+        {{"", "", "", "", {}}, "Username Incorrect"},
+        {{longest + "x", "", "", "", {}}, "Username Incorrect"},
+        {{longest, "", "", "", {}}, "Password Incorrect"},
+        {{"a", longest, longest + "@", "", {}}, "Email Address Incorrect"},
+        {{"a", "b", "c", "", {}}, "Bad Email Address"},
+        {{"a", "b", "@", "", {}}, ""},
+        {{"a", "ä" + longest.substr(1), "@", "", {}}, ""},
     };
     for (const Case& c : cases) {
         const auto refusal = RefusalOf(c.account);

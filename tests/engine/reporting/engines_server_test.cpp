@@ -8,9 +8,9 @@
 
 #include "backup/automated_backup.h"
 #include "costing/cost_computation.h"
+#include "database/database_scope.h"
 #include "reporting/custom_reports.h"
 #include "reporting/report_run.h"
-#include "session/database.h"
 #include "setup/demo_data.h"
 #include "setup/reference_data.h"
 #include "support/places.h"

@@ -4,7 +4,7 @@
 
 #include <sstream>
 
-#include "session/database.h"
+#include "database/database_scope.h"
 #include "support/test_application.h"
 
 namespace tallix {

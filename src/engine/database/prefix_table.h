@@ -16,7 +16,7 @@
 #include <utility>
 #include <vector>
 
-#include "session/session.h"
+#include "database/database_scope.h"
 
 namespace tallix {
 
@@ -72,8 +72,6 @@ public:
     /// lookup.
     PrefixLookup(const DatabaseScope& database, std::string table, std::string codeColumn,
                  std::string valueColumn);
-    PrefixLookup(Session& session, std::string table, std::string codeColumn, std::string valueColumn)
-        : PrefixLookup(session.DBConn, std::move(table), std::move(codeColumn), std::move(valueColumn)) {}
 
     /// The value of the row that narrowing ends on, as in PrefixTable; lengths count
     /// characters. NULL reads as the empty text. The view lives as long as the lookup.

@@ -1,4 +1,4 @@
-#include "session/prefix_table.h"
+#include "database/prefix_table.h"
 
 #include <algorithm>
 #include <bit>
