@@ -13,6 +13,7 @@
 #include "backup/backup.h"
 #include "backup/restore.h"
 #include "costing/cost_computation.h"
+#include "database/database_scope.h"
 #include "floors.h"
 #include "reporting/custom_reports.h"
 #include "reporting/report_run.h"

@@ -4,6 +4,7 @@
 #include <sstream>
 
 #include "database/connection.h"
+#include "database/database_scope.h"
 #include "database/schema.h"
 #include "setup/demo_data.h"
 #include "setup/reference_data.h"

@@ -4,6 +4,7 @@
 
 #include <set>
 
+#include "database/database_scope.h"
 #include "reporting/catalogue.h"
 #include "reporting/query_builder.h"
 #include "support/places.h"

@@ -1,6 +1,7 @@
 #include "administration/options_save.h"
 
 #include "backup/backup_task.h"
+#include "database/database_scope.h"
 #include "session/access_log.h"
 
 namespace tallix {

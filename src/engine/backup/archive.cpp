@@ -10,6 +10,7 @@
 #include "backup/serving_database.h"
 #include "backup/zip_files.h"
 #include "compat/service_command.h"
+#include "database/database_scope.h"
 #include "database/recordset.h"
 #include "failures/errors.h"
 #include "platform/buffered_file.h"

@@ -1,6 +1,7 @@
 #include "backup/automated_backup.h"
 
 #include "backup/backup_format.h"
+#include "database/database_scope.h"
 
 namespace tallix {
 

@@ -4,6 +4,7 @@
 #include <stdexcept>
 
 #include "backup/serving_database.h"
+#include "database/database_scope.h"
 #include "session/access_log.h"
 
 namespace tallix {

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "backup/serving_database.h"
+#include "database/database_scope.h"
 #include "failures/attempt.h"
 #include "text/text_lines.h"
 

@@ -5,6 +5,7 @@
 
 #include "costing/call_pricing.h"
 #include "costing/tariff.h"
+#include "database/database_scope.h"
 #include "database/row_batch.h"
 #include "failures/attempt.h"
 

@@ -1,5 +1,6 @@
 #include "costing/cost_map.h"
 
+#include "database/database_scope.h"
 #include "failures/attempt.h"
 #include "text/text_pieces.h"
 

@@ -1,5 +1,6 @@
 #include "costing/costings.h"
 
+#include "database/database_scope.h"
 #include "failures/attempt.h"
 #include "text/text_lines.h"
 

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "costing/cost_text.h"
+#include "database/database_scope.h"
 #include "database/prefix_table.h"
 #include "session/session.h"
 

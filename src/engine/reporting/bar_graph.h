@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <string>
 
+#include "database/database_scope.h"
 #include "database/rows.h"
 
 namespace tallix {

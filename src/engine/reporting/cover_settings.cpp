@@ -1,5 +1,6 @@
 #include "reporting/cover_settings.h"
 
+#include "database/database_scope.h"
 #include "session/access_log.h"
 
 namespace tallix {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "database/database_scope.h"
 #include "reporting/report_content.h"
 
 namespace tallix {

@@ -2,6 +2,7 @@
 
 #include <string_view>
 
+#include "database/database_scope.h"
 #include "database/rows.h"
 
 namespace tallix {

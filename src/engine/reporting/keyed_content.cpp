@@ -3,6 +3,7 @@
 #include "compat/ini_file.h"
 #include "costing/cost_text.h"
 #include "costing/tariff.h"
+#include "database/database_scope.h"
 #include "failures/attempt.h"
 #include "platform/paths.h"
 #include "reporting/bar_graph.h"

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "database/database_scope.h"
 #include "reporting/catalogue.h"
 #include "reporting/query_rules.h"
 #include "reporting/record_filters.h"

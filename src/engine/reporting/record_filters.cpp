@@ -2,6 +2,7 @@
 
 #include <compare>
 
+#include "database/database_scope.h"
 #include "failures/attempt.h"
 #include "reporting/field_text.h"
 #include "text/text_conversion.h"

@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "database/database_scope.h"
 #include "database/rows.h"
 #include "reporting/run_description.h"
 

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 
+#include "database/database_scope.h"
 #include "database/rows.h"
 #include "host/run_progress.h"
 #include "reporting/page_writer.h"

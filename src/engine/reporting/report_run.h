@@ -13,6 +13,7 @@
 #include <span>
 #include <string_view>
 
+#include "database/database_scope.h"
 #include "host/run_progress.h"
 #include "reporting/report_content.h"
 #include "reporting/run_description.h"

@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "database/database_scope.h"
 #include "failures/attempt.h"
 #include "platform/paths.h"
 #include "text/text_conversion.h"

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "database/database_scope.h"
 #include "host/clock.h"
 #include "session/session.h"
 

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "database/database_scope.h"
 #include "support/test_application.h"
 
 namespace tallix {

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "database/database_scope.h"
 #include "failures/errors.h"
 #include "support/test_application.h"
 

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include "database/database_scope.h"
 #include "failures/errors.h"
 #include "support/test_application.h"
 

@@ -6,6 +6,7 @@
 #include <QRadioButton>
 #include <QTest>
 
+#include "database/database_scope.h"
 #include "session/access_rights.h"
 #include "support/form_test.h"
 #include "toolkit/report_preview.h"
