@@ -13,6 +13,7 @@
 #include <string_view>
 #include <vector>
 
+#include "database/connection.h"
 #include "session/application.h"
 #include "support/fixed_clock.h"
 #include "support/scripted_prompts.h"
