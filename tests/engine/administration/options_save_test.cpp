@@ -137,8 +137,8 @@ TEST_F(OptionsSaveTest, TwoAdministratorsAtOnceLoseNothingOfEachOther) {
         program.session.CurrentUser = user;
         for (int round = 0; round < kRounds; ++round) {
             const std::string name = user + std::to_string(round);
-            AddAccount(program, {name, "x", "@", "", ""});
-            AddUserGroup(program.session, name, std::string(42, '1'));
+            AddAccount(program, {name, "x", "@", "", {}});
+            AddUserGroup(program.session, name, AccessRights::All());
             AddKnownNumber(program.session, {name, name});
             SaveOptions(program, shown);
         }

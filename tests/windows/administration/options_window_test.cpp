@@ -1,15 +1,14 @@
 #include "windows/administration/options_window.h"
 
-#include <gmock/gmock.h>
 
 #include <QCheckBox>
 #include <QRadioButton>
-#include <QTest>
 
 #include "database/database_scope.h"
 #include "session/access_rights.h"
 #include "support/form_test.h"
 #include "toolkit/report_preview.h"
+#include "toolkit/style.h"
 
 namespace tallix {
 namespace {
@@ -122,6 +121,21 @@ TEST_F(OptionsWindowTest, EverySettingHasAControl) {
         const bool mayBeEmpty = setting.control.kind == SettingKind::List || setting.key == "SMTPPass";
         EXPECT_TRUE(mayBeEmpty || !world.settings.Read(setting.key).empty()) << setting.key;
     }
+}
+
+TEST_F(OptionsWindowTest, AMouseReachesTheButtonsOfTheAccountPanel) {
+    toolkit::ApplyStyle(*qApp);  // the program's, whose inputs are high
+    auto& entries = *Window().findChild<QListWidget*>();
+    entries.setCurrentItem(entries.findItems("User Accounts", Qt::MatchExactly).front());
+    Click("Add");
+    for (const char* caption : {"Save", "Cancel"}) {
+        QAbstractButton& button = Button(caption);
+        const QPoint centre = button.mapTo(button.window(), button.rect().center());
+        ASSERT_EQ(button.window()->childAt(centre), &button) << caption;
+        QTest::mouseClick(button.window()->windowHandle(), Qt::LeftButton, {}, centre);
+    }
+    EXPECT_EQ(LastMessage().title, "Username Incorrect");
+    EXPECT_FALSE(Button("Cancel").isVisible());
 }
 
 TEST_F(OptionsWindowTest, SavesOnceThoughItIsClickedAndClosedMeanwhile) {
