@@ -9,7 +9,7 @@ import subprocess
 import sys
 
 sys.dont_write_bytecode = True
-sys.path.insert(0, str(pathlib.Path(__file__).parents[1] / "support"))
+sys.path.insert(0, str(pathlib.Path(__file__).parents[2] / "support"))
 from person import Atspi, Desktop, Person, wait_for  # noqa: E402
 
 LONGEST = 40  # seconds, for the whole session
