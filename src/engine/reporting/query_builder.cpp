@@ -2,8 +2,7 @@
 
 #include <fmt/format.h>
 
-#include <algorithm>
-#include <iterator>
+#include <stdexcept>
 #include <vector>
 
 #include "failures/attempt.h"
@@ -65,53 +64,58 @@ std::string GroupMembers(const DatabaseScope& database, const std::string& group
     return members;
 }
 
-using TextOfPlaceholder = std::string (*)(const DatabaseScope& database, const QueryInputs& query);
+/// What placeholders take their texts from.
+struct Source {
+    const DatabaseScope& database;
+    const QueryInputs& query;
+
+    const RunInputs& Inputs() const { return query.inputs; }
+    std::string Quoted(const std::string& value) const { return database.Quoted(value); }
+};
 
 struct Placeholder {
     std::string_view name;
-    TextOfPlaceholder text;
+    std::string (*text)(const Source& source);
 };
 
-constexpr Placeholder kPlaceholders[] = {
-    {"extensionColumn",
-     [](const DatabaseScope&, const QueryInputs& query) {
-         return std::string(query.isMitel5000 ? "OrigNum" : "Extension");
-     }},
-    {"extension", [](const DatabaseScope& database,
-                     const QueryInputs& query) { return database.Quoted(query.inputs.extension); }},
-    // Calls hold the extension with a blank after it as well.
-    {"extensionAndBlank",
-     [](const DatabaseScope& database, const QueryInputs& query) {
-         return database.Quoted(query.inputs.extension + " ");
-     }},
-    {"account", [](const DatabaseScope& database,
-                   const QueryInputs& query) { return database.Quoted(query.inputs.account); }},
-    {"site", [](const DatabaseScope& database,
-                const QueryInputs& query) { return database.Quoted(query.inputs.site); }},
-    {"groupMembers", [](const DatabaseScope& database,
-                        const QueryInputs& query) { return GroupMembers(database, query.inputs.group); }},
-    {"where", [](const DatabaseScope&, const QueryInputs& query) { return query.options.where; }},
-    {"whereCondition",
-     [](const DatabaseScope&, const QueryInputs& query) {
-         return std::string(Mid(query.options.where, kLengthOfWhere + 1, std::string::npos));
-     }},
-};
-
-// The names in the rules are ours: each is in the table.
-std::string TextOf(std::string_view name, const DatabaseScope& database, const QueryInputs& query) {
-    const auto* placeholder = std::find_if(std::begin(kPlaceholders), std::end(kPlaceholders),
-                                           [&](const Placeholder& each) { return each.name == name; });
-    return placeholder->text(database, query);
+std::string ExtensionColumn(const Source& source) {
+    return source.query.isMitel5000 ? "OrigNum" : "Extension";
 }
 
-std::string Expand(std::string_view text, const DatabaseScope& database, const QueryInputs& query) {
+// Without "WHERE ", whatever the first characters are.
+std::string WhereCondition(const Source& source) {
+    return std::string(Mid(source.query.options.where, kLengthOfWhere + 1, std::string::npos));
+}
+
+// Calls hold an extension with a blank after it as well.
+constexpr Placeholder kPlaceholders[] = {
+    {"extensionColumn", ExtensionColumn},
+    {"extension", [](const Source& source) { return source.Quoted(source.Inputs().extension); }},
+    {"extensionAndBlank",
+     [](const Source& source) { return source.Quoted(source.Inputs().extension + " "); }},
+    {"account", [](const Source& source) { return source.Quoted(source.Inputs().account); }},
+    {"site", [](const Source& source) { return source.Quoted(source.Inputs().site); }},
+    {"groupMembers",
+     [](const Source& source) { return GroupMembers(source.database, source.Inputs().group); }},
+    {"where", [](const Source& source) { return source.query.options.where; }},
+    {"whereCondition", WhereCondition},
+};
+
+std::string TextOf(std::string_view name, const Source& source) {
+    for (const Placeholder& placeholder : kPlaceholders) {
+        if (placeholder.name == name) return placeholder.text(source);
+    }
+    throw std::logic_error("A rule has the unknown placeholder " + std::string(name));
+}
+
+std::string Expand(std::string_view text, const Source& source) {
     std::string expanded;
     while (true) {
         const std::size_t open = text.find('{');
         expanded += text.substr(0, open);
         if (open == std::string_view::npos) return expanded;
         const std::size_t close = text.find('}', open);
-        expanded += TextOf(text.substr(open + 1, close - open - 1), database, query);
+        expanded += TextOf(text.substr(open + 1, close - open - 1), source);
         text.remove_prefix(close + 1);
     }
 }
@@ -120,7 +124,7 @@ std::string Expand(std::string_view text, const DatabaseScope& database, const Q
 
 std::string BuildQuery(const DatabaseScope& database, const QueryInputs& query) {
     std::string statement(CountsDialledNumbers(query.flags, query.options) ? kCountOfNumbers : kAllCalls);
-    statement += Expand(RuleText(query), database, query);
+    statement += Expand(RuleText(query), {database, query});
     return database.Kind() == DatabaseKind::SqlServer ? Replace(statement, "\"", "'") : statement;
 }
 
