@@ -9,8 +9,10 @@
 #include "toolkit/dialog_keys.h"
 #include "toolkit/form_names.h"
 #include "toolkit/forms.h"
+#include "toolkit/label.h"
 #include "toolkit/main_menu_form.h"
 #include "toolkit/style.h"
+#include "toolkit/text.h"
 
 namespace tallix {
 namespace {
@@ -85,8 +87,7 @@ QFrame* CoverBackingWindow::BackingFrame() {
 }
 
 QLayout* CoverBackingWindow::TitleRow() {
-    auto* label = new QLabel("Title:");
-    label->setBuddy(titleText_);
+    QLabel* label = toolkit::LabelOf("Title:", titleText_);
     titleText_->setMinimumWidth(kTitleWidth);
     for (QWidget* widget : {static_cast<QWidget*>(label), static_cast<QWidget*>(titleText_)}) {
         widget->setEnabled(false);
@@ -104,7 +105,7 @@ void CoverBackingWindow::OnLoad() {
     const CoverSettings covers = LoadCoverSettings(application_.settings);
     for (const auto& [box, value] : boxes_) box->setChecked(covers.*value);
     (covers.customTitle ? customTitle_ : defaultTitle_)->setChecked(true);
-    titleText_->setText(QString::fromStdString(covers.titleText));
+    titleText_->setText(toolkit::ToQString(covers.titleText));
 }
 
 void CoverBackingWindow::SaveAndExit() {

@@ -77,7 +77,6 @@ QLayout* CustomReportsWindow::ReportsColumn() {
     auto* column = Column();
     column->addWidget(toolkit::LabelOf("Available Reports", reports_));
     column->addWidget(reports_, 1);
-    reports_->setAccessibleName("Available Reports");
     reports_->setFixedWidth(kListWidth);
     return column;
 }
@@ -89,7 +88,6 @@ QLayout* CustomReportsWindow::FieldColumn() {
     column->addSpacing(toolkit::kSpacing);
     column->addWidget(toolkit::LabelOf("Select data you wish to show", fields_));
     column->addWidget(fields_, 1);
-    fields_->setAccessibleName("Select data you wish to show");
     for (QListWidget* list : {reports_, fields_}) list->setSpacing(toolkit::kGrid / 4);
     fields_->setMinimumHeight(static_cast<int>(kCustomFields + 1) * 3 * toolkit::kGrid);
     for (QWidget* widget : {static_cast<QWidget*>(name_), static_cast<QWidget*>(fields_)}) {
@@ -220,13 +218,13 @@ void CustomReportsWindow::Show(const CustomReport& report) {
     for (std::size_t i = 0; i < kCustomFields; ++i) {
         fields_->item(static_cast<int>(i))->setCheckState(report.shown.at(i) ? Qt::Checked : Qt::Unchecked);
     }
-    account_->setText(QString::fromStdString(report.account));
-    duration_->setText(QString::fromStdString(report.duration));
+    account_->setText(toolkit::ToQString(report.account));
+    duration_->setText(toolkit::ToQString(report.duration));
     ButtonOf(report.durationTest)->setChecked(true);
     start_->SetText(report.startDate);
     end_->SetText(report.endDate);
     for (const toolkit::DateInput* date : {start_, end_}) date->Box().setChecked(!date->Text().empty());
-    extension_->setText(QString::fromStdString(report.extension));
+    extension_->setText(toolkit::ToQString(report.extension));
     Output().Choose(report.destination, report.application);
 }
 
@@ -254,7 +252,7 @@ void CustomReportsWindow::Save() {
 }
 
 void CustomReportsWindow::RunReport() {
-    extension_->setText(QString::fromStdString(FullExtension(TextOf(*extension_))));
+    extension_->setText(toolkit::ToQString(FullExtension(TextOf(*extension_))));
     DestinationChoice choice = Output().Choice();
     choice.editorFile = kEditorFile;
     Run({.reportName = TextOf(*name_), .kind = CustomRun{Described()}}, choice);

@@ -52,7 +52,7 @@ DestinationChoice OutputFrame::Choice() const {
 void OutputFrame::Choose(Destination destination, const std::string& application) {
     QRadioButton* const options[] = {onScreen_, toPrinter_, inApplication_};
     options[static_cast<std::size_t>(destination)]->setChecked(true);
-    applications_->setCurrentIndex(applications_->findText(QString::fromStdString(application)));
+    applications_->setCurrentIndex(applications_->findText(toolkit::ToQString(application)));
 }
 
 void OutputFrame::EnableLists() {

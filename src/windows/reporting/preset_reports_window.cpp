@@ -8,6 +8,7 @@
 #include "toolkit/button_row.h"
 #include "toolkit/choice_lists.h"
 #include "toolkit/dialog_keys.h"
+#include "toolkit/label.h"
 #include "toolkit/style.h"
 #include "toolkit/text.h"
 #include "windows/reporting/input_text.h"
@@ -55,9 +56,6 @@ PresetReportsWindow::PresetReportsWindow(toolkit::Forms& forms, Application& app
 
 QWidget* PresetReportsWindow::ReportsColumn() {
     auto* column = new QWidget;
-    auto* label = new QLabel("Available Reports");
-    label->setBuddy(reports_);
-    reports_->setAccessibleName(label->text());  // a list does not take it from its label
     reports_->setModel(reportNames_);
     reports_->setUniformItemSizes(true);
     reports_->setSpacing(toolkit::kGrid / 4);
@@ -65,7 +63,7 @@ QWidget* PresetReportsWindow::ReportsColumn() {
     auto* rows = new QVBoxLayout(column);
     rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(toolkit::kSpacing);
-    rows->addWidget(label);
+    rows->addWidget(toolkit::LabelOf("Available Reports", reports_));
     rows->addWidget(reports_);
     column->setFixedWidth(kListWidth);
     return column;
@@ -102,8 +100,7 @@ QGridLayout* PresetReportsWindow::FilterGrid() {
 
 void PresetReportsWindow::AddRow(QGridLayout& grid, Input input, const QString& caption,
                                  const std::vector<QWidget*>& inputs) {
-    auto* label = new QLabel(caption);
-    label->setBuddy(inputs.front());
+    QLabel* label = toolkit::LabelOf(caption, inputs.front());
     auto* row = new QHBoxLayout;
     row->setSpacing(toolkit::kSpacing * 2);
     for (QWidget* widget : inputs) row->addWidget(widget);
@@ -116,10 +113,11 @@ void PresetReportsWindow::AddRow(QGridLayout& grid, Input input, const QString& 
     all.insert(all.end(), inputs.begin(), inputs.end());
 }
 
-// One label for both; each date has its box for a name.
+// One label for both dates; each is named by its box.
 void PresetReportsWindow::AddDateRows(QGridLayout& grid) {
     QCheckBox& start = start_->Box();
     QCheckBox& end = end_->Box();
+    for (QCheckBox* box : {&start, &end}) box->setAccessibleName(box->text());
     AddRow(grid, Input::Date, "Date:", {&start, start_});
     AddRow(grid, Input::Date, "", {&end, end_});
     const int boxWidth = std::max(start.sizeHint().width(), end.sizeHint().width());
