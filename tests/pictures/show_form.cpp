@@ -13,33 +13,22 @@
 namespace tallix {
 namespace {
 
-Session SessionOfAdministrator(const SettingsStore& settings) {
-    Session session;
-    session.database.kind = DatabaseKindOf(settings.Read("DBType"));
-    session.database.server = settings.Read("DBIP");
-    session.CurrentUser = "Administrator";
-    session.CurrentAccess = AccessRights::All();
-    session.UseStatsMain = true;
-    return session;
-}
-
 int ShowForm(const char* name) {
     toolkit::MessagePrompts prompts;
     SettingsStore settings(MachineSettingsFolder(), UserSettingsFolder(), prompts);
     SystemClock clock;
     toolkit::QtEvents events;
-    Application application{ApplicationFolder(),
-                            TempFolder(),
-                            ProgramVersion(),
-                            settings,
-                            prompts,
-                            clock,
-                            events,
-                            SessionOfAdministrator(settings)};
+    Application program{
+        ApplicationFolder(), TempFolder(), ProgramVersion(), settings, prompts, clock, events};
+    Session& session = program.session;
+    session.database = {DatabaseKindOf(settings.Read("DBType")), settings.Read("DBIP"), "", ""};
+    session.CurrentUser = "Administrator";
+    session.CurrentAccess = AccessRights::All();
+    session.UseStatsMain = true;
     toolkit::Printers printers;
     toolkit::Forms forms;
     ReportFlags flags;
-    RegisterWindows(forms, application, flags, printers);
+    RegisterWindows(forms, program, flags, printers);
     forms.Show(name);
     return QApplication::exec();
 }

@@ -10,7 +10,6 @@
 
 #include "support/places.h"
 #include "support/run_program.h"
-#include "support/temp_folder.h"
 #include "support/test_application.h"
 
 namespace tallix::test {

@@ -1,11 +1,5 @@
 // The base of the tests of one window: an application of its own, and the window as a
 // person sees it, by the words on it.
-//
-//     SitesWindowTest() { UnderTest<SitesWindow>(kSitesForm, world.application); }
-//     ...
-//     Type("Site Name:", "West");
-//     Click("Save");
-//     EXPECT_EQ(LastMessage().title, "IP Error");
 #pragma once
 
 #include <QLabel>

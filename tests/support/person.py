@@ -98,10 +98,10 @@ class Person:
             yield from (window for window in children(program) if has(window, Atspi.StateType.SHOWING))
 
     def see(self, label, *roles):
-        """What has this label now, of one of the roles if any are given; else None."""
+        """What has this label (None: any) now, of one of the roles if any are given; else None."""
         for window in self.windows():
             for thing in all_shown(window):
-                if (not roles or thing.get_role() in roles) and label in labels(thing):
+                if (not roles or thing.get_role() in roles) and (label is None or label in labels(thing)):
                     return thing
         return None
 
@@ -146,10 +146,7 @@ class Person:
                 yield from inside(child)
 
         def page():
-            for window in self.windows():
-                for thing in all_shown(window):
-                    if thing.get_role() == Atspi.Role.DOCUMENT_WEB:
-                        return list(inside(thing))
-            return None
+            document = self.see(None, Atspi.Role.DOCUMENT_WEB)
+            return document and list(inside(document))
 
         return wait_for(page, "the cells of a page")

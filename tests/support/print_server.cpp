@@ -10,10 +10,9 @@ namespace tallix::test {
 namespace {
 
 namespace fs = std::filesystem;
+using namespace std::chrono_literals;
 
 constexpr char kInstalled[] = "/usr/lib/cups";
-constexpr std::chrono::seconds kPatience{10};
-constexpr std::chrono::milliseconds kPause{20};
 
 // The device: what it receives becomes a file whose name contains the job's number, whole
 // from its first moment.
@@ -60,21 +59,6 @@ Accepting Yes
 }  // namespace
 
 PrintServer::PrintServer(const std::string& printer) {
-    WriteConfiguration(printer);
-    const std::string root = folder_.Path().string();
-    process_.emplace(fmt::format("/usr/sbin/cupsd -f -c {0}/cupsd.conf -s {0}/cups-files.conf", root));
-    const std::string socket = root + "/cups.sock";
-    const auto deadline = std::chrono::steady_clock::now() + kPatience;
-    while (!fs::exists(socket)) {
-        if (std::chrono::steady_clock::now() > deadline) {
-            throw std::runtime_error("no print server: " + ReadBytes(root + "/error_log"));
-        }
-        std::this_thread::sleep_for(kPause);
-    }
-    setenv("CUPS_SERVER", socket.c_str(), 1);
-}
-
-void PrintServer::WriteConfiguration(const std::string& printer) const {
     const std::string root = folder_.Path().string();
     for (const char* name : {"bin", "bin/backend", "spool", "cache", "jobs"}) {
         fs::create_directories(folder_.Path() / name);
@@ -83,11 +67,19 @@ void PrintServer::WriteConfiguration(const std::string& printer) const {
         fs::create_symlink(fs::path(kInstalled) / name, folder_.Path() / "bin" / name);
     }
     const fs::path device = folder_.Write("bin/backend/keep", fmt::format(kDevice, root + "/jobs"));
-    fs::permissions(device,
-                    fs::perms::owner_all);  // a device that others may not run has the server's rights
+    // A device that others may not run has the server's rights.
+    fs::permissions(device, fs::perms::owner_all);
     folder_.Write("cups-files.conf", fmt::format(kFiles, root));
     folder_.Write("cupsd.conf", fmt::format(kServer, root));
     folder_.Write("printers.conf", fmt::format(kQueue, printer));
+
+    process_.emplace(fmt::format("/usr/sbin/cupsd -f -c {0}/cupsd.conf -s {0}/cups-files.conf", root));
+    const std::string socket = root + "/cups.sock";
+    for (auto waited = 0ms; !fs::exists(socket); waited += 20ms) {
+        if (waited > 10s) throw std::runtime_error("no print server: " + ReadBytes(root + "/error_log"));
+        std::this_thread::sleep_for(20ms);
+    }
+    setenv("CUPS_SERVER", socket.c_str(), 1);
 }
 
 std::vector<fs::path> PrintServer::Jobs() const {

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "support/end_guard.h"
+#include "support/run_program.h"
 #include "support/temp_folder.h"
 
 namespace tallix::test {
@@ -21,8 +21,6 @@ public:
     std::vector<std::filesystem::path> Jobs() const;
 
 private:
-    void WriteConfiguration(const std::string& printer) const;
-
     TempFolder folder_;
     std::optional<RunningProgram> process_;
 };

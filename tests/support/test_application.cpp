@@ -1,8 +1,5 @@
 #include "support/test_application.h"
 
-#include <fmt/format.h>
-
-#include <fstream>
 #include <sstream>
 
 #include "database/database_scope.h"
@@ -15,11 +12,6 @@ namespace tallix::test {
 
 namespace {
 
-DatabaseAddress EmbeddedIn(const TempFolder& folder) {
-    const std::filesystem::path file = folder.Write("tallix.db", "");
-    return {DatabaseKind::MySql, "sqlite:" + file.string(), "", ""};
-}
-
 const TestApplication::Row kCall = {
     {"Date", "05/03/2021"},     {"Time", "10:15:00"}, {"Duration", "00:02:30"},
     {"Extension", "201"},       {"NumRings", "3"},    {"OrigNum", "201"},
@@ -28,28 +20,23 @@ const TestApplication::Row kCall = {
     {"Trunk", "T001"},          {"Account", "7"},     {"Site", "001"},
 };
 
-struct KeyList {
-    std::vector<std::string> keys;
-    std::string fallback;
-};
+using KeyNames = std::vector<std::string>;
+const KeyNames kColumns = {"Date",    "Time",    "Duration", "Extension", "Name",        "NumRings",
+                           "OrigNum", "DestNum", "Internal", "Error",     "Supervision", "Speedcall",
+                           "Forward", "Trunk",   "Account",  "Area",      "Site",        "Sum"};
+const KeyNames kSwitches = {"Date",  "Duration", "Extension", "Account", "Site",
+                            "Group", "Time",     "Cost",      "Hours"};
+const KeyNames kTexts = {"Title", "Where", "Sum", "Top"};
 
-std::string Keys(const KeyList& list, const TestApplication::Row& values) {
+std::string Keys(const KeyNames& keys, const std::string& fallback, const TestApplication::Row& values) {
     std::string text;
-    for (const std::string& key : list.keys) {
+    for (const std::string& key : keys) {
         const auto value = values.find(key);
         if (value != values.end() && value->second == "-") continue;
-        text += key + "=" + (value == values.end() ? list.fallback : value->second) + "\r\n";
+        text += key + "=" + (value == values.end() ? fallback : value->second) + "\r\n";
     }
     return text;
 }
-
-const KeyList kColumns = {
-    {"Date", "Time", "Duration", "Extension", "Name", "NumRings", "OrigNum", "DestNum", "Internal", "Error",
-     "Supervision", "Speedcall", "Forward", "Trunk", "Account", "Area", "Site", "Sum"},
-    "False"};
-const KeyList kSwitches = {
-    {"Date", "Duration", "Extension", "Account", "Site", "Group", "Time", "Cost", "Hours"}, "False"};
-const KeyList kTexts = {{"Title", "Where", "Sum", "Top"}, ""};
 
 }  // namespace
 
@@ -83,7 +70,7 @@ std::vector<std::string> ReadLines(const std::filesystem::path& file) {
     return lines;
 }
 
-TestApplication::TestApplication() : TestApplication(DatabaseAddress{}) {}
+TestApplication::TestApplication() : TestApplication(DatabaseAddress{DatabaseKind::MySql, "", "", ""}) {}
 
 TestApplication::TestApplication(const DatabaseAddress& address)
     : settings(folder_.Path() / "settings", folder_.Path() / "settings", prompts),
@@ -99,7 +86,8 @@ TestApplication::TestApplication(const DatabaseAddress& address)
         std::filesystem::create_directories(folder_.Path() / name);
     }
     Session& session = application.session;
-    session.database = address.server.empty() ? EmbeddedIn(folder_) : address;
+    session.database = address;
+    if (address.server.empty()) session.database.server = "sqlite:" + folder_.Write("tallix.db", "").string();
     session.Currency = "£";
     session.CurrentUser = "Ann";
     session.ReportsLocation = application.folder.string();
@@ -133,11 +121,9 @@ void TestApplication::InsertCall(const Row& changes) {
 
 std::filesystem::path TestApplication::WriteReport(const std::string& name, const Row& data,
                                                    const Row& options) {
-    std::filesystem::path file = PresetReportFile(application.folder, name);
-    std::filesystem::create_directories(file.parent_path());
-    std::ofstream(file, std::ios::binary) << "[Data]\r\n" + Keys(kColumns, data) + "[Options]\r\n" +
-                                                 Keys(kSwitches, options) + Keys(kTexts, options);
-    return file;
+    return folder_.Write(PresetReportFile(application.folder, name),
+                         "[Data]\r\n" + Keys(kColumns, "False", data) + "[Options]\r\n" +
+                             Keys(kSwitches, "False", options) + Keys(kTexts, "", options));
 }
 
 }  // namespace tallix::test

@@ -9,10 +9,8 @@
 
 #include "database/database_scope.h"
 #include "database/schema.h"
-#include "support/end_guard.h"
 #include "support/places.h"
 #include "support/run_program.h"
-#include "support/test_application.h"
 
 namespace tallix::test {
 
@@ -27,7 +25,16 @@ constexpr const char* kPostgresDriver = "/usr/lib/x86_64-linux-gnu/odbc/psqlodbc
 /// The running servers, which stop when this process ends.
 class Servers {
 public:
-    Servers();
+    Servers() {
+        // PostgreSQL, which root runs under another account, must be able to get in.
+        std::filesystem::permissions(folder_.Path(), std::filesystem::perms(0711));
+        const ProgramRun run = RunProgram("/bin/bash", {kScript, "start", data_});
+        if (run.status != 0) throw std::runtime_error("The database servers do not start: " + run.err);
+        for (const std::string& line : ReadLines(data_ + "/env")) {
+            const std::size_t equals = line.find('=');
+            values_[line.substr(0, equals)] = line.substr(equals + 1);
+        }
+    }
 
     /// A value of the file that the script writes.
     std::string operator[](const std::string& name) const { return values_.at(name); }
@@ -39,38 +46,18 @@ private:
     std::map<std::string, std::string> values_;
 };
 
-Servers::Servers() {
-    // PostgreSQL, which root runs under another account, must be able to get in.
-    using std::filesystem::perms;
-    std::filesystem::permissions(folder_.Path(), perms::owner_all | perms::group_exec | perms::others_exec);
-    const ProgramRun run = RunProgram("/bin/bash", {kScript, "start", data_});
-    if (run.status != 0) throw std::runtime_error("The database servers do not start: " + run.err);
-    for (const std::string& line : ReadLines(data_ + "/env")) {
-        const std::size_t equals = line.find('=');
-        values_[line.substr(0, equals)] = line.substr(equals + 1);
-    }
-}
-
-const Servers& RunningServers() {
-    static const Servers servers;
-    return servers;
-}
-
-TestEngine SqliteEngine() {
-    static const TempFolder folder;
-    return {"sqlite", "1", fmt::format("sqlite:{}/tallix.db", folder.Path().string()), "", "", ""};
-}
-
-TestEngine ServerEngine(std::string name, std::string dbType, const std::string& address) {
-    const Servers& servers = RunningServers();
-    return {std::move(name),        std::move(dbType),          servers[address],
-            servers["SERVER_USER"], servers["SERVER_PASSWORD"], ""};
-}
-
 TestEngine MakeEngine(std::string_view name) {
-    if (name == "sqlite") return SqliteEngine();
-    if (name == "mariadb") return ServerEngine("mariadb", "1", "MARIADB_ADDRESS");
-    TestEngine engine = ServerEngine(std::string(name), "3", "POSTGRES_ADDRESS");
+    static const TempFolder folder;
+    if (name == "sqlite")
+        return {"sqlite", "1", "sqlite:" + (folder.Path() / "tallix.db").string(), "", "", ""};
+    static const Servers servers;
+    const bool isMaria = name == "mariadb";
+    TestEngine engine{std::string(name),
+                      isMaria ? "1" : "3",
+                      servers[isMaria ? "MARIADB_ADDRESS" : "POSTGRES_ADDRESS"],
+                      servers["SERVER_USER"],
+                      servers["SERVER_PASSWORD"],
+                      ""};
     if (name == "odbc") {
         engine.dbType.clear();
         engine.connectionText = fmt::format("DRIVER={{{}}};SERVER={};DATABASE=tallix;UID={};PWD={}",
@@ -98,7 +85,7 @@ void Empty(const TestEngine& engine) {
         const std::ofstream made(file);
         return;
     }
-    const std::unique_ptr<ado::Connection> connection = Connect(engine);
+    const auto connection = Connect(engine);
     if (engine.name == "mariadb") return EmptyMariaDb(connection->Server());
     connection->Server().Execute("DROP SCHEMA public CASCADE");
     connection->Server().Execute("CREATE SCHEMA public");

@@ -1,25 +1,17 @@
-// The database engines that can be run here, for tests that must hold on every one:
-//
-//     class Reports : public testing::TestWithParam<const char*> {};
-//     TEST_P(Reports, AreTheSame) {
-//         const TestEngine& engine = EngineNamed(GetParam());
-//         const auto connection = FreshDatabase(engine);   // open, all tables, no rows
-//         TestApplication test(engine.Database());
-//     }
-//     INSTANTIATE_TEST_SUITE_P(Engines, Reports, testing::ValuesIn(kSessionEngines));
-//
-// The servers start with the first engine that needs them, once a process, and stop when
-// the process ends, however it ends. Every engine has one database, which its tests share
-// one after the other.
+// The database engines that can be run here, for tests that must hold on every one. The
+// servers start with the first engine that needs them, once a process, and stop when the
+// process ends, however it ends. Every engine has one database, which its tests share one
+// after the other.
 #pragma once
+
+#include <gtest/gtest.h>
 
 #include <array>
 #include <memory>
 #include <string>
 #include <string_view>
 
-#include "database/connection.h"
-#include "database/database_address.h"
+#include "support/test_application.h"
 
 namespace tallix::test {
 
@@ -48,5 +40,14 @@ std::unique_ptr<ado::Connection> FreshDatabase(const TestEngine& engine);
 
 /// One more connection to it, as it is.
 std::unique_ptr<ado::Connection> Connect(const TestEngine& engine);
+
+/// The base of the tests that must hold on every engine: such a database and an application.
+class EngineTest : public testing::TestWithParam<const char*> {
+protected:
+    const TestEngine& engine_ = EngineNamed(GetParam());
+    const std::unique_ptr<ado::Connection> connection_ = FreshDatabase(engine_);
+    TestApplication test_{engine_.Database()};
+    Session& session_ = test_.application.session;
+};
 
 }  // namespace tallix::test

@@ -2,7 +2,7 @@
 // event loop a test runs until the last form is gone.
 #pragma once
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <QAbstractButton>
 #include <QCheckBox>
@@ -43,9 +43,8 @@ protected:
         QTimer::singleShot(0, toolkit_.get(), action);
     }
 
-    /// Presses a button with the mouse, at its place on its window, and returns when the
-    /// press has been served. Serves no other events. Throws
-    /// std::runtime_error where the mouse does not reach the button.
+    /// Presses a button with the mouse, at its place on its window, and serves nothing but the
+    /// press. Throws std::runtime_error where the mouse does not reach the button.
     static void ClickOn(QAbstractButton& button) {
         QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
         for (QWidget* part = &button; part != nullptr; part = part->parentWidget()) {

@@ -1,14 +1,11 @@
 #include "toolkit/list_view.h"
 
-#include <gmock/gmock.h>
-
 #include <QClipboard>
 #include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QShortcut>
-#include <QTest>
 
 #include "support/window_test.h"
 
@@ -18,7 +15,6 @@ namespace {
 struct Cost {
     std::string destination;
     std::string pence;
-    int unseen = 0;
 };
 
 std::string KindOf(const Cost& cost) {
@@ -27,12 +23,7 @@ std::string KindOf(const Cost& cost) {
 
 class ListViewTest : public test::WindowTest {
 protected:
-    ListViewTest()
-        : costs({{"Destination", &Cost::destination, 1500},
-                 {"Cost", &Cost::pence, 750, Qt::AlignHCenter},
-                 {"Kind", KindOf, 750}},
-                nullptr),
-          list(new ListView(costs, &window)) {
+    ListViewTest() {
         list->setObjectName("Costs");
         list->setGeometry(10, 20, 400, 200);
         costs.Set({{"0044", "1.50"}, {"01", ""}, {"0033", "2.00"}});
@@ -52,29 +43,15 @@ protected:
         return qobject_cast<QLineEdit*>(QApplication::focusWidget());
     }
 
-    RecordModel<Cost> costs;
+    RecordModel<Cost> costs{
+        {{"Destination", &Cost::destination, 1500}, {"Cost", &Cost::pence, 750}, {"Kind", KindOf, 750}},
+        nullptr};
     QWidget window;
-    ListView* list = nullptr;
+    ListView* list = new ListView(costs, &window);
 };
 
-TEST_F(ListViewTest, ShowsRecordsInColumnsOfTheirWidthInTheOrderAdded) {
-    costs.Append({"z", ""});
-    costs.Append({"00a", "0"});
-    costs.Remove(0);
-    costs.Replace(0, {"02", "0"});
-    EXPECT_EQ(costs.Count(), 4);
-    EXPECT_EQ(costs.Text(0, 0), "02");
-    EXPECT_EQ(costs.Text(2, 1), "");
-    EXPECT_EQ(costs.Text(3, 2), "abroad");
-
-    EXPECT_EQ(list->columnWidth(0), 1500 * list->fontMetrics().horizontalAdvance('0') / 90);
-    EXPECT_EQ(list->header()->length(), list->viewport()->width()) << "the last column takes the rest";
-    EXPECT_EQ(costs.headerData(1, Qt::Horizontal, Qt::DisplayRole), "Cost");
-    const QVariant alignment = costs.data(costs.index(0, 1), Qt::TextAlignmentRole);
-    EXPECT_EQ(alignment.toInt(), Qt::AlignHCenter | Qt::AlignVCenter);
-}
-
 TEST_F(ListViewTest, OneRowIsSelectedAndCopied) {
+    EXPECT_EQ(list->header()->length(), list->viewport()->width()) << "the last column takes the rest";
     int moves = 0;
     QObject::connect(list, &ListView::SelectionMoved, [&] { ++moves; });
     EXPECT_EQ(list->SelectedRow(), -1);

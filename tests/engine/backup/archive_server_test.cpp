@@ -4,16 +4,12 @@
 
 #include "backup/archive.h"
 #include "failures/errors.h"
-#include "support/engine_test.h"
 #include "support/faults.h"
 #include "support/run_program.h"
+#include "support/test_servers.h"
 
 namespace tallix {
 namespace {
-
-using test::ReadLines;
-using test::RunProgram;
-using testing::SizeIs;
 
 /// Answers as a window would, and notes the calls it gets.
 class NotedView : public ArchiveView, public RunProgress {
@@ -39,19 +35,15 @@ constexpr char kCalls[] = "select ID from tblphonedata order by ID";
 constexpr char kArchived[] = "select ID, Date, Error, Site from tblarchive order by ID";
 
 ArchiveRequest WholeYear(const char* year, ArchiveDestination destination) {
-    return {.period = ArchivePeriod::EntireYear,
-            .year = year,
-            .destination = destination,
-            .target = {"any", "x"}};
+    return {ArchivePeriod::EntireYear, year, "", "", destination, {"any", "x"}};
 }
 
 class Archives : public test::EngineTest {
 protected:
     Archives() {
         test_.Execute("INSERT INTO tblphonedata(Trunk) VALUES ('T')");  // a call without a date
-        for (const char* date : {"15/03/2009", "01/01/2010", "31/06/2010", "02/07/2010", "05/05/10"}) {
+        for (const char* date : {"15/03/2009", "01/01/2010", "31/06/2010", "02/07/2010", "05/05/10"})
             test_.InsertCall({{"Date", date}, {"Account", "Zoë"}});
-        }
         test_.prompts.answers = {Answer::Yes};
     }
 
@@ -65,8 +57,8 @@ TEST_P(Archives, TakeTheCallsWhoseTextIsBetweenTheMonths) {
     RunArchive(test_.application, view_);
     EXPECT_EQ(view_.shown, "show lock clear hide reset");
     EXPECT_EQ(test_.Rows(kCalls), "1|\n5|\n6|\n");
-    EXPECT_EQ(RunProgram("/usr/bin/unzip", {"-t", file}).status, 0);
-    EXPECT_EQ(RunProgram("/usr/bin/unzip", {"-p", file, "archive.tmp"}).out,
+    EXPECT_EQ(test::RunProgram("/usr/bin/unzip", {"-t", file}).status, 0);
+    EXPECT_EQ(test::RunProgram("/usr/bin/unzip", {"-p", file, "archive.tmp"}).out,
               "Tallix Archive File\r\nGenerated on: 09/03/2021\r\n"
               "2 15/03/2009 10:15:00 00:02:30 201 3 201 01632960123 0 0 0 0 0 T001 Zo\xEB\r\n"
               "3 01/01/2010 10:15:00 00:02:30 201 3 201 01632960123 0 0 0 0 0 T001 Zo\xEB\r\n"
@@ -107,14 +99,14 @@ TEST(BrokenArchive, LosesNoCallWithItsServer) {
         test.prompts.answers = {Answer::Yes};
         EXPECT_THROW(RunArchive(test.application, view), DatabaseError);
         EXPECT_EQ(view.shown, "show lock ");
-        EXPECT_THAT(ReadLines(test.application.folder / "archive.tmp"), SizeIs(rows > 0 ? 0 : 2 + 4));
+        EXPECT_THAT(test::ReadLines(test.application.folder / "archive.tmp"),
+                    testing::SizeIs(rows > 0 ? 0 : 2 + 4));
     }
 }
 
 TEST(BrokenArchive, LosesNoCallWithAFullDiskButAllWithoutItsZipFile) {
-    const test::TestEngine& engine = test::EngineNamed("mariadb");
-    test::FreshDatabase(engine);
-    test::TestApplication test(engine.Database());
+    test::FreshDatabase(test::EngineNamed("mariadb"));
+    test::TestApplication test(test::EngineNamed("mariadb").Database());
     for (int call = 0; call < 6; ++call) test.InsertCall();
     NotedView view;
     view.request = WholeYear("2021", ArchiveDestination::ToFile);
@@ -124,7 +116,8 @@ TEST(BrokenArchive, LosesNoCallWithAFullDiskButAllWithoutItsZipFile) {
         const test::FullDisk full(300);
         EXPECT_THROW(RunArchive(test.application, view), std::runtime_error);
     }
-    EXPECT_THAT(ReadLines(test.application.folder / "archive.tmp"), SizeIs(2 + 3 + 1)) << "the last in part";
+    EXPECT_THAT(test::ReadLines(test.application.folder / "archive.tmp"), testing::SizeIs(2 + 3 + 1))
+        << "the last in part";
     EXPECT_EQ(test.Rows(kCalls), "4|\n5|\n6|\n");
     RunArchive(test.application, view);
     EXPECT_EQ(test.Rows(kCalls), "");

@@ -15,36 +15,22 @@ constexpr const char* kText =
 
 TEST(IniFile, ReadsAsProfileFilesAreRead) {
     const IniFile ini = IniFile::FromText(kText);
-    const struct {
-        const char* section;
-        const char* key;
-        std::optional<std::string> value;
-    } cases[] = {{"data", "DATE", "True"},
-                 {"Data", "Title", "  two blanks  "},
-                 {"Data", "Half", "\"open"},
-                 {"Data", "Where", "WHERE a = 'b'"},
-                 {"Data", "Currency", "£"},
-                 {"Data", "Empty", ""},
-                 {"Data", "Lost", {}},
-                 {"Broken", "Lost", {}},
-                 {"Options", "Top", "10"},
-                 {"Data", "Late", {}},
-                 {"", "stray", {}},
-                 {"Data", "; Date", {}},
-                 {"Last", "End", "no line break"},
-                 {"Data", "no equals sign", {}}};
+    const std::tuple<const char*, const char*, std::optional<std::string>> cases[] = {
+        {"data", "DATE", "True"},
+        {"Data", "Title", "  two blanks  "},
+        {"Data", "Half", "\"open"},
+        {"Data", "Where", "WHERE a = 'b'"},
+        {"Data", "Currency", "£"},
+        {"Data", "Empty", ""},
+        {"Data", "Lost", {}},
+        {"Broken", "Lost", {}},
+        {"Options", "Top", "10"},
+        {"Data", "Late", {}},
+        {"", "stray", {}},
+        {"Data", "; Date", {}},
+        {"Last", "End", "no line break"},
+        {"Data", "no equals sign", {}}};
     for (const auto& [section, key, value] : cases) EXPECT_EQ(ini.Find(section, key), value) << key;
-}
-
-TEST(IniFile, CutsLongValuesByCharacters) {
-    std::string pounds;
-    for (int count = 0; count < 300; ++count) pounds += "£";
-    const test::TempFolder folder;
-    const std::filesystem::path file = folder.Write("a.ini", "[S]\nlong=" + pounds);
-    EXPECT_EQ(ReadIniKey("S", "long", file), pounds.substr(0, kLongestIniValue * 2));
-    EXPECT_EQ(IniFile(file).Read("S", "long"), pounds.substr(0, kLongestIniValue * 2));
-    EXPECT_EQ(ReadIniKey("S", "absent", file), "");
-    EXPECT_EQ(ReadIniKey("S", "long", folder.Path()), "") << "a folder has no keys";
 }
 
 TEST(IniFile, WritingLeavesAllOtherLinesAlone) {
@@ -59,9 +45,15 @@ TEST(IniFile, WritingLeavesAllOtherLinesAlone) {
     EXPECT_EQ(WithIniKey("", "a", "x", "1\n[b]"), "[a]\nx=1\n") << "a value is one line";
 }
 
-TEST(IniFile, WritesFilesThatAreThereOrNot) {
+TEST(IniFile, CutsLongValuesByCharactersAndWritesFilesThatAreThereOrNot) {
+    std::string pounds;
+    for (int count = 0; count < 300; ++count) pounds += "£";
     const test::TempFolder folder;
-    const auto file = folder.Path() / "new.SSR";
+    auto file = folder.Write("a.ini", "[S]\nlong=" + pounds);
+    EXPECT_EQ(ReadIniKey("S", "long", file), pounds.substr(0, kLongestIniValue * 2));
+    EXPECT_EQ(IniFile(file).Read("S", "long"), pounds.substr(0, kLongestIniValue * 2));
+    EXPECT_EQ(ReadIniKey("S", "long", folder.Path()), "") << "a folder has no keys";
+    file = folder.Path() / "new.SSR";
     EXPECT_TRUE(WriteIniKey("Report", "Name", "Café\xA3", file));
     EXPECT_TRUE(WriteIniKey("Report", "name", "Caf\xE9", file));
     EXPECT_EQ(test::ReadBytes(file), "[Report]\nname=Café\n");

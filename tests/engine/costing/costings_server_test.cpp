@@ -1,11 +1,7 @@
 #include "costing/costings.h"
 
-#include <gtest/gtest.h>
-
-#include <fstream>
-
 #include "costing/cost_map.h"
-#include "support/engine_test.h"
+#include "support/test_servers.h"
 
 namespace tallix {
 namespace {
@@ -45,27 +41,19 @@ INSTANTIATE_TEST_SUITE_P(Engines, CostingsTest, testing::ValuesIn(test::kSession
 
 TEST(CostingFileTest, ACostGoesToTheRowOfTheLineBefore) {
     const test::TempFolder folder;
-    const auto file = folder.Path() / "any.costing";
-    struct Case {
-        const char* text;
-        std::vector<TariffRow> before;
-        std::vector<TariffRow> after;
-    };
-    const Case cases[] = {
+    using Rows = std::vector<TariffRow>;
+    const std::tuple<std::string, Rows, Rows> cases[] = {
         {"a,0800,1.00\r\nb,0845,2.00\r\nc,09,3.00", {}, {{"0800", "2.00"}, {"0845", "3.00"}, {"09", {}}}},
         {"a,0800,1.00\nb,0845,2.00\n", {{"07", "9.99"}}, {{"07", "9.99"}, {"0800", {}}, {"0845", {}}}},
         {"no comma\n,020\n\"x, y\",\"1,5\",7\n", {}, {{"020", {}}, {" y\"", "\"1"}}},
         {"a,b,\xA3\nb,c,\xA3,d\n", {}, {{"b", "£"}, {"c", {}}}},
     };
-    for (const Case& c : cases) {
-        std::ofstream(file, std::ios::binary) << c.text;
-        std::vector<TariffRow> rows = c.before;
-        AppendCostingFile(file, rows);
-        EXPECT_EQ(rows, c.after) << c.text;
+    for (const auto& [text, before, after] : cases) {
+        Rows rows = before;
+        AppendCostingFile(folder.Write("any.costing", text), rows);
+        AppendCostingFile(folder.Path() / "none", rows);
+        EXPECT_EQ(rows, after) << text;
     }
-    std::vector<TariffRow> none;
-    AppendCostingFile(folder.Path() / "none", none);
-    EXPECT_TRUE(none.empty());
 }
 
 }  // namespace

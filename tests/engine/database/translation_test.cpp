@@ -1,23 +1,27 @@
-// Servers that can be run show what they accept in engines_server_test.cpp. These tests hold the
-// dialect of the server that cannot, and what running does not show.
+// The dialect of the server that engines_server_test.cpp cannot run, and what running does not show.
 #include "database/translation.h"
 
 #include <gtest/gtest.h>
 
-#include <vector>
+#include <map>
+#include <random>
+#include <regex>
+#include <set>
+
+#include "database/schema.h"
+#include "database/statement.h"
+#include "support/places.h"
+#include "support/temp_folder.h"
+#include "text/text_conversion.h"
 
 namespace tallix::ado {
 namespace {
 
-struct Case {
-    Server server;
-    const char* statement;
-    const char* expected;
-};
+using Tables = std::map<std::string, std::set<std::string>>;
 
 TEST(Translate, SpeaksTheDialectOfTheServer) {
     using enum Server;
-    const Case cases[] = {
+    const std::tuple<Server, const char*, const char*> cases[] = {
         {SqlServer, R"(SELECT * FROM tblextensions WHERE Name = "it's ""so"" \")",
          R"(SELECT * FROM tblextensions WHERE Name = 'it''s "so" \')"},
         {SqlServer, R"(SELECT * FROM t WHERE Number ="a -- ; [b] `c` tblSite 'User' = 1")",
@@ -30,10 +34,8 @@ TEST(Translate, SpeaksTheDialectOfTheServer) {
          R"(select * from t where (Name <> 'a' AND 'a b' = Name))"},
         {SqlServer, R"(INSERT INTO tbllogging(Date, Time, User, Data) VALUES("1", "2", "Ann", "In");)",
          "INSERT INTO tbllogging(Date, Time, [User], Data) VALUES('1', '2', 'Ann', 'In');"},
-        {MySql, "INSERT INTO tbllogging([Date], [Us]]er]) VALUES('a', 'b');",
-         "INSERT INTO tbllogging(`Date`, `Us]er`) VALUES('a', 'b');"},
-        {Postgres, "INSERT INTO tbllogging([Date], [Us]]er]) VALUES('a', 'b');",
-         R"(INSERT INTO tbllogging("date", "us]er") VALUES('a', 'b');)"},
+        {MySql, "UPDATE tbllogging SET [Us]]er] = 'a'", "UPDATE tbllogging SET `Us]er` = 'a'"},
+        {Postgres, "UPDATE tbllogging SET [Us]]er] = 'a'", R"(UPDATE tbllogging SET "us]er" = 'a')"},
         {MySql, "UPDATE tblsite SET 3PTName = 'x'", "UPDATE tblsite SET 3PTName = 'x'"},
         {SqlServer, "UPDATE tblsite SET 3PTName = 'x'", "UPDATE tblsite SET [3PTName] = 'x'"},
         {SqlServer, "Delete * From tblcostmap", "Delete From tblcostmap"},
@@ -63,7 +65,7 @@ TEST(Translate, SpeaksTheDialectOfTheServer) {
         {MySql, R"(SELECT * FROM tblcosts WHERE Number LIKE "0[1\%")",
          R"(SELECT * FROM tblcosts WHERE Number LIKE "0[1\\%" ESCAPE '\')"},
     };
-    for (const Case& c : cases) EXPECT_EQ(Translate(c.statement, c.server), c.expected);
+    for (const auto& [server, statement, expected] : cases) EXPECT_EQ(Translate(statement, server), expected);
 }
 
 TEST(Translate, LeavesWhatEveryServerTakes) {
@@ -73,10 +75,45 @@ TEST(Translate, LeavesWhatEveryServerTakes) {
           "select * from tblusers where Username = 'Fre'd'", "select * from tblphonedata order by id desc",
           "select * from tblphonedata", "SELECT a, COUNT(a) FROM tblphonedata WHERE Site = '1'",
           "SELECT * FROM tblcosts WHERE Number like '5!%' escape '!'", "insert into t(a) values (1)"}) {
-        for (const Server server : {Server::Sqlite, Server::MySql, Server::Postgres, Server::SqlServer}) {
+        for (const Server server : {Server::Sqlite, Server::MySql, Server::Postgres, Server::SqlServer})
             EXPECT_EQ(Translate(statement, server), statement);
-        }
     }
+}
+
+TEST(Tokenise, LosesNothingOfAnyText) {
+    constexpr std::string_view kAlphabet = "a5e.-+'\"[]`=<>(),; \n\\\xC3";
+    std::mt19937 random(7);
+    for (int round = 0; round < 3000; ++round) {
+        std::string text(random() % 30, ' ');
+        for (char& c : text) c = kAlphabet[random() % kAlphabet.size()];
+        std::string joined;
+        for (const Token& token : Tokenise(text)) joined += token.text;
+        ASSERT_EQ(joined, text);
+    }
+}
+
+/// Tables and their columns as a schema file names them, in lower case.
+Tables TablesOf(const std::string& file) {
+    const std::string text = LowerCase(test::ReadBytes(test::SourceFolder() / "data/schema" / file));
+    static const std::regex kTable("create table (?:if not exists )?(\\w+) \\(");
+    static const std::regex kColumn("\n  [\\[\"`]?(\\w+)");
+    Tables tables;
+    for (const std::string& statement : SchemaStatements(text)) {
+        std::smatch table;
+        if (!std::regex_search(statement, table, kTable)) continue;
+        const std::sregex_token_iterator columns(statement.begin(), statement.end(), kColumn, 1);
+        tables[table[1]] = {columns, {}};
+    }
+    return tables;
+}
+
+TEST(Schema, IsTheSameOnEveryServer) {
+    const Tables tables = TablesOf("sqlite.sql");
+    EXPECT_EQ(tables.size(), 19u);
+    EXPECT_EQ(tables.at("tblphonedata").size(), 16u);
+    EXPECT_TRUE(tables.at("tblsite").contains("3ptdatabase"));
+    for (const char* file : {"mysql.sql", "postgres.sql", "sqlserver.sql"})
+        EXPECT_EQ(TablesOf(file), tables) << file;
 }
 
 }  // namespace

@@ -1,8 +1,9 @@
 #include "reporting/report_run.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
+#include "reporting/destinations.h"
+#include "reporting/external_applications.h"
 #include "session/access_log.h"
 #include "support/test_application.h"
 #include "text/code_page.h"
@@ -13,22 +14,12 @@ namespace {
 using test::ReadLines;
 using test::TestApplication;
 using ::testing::ElementsAre;
-using ::testing::IsEmpty;
-
-TestApplication::Row Columns(const std::vector<std::string>& names) {
-    TestApplication::Row row;
-    for (const std::string& name : names) row[name] = "True";
-    return row;
-}
 
 // Runs reports of one application as comma text and gives back their data lines.
 class ReportRunTest : public ::testing::Test {
 protected:
     RunOutcome Run(const std::string& name, const RunInputs& inputs = {}) {
-        return Make(
-            name,
-            PresetRun{
-                .flags = flags, .reportFile = File(name), .inputs = inputs, .output = PageOutput::CommaText});
+        return Make(name, PresetRun{flags, File(name), inputs, PageOutput::CommaText});
     }
     RunOutcome RunScheduled(const std::string& name, const RunInputs& inputs = {}) {
         return Make(name, UnattendedRun{.flags = flags, .reportFile = File(name), .inputs = inputs});
@@ -54,10 +45,9 @@ protected:
         return {lines.begin() + 5, lines.end() - 2};
     }
 
-    std::ptrdiff_t LoggedEvents() {
-        const std::vector<AccessLogRow> rows = ReadAccessLog(test.application.session);
-        return std::count_if(rows.begin(), rows.end(), [](const AccessLogRow& row) {
-            return row[2] == "Ann" && row[3].starts_with("Report Run - ");
+    std::size_t LoggedRuns() {
+        return std::ranges::count_if(ReadAccessLog(test.application.session), [](const AccessLogRow& row) {
+            return (row[2] + row[3]).starts_with("AnnReport Run - ");
         });
     }
 
@@ -65,65 +55,27 @@ protected:
     ReportFlags flags;
 };
 
-TEST_F(ReportRunTest, ResolvesEveryColumnInItsOrder) {
-    test.Insert("tblsite", {{"ID", "001"}, {"Name", "Head Office"}, {"Area", "01632"}, {"VM", "59999"}});
-    test.Insert("tblextensions", {{"ExtensionNo", "201"}, {"Name", "Ann Lee"}});
-    test.Insert("tblareaproviders", {{"Code", "01632"}, {"Area", "Newtown"}});
-    test.settings.Write("Providers", "1");
-    test.settings.Write("AreaCode", "1");
-    test.WriteReport("All",
-                     Columns({"Date", "Time", "Extension", "Name", "Duration", "NumRings", "Forward",
-                              "Account", "DestNum", "OrigNum", "Area", "Trunk", "Site"}),
-                     {{"Cost", "True"}});
-    test.InsertCall();
-    test.InsertCall({{"DestNum", "960123"}, {"Extension", "202"}, {"Forward", "1"}, {"Account", ""}});
-    test.InsertCall({{"DestNum", "202"}, {"Internal", "1"}, {"Forward", "x"}});
-    test.Execute("INSERT INTO tblcostcount(DataID, Cost) VALUES (1, '0.15')");
-
-    ASSERT_EQ(Run("All"), RunOutcome::Complete);
-
-    EXPECT_EQ(
-        Lines()[4],
-        "Date:,Time:,Extension:,Name:,Duration:,Rings:,Forward:,Account:,From Number:,Destination:,Area:,"
-        "Trunk:,Site:,Cost:,");
-    EXPECT_THAT(
-        Rows(),
-        ElementsAre("05/03/2021,10:15:00,201,Ann Lee,00:02:30,3,No,7,01632960123,201,Newtown,T001,001,£0.15,",
-                    "05/03/2021,10:15:00,202,&nbsp;,00:02:30,3,Yes,&nbsp;,01632960123,201,Newtown,T001,001,"
-                    "£0.00,",
-                    "05/03/2021,10:15:00,201,Ann Lee,00:02:30,3,No,7,202,201,&nbsp;,T001,001,"));
-    EXPECT_EQ(Lines().back(), "Total Number Of Records: 3  |  Total Cost £0.15");
-}
-
 TEST_F(ReportRunTest, NamesNumbersAndCountries) {
     test.Insert("tblsite", {{"ID", "001"}, {"Area", "0163"}, {"VM", "59999"}});
     test.Insert("tbladdressbook", {{"Name", "Dr Patel"}, {"Number", "07700900123"}});
-    for (const auto& [code, provider] :
-         {std::pair("0163", "Home"), {"077", "Alpha"}, {"078", "Beta"}, {"09", "Tied"}, {"09", "Tied too"}}) {
-        test.Insert("tblcommproviders", {{"Code", code}, {"Provider", provider}});
-    }
-    test.Insert("tblintcodes", {{"Code", "33"}, {"Country", "FRA"}});
-    test.Insert("tblintcodes", {{"Code", "353"}, {"Country", "IRL"}});
+    test.Execute(
+        "INSERT INTO tblcommproviders(Code, Provider) VALUES ('0163', 'Home'), ('077', 'Alpha'), ('078', "
+        "'Beta'), "
+        "('09', 'Tied'), ('09', 'Tied too')");
+    test.Execute("INSERT INTO tblintcodes(Code, Country) VALUES ('33', 'FRA'), ('353', 'IRL')");
     test.settings.Write("Providers", "2");
     test.WriteReport("Numbers", {{"DestNum", "True"}, {"Area", "True"}}, {});
-    for (const char* number : {"07700900123", "07700900999", "07800900999", "960123", "59999", "0912345",
-                               "33123456789", "353123456", "3", "88812345", "O'Hara12"}) {
-        test.InsertCall({{"DestNum", number}});
-    }
-
+    const std::vector<std::string> rows = {"07700900123,Dr Patel,",  // the address book ends the row
+                                           "07700900999,Alpha,GBR,",  "07800900999,Beta,GBR,",
+                                           "960123,Home,GBR,",  // the site's own
+                                           "59999,Voicemail,GBR,",
+                                           "0912345,&nbsp;,GBR,",  // no prefix distinguishes the two rows
+                                           "33123456789,&nbsp;,FRA,", "353123456,&nbsp;,IRL,",
+                                           "3,&nbsp;,GBR,",  // too short for either search
+                                           "88812345,&nbsp;,&nbsp;,", "O'Hara12,&nbsp;,&nbsp;,"};
+    for (const std::string& row : rows) test.InsertCall({{"DestNum", row.substr(0, row.find(','))}});
     Run("Numbers");
-
-    EXPECT_THAT(Rows(), ElementsAre("07700900123,Dr Patel,",    // the address book ends the row
-                                    "07700900999,Alpha,GBR,",   //
-                                    "07800900999,Beta,GBR,",    //
-                                    "960123,Home,GBR,",         // the site's own
-                                    "59999,Voicemail,GBR,",     //
-                                    "0912345,&nbsp;,GBR,",      // no prefix distinguishes the two rows
-                                    "33123456789,&nbsp;,FRA,",  //
-                                    "353123456,&nbsp;,IRL,",    //
-                                    "3,&nbsp;,GBR,",            // too short for either search
-                                    "88812345,&nbsp;,&nbsp;,",  //
-                                    "O'Hara12,&nbsp;,&nbsp;,"));
+    EXPECT_EQ(Rows(), rows);
 }
 
 TEST_F(ReportRunTest, PricesEachCallWhereStoredCostsAreOff) {
@@ -136,7 +88,6 @@ TEST_F(ReportRunTest, PricesEachCallWhereStoredCostsAreOff) {
     test.InsertCall({{"Duration", "00:00:00"}});
 
     Run("Costs");
-
     EXPECT_THAT(Rows(), ElementsAre("01632960123,£0.06,", "07700900123,£1.20,", "01632960123,£0.00,"));
     EXPECT_EQ(Lines().back(), "Total Number Of Records: 3  |  Total Cost £1.26");
 }
@@ -187,7 +138,7 @@ TEST_F(ReportRunTest, KeepsCallsBeforeOpeningAlone) {
     for (const char* time : {"07:59:59", "08:30:00", "12:00:00", "19:00:00"})
         test.InsertCall({{"Time", time}});
     Run("Early");
-    EXPECT_THAT(Rows(), IsEmpty()) << "no opening time";
+    EXPECT_THAT(Rows(), ElementsAre()) << "no opening time";
     test.settings.Write("TimeOpen", "08:30");
     test.settings.Write("TimeClosed", "17:30");
     Run("Early");
@@ -234,9 +185,10 @@ TEST_F(ReportRunTest, EndsWithoutDataWhereTheServerHasNoneOrRefuses) {
 }
 
 TEST_F(ReportRunTest, SurvivesNullsQuotesAndStrangeText) {
-    test.WriteReport("Odd",
-                     Columns({"Date", "Time", "Extension", "Name", "Duration", "Forward", "DestNum", "Area"}),
-                     {{"Cost", "True"}});
+    TestApplication::Row columns;
+    for (const char* name : {"Date", "Time", "Extension", "Name", "Duration", "Forward", "DestNum", "Area"})
+        columns[name] = "True";
+    test.WriteReport("Odd", columns, {{"Cost", "True"}});
     test.settings.Write("CostCompute", "0");
     test.Insert("tblphonedata", {{"DestNum", "0163 \"29\" '6'"},
                                  {"Internal", "0"},
@@ -253,23 +205,23 @@ TEST_F(ReportRunTest, WritesCoversAndAChartAndLogsTheRunOfAPersonAlone) {
     test.InsertCall();
     test.WriteReport("All", {{"Date", "True"}}, {});
     test.settings.Write("CCover", "1");
-    const auto cover = test.application.tempFolder / "rptcov.tmp";
-    const auto back = test.application.tempFolder / "rptbac.tmp";
+    const auto expectPages = [&](bool cover, bool back) {
+        EXPECT_EQ(std::filesystem::exists(test.application.tempFolder / "rptcov.tmp"), cover);
+        EXPECT_EQ(std::filesystem::exists(test.application.tempFolder / "rptbac.tmp"), back);
+    };
     const PresetRun charted = {.flags = flags, .reportFile = File("All"), .drawsGraph = true};
     EXPECT_EQ(Make("All", charted), RunOutcome::Complete);
-    EXPECT_TRUE(std::filesystem::exists(cover));
-    EXPECT_FALSE(std::filesystem::exists(back));
-    EXPECT_EQ(ReadLines(PageFile(test.application)).at(Lines().size() - 4), "</td></tr></table>");
-    EXPECT_EQ(LoggedEvents(), 1);
+    expectPages(true, false);
+    EXPECT_EQ(Lines().at(Lines().size() - 4), "</td></tr></table>");
+    EXPECT_EQ(LoggedRuns(), 1U);
 
     test.settings.Write("CCover", "");
     test.settings.Write("BBacking", "1");
     RunScheduled("All");
-    EXPECT_TRUE(std::filesystem::exists(cover)) << "a schedule leaves the covers of a person alone";
-    EXPECT_FALSE(std::filesystem::exists(back));
+    expectPages(true, false);  // a schedule leaves the covers of a person alone
     Run("All");
-    EXPECT_TRUE(!std::filesystem::exists(cover) && std::filesystem::exists(back));
-    EXPECT_EQ(LoggedEvents(), 2);
+    expectPages(false, true);
+    EXPECT_EQ(LoggedRuns(), 2U);
 }
 
 TEST_F(ReportRunTest, ARefusedRunLeavesItsSwitchesToTheNextAndNoFiles) {
@@ -283,29 +235,110 @@ TEST_F(ReportRunTest, ARefusedRunLeavesItsSwitchesToTheNextAndNoFiles) {
     EXPECT_TRUE(std::filesystem::is_empty(test.application.tempFolder));
     Run("Second");
     EXPECT_THAT(Rows(), ElementsAre("05/03/2021,10:15:00,001,"));
-    EXPECT_EQ(LoggedEvents(), 2);
+    EXPECT_EQ(LoggedRuns(), 2U);
 }
 
 TEST_F(ReportRunTest, WritesTheTitleLineOfWhatWasAsked) {
     test.InsertCall();
-    struct Case {
-        TestApplication::Row options;
-        RunInputs inputs;
-        std::string title;
-    };
-    const Case cases[] = {
-        {{{"Title", "Account"}, {"Account", "True"}}, {.account = "7", .site = "ALL"}, "Account 7"},
-        {{{"Title", "Account"}, {"Account", "True"}}, {.extension = "201", .site = "ALL"}, "Account ALL"},
-        {{{"Title", "Calls of"}, {"Account", "True"}, {"Extension", "True"}},
-         {.extension = "201", .account = "7"},
-         "Calls of 201"},
-        {{{"Title", "Site"}}, {.site = "002"}, "Site 002"},
-    };
-    for (const Case& c : cases) {
-        test.WriteReport("Titled", {{"Date", "True"}}, c.options);
-        Run("Titled", c.inputs);
-        EXPECT_EQ(Lines()[4], c.title);
+    const std::tuple<std::string, std::string, RunInputs, std::string> cases[] = {
+        {"True", "False", {.account = "7", .site = "ALL"}, "Of 7"},
+        {"True", "False", {.extension = "201", .site = "ALL"}, "Of ALL"},
+        {"True", "True", {.extension = "201", .account = "7"}, "Of 201"},
+        {"False", "False", {.site = "002"}, "Of 002"}};
+    for (const auto& [account, extension, inputs, title] : cases) {
+        test.WriteReport("Titled", {}, {{"Title", "Of"}, {"Account", account}, {"Extension", extension}});
+        Run("Titled", inputs);
+        EXPECT_EQ(Lines()[4], title);
     }
+}
+
+class RecordedWindows : public DeliveryWindows {
+public:
+    void LoadReportOutput() override { calls.emplace_back("load"); }
+    void ShowReportOutput() override { calls.emplace_back("show"); }
+    void UnloadReportOutput() override { calls.emplace_back("unload"); }
+    void PrintReportOutput() override { calls.emplace_back("print"); }
+    void UnloadRequest() override { calls.emplace_back("unload request"); }
+    void HideMain() override { calls.emplace_back("hide main"); }
+    std::vector<std::string> Printers() override { return {"A", "B", "A"}; }
+    void SetCurrentPrinter(const std::string& name) override { calls.push_back("current " + name); }
+
+    std::vector<std::string> calls;
+};
+
+class DestinationsTest : public testing::Test {
+protected:
+    void Store(const std::string& key, const std::string& name, const std::string& value) {
+        test_.settings.fWriteValue("HKLM", key, name, "S", value);
+    }
+    void StoreEveryFolder() {
+        for (const std::string version : {"9.0", "11.0", "12.0", "14.0"}) {
+            Store("Software\\Microsoft\\Office\\" + version + "\\Excel\\Installroot", "Path",
+                  "C:\\Office" + version);
+        }
+        const std::string notera = "Software\\Quillmere Software\\Notera\\";
+        Store(notera + "Settings", "Install Folder", "C:\\Listed");
+        Store(notera + "Setting", "Install Folder", "C:\\Notera");
+        Store("Software\\OpenOffice.org\\OpenOffice.org\\3.0", "Path", "C:\\OO3\\soffice.exe");
+        Store("Software\\OpenOffice.org\\UNO", "OepnOffice.org 2.0", "C:\\Listed");
+    }
+
+    test::TestApplication test_;
+    RecordedWindows windows_;
+};
+
+TEST_F(DestinationsTest, TheListShowsWhatTheSettingsNameAndEachEntryHasItsCommandOrNone) {
+    EXPECT_THAT(ExternalApplications(test_.settings), ElementsAre("Microsoft Notepad"));
+    StoreEveryFolder();
+    setenv("SystemRoot", "C:\\Windows", 1);
+    const std::string file = " \"" + test_.application.tempFolder.string() + "\\rpt.csv\"";
+    const std::pair<const char*, std::string> listed[] = {
+        {"Microsoft Excel 2010", ""},
+        {"Microsoft Excel 2007", "C:\\Office12.0\\Excel.exe" + file},
+        {"Microsoft Excel 2003", "C:\\Office11.0\\Excel.exe" + file},
+        {"Microsoft Excel 2000", "C:\\Office9.0\\Excel.exe" + file},
+        {"QS Notera V3", ""},
+        {"OpenOffice.org 3.0 Calc", "C:\\OO3\\scalc.exe" + file},
+        {"OpenOffice.org 2.0 Calc", "\\scalc.exe" + file},
+        {"Microsoft Notepad", "C:\\Windows\\SYSTEM32\\notepad.exe" + file},
+    };
+    std::vector<std::string> entries;
+    for (const auto& [entry, command] : listed) {
+        entries.emplace_back(entry);
+        EXPECT_EQ(ExternalCommand(test_.application, entry), command) << entry;
+    }
+    EXPECT_EQ(ExternalApplications(test_.settings), entries);
+    EXPECT_EQ(ExternalCommand(test_.application, "notera v3"), "C:\\Notera\\Notera.exe" + file);
+    EXPECT_EQ(ExternalCommand(test_.application, ""), "");
+    unsetenv("SystemRoot");
+    Store("Software\\OpenOffice.org\\OpenOffice.org\\3.0", "Path", "short");
+    EXPECT_EQ(ExternalCommand(test_.application, "OpenOffice.org 3.0 Calc"), "");
+}
+
+TEST_F(DestinationsTest, EachDestinationHasItsSteps) {
+    DeliverReport(test_.application, windows_, {});
+    EXPECT_THAT(windows_.calls, ElementsAre("load", "show", "unload request", "hide main"));
+    windows_.calls.clear();
+    DeliverReport(test_.application, windows_, {.destination = Destination::ToPrinter, .printer = "A"});
+    EXPECT_THAT(windows_.calls, ElementsAre("current A", "load", "print", "unload", "unload request",
+                                            "current A", "load", "print", "unload", "unload request"));
+    windows_.calls.clear();
+    DeliverReport(test_.application, windows_, {.destination = Destination::ToPrinter, .printer = "C"});
+    EXPECT_THAT(windows_.calls, ElementsAre());
+}
+
+TEST_F(DestinationsTest, AnApplicationGetsTheRenamedFileUnlessTheOldOneIsHeld) {
+    const DestinationChoice choice = {.destination = Destination::InExternalApplication,
+                                      .application = "Microsoft Excel 2010"};
+    std::ofstream(PageFile(test_.application)) << "first";
+    DeliverReport(test_.application, windows_, choice);
+    EXPECT_EQ(test::ReadBytes(CommaTextFile(test_.application)), "first");
+    EXPECT_FALSE(std::filesystem::exists(PageFile(test_.application)));
+    EXPECT_THAT(windows_.calls, ElementsAre("unload request"));
+
+    std::ofstream(PageFile(test_.application)) << "second";
+    DeliverReport(test_.application, windows_, choice);
+    EXPECT_EQ(test::ReadBytes(CommaTextFile(test_.application)), "first");
 }
 
 }  // namespace

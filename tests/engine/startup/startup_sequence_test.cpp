@@ -1,20 +1,16 @@
 #include "startup/startup_sequence.h"
 
+#include <fmt/format.h>
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <filesystem>
-#include <tuple>
-#include <vector>
 
 #include "compat/ini_file.h"
+#include "startup/command_line.h"
 #include "support/test_application.h"
 
 namespace tallix {
 namespace {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 /// Writes down everything that happens, in order.
 class Diary : public SplashView, public EventQueue {
@@ -22,7 +18,7 @@ public:
     void ShowVersion(const std::string& text) override { lines.push_back(text); }
     void ShowSplash() override { lines.emplace_back("show"); }
     void ShowStep(std::string_view caption, int tick) override {
-        lines.push_back(std::to_string(tick) + " " + std::string(caption));
+        lines.push_back(fmt::format("{} {}", tick, caption));
     }
     void UnloadSplash() override { lines.emplace_back("unload"); }
     void ShowSettingsRequired() override { lines.emplace_back("settings required"); }
@@ -43,16 +39,10 @@ protected:
 
     /// Runs a whole sequence, with more ticks than it needs.
     void Start(const std::string& commandLine) {
-        StartupSequence sequence(application_, commandLine, diary_, Work());
+        StartupSequence sequence(application_, commandLine, diary_, work_);
         sequence.Load();
         for (int tick = 0; tick < 9; ++tick) sequence.Tick();
         EXPECT_TRUE(sequence.HasEnded());
-    }
-
-    UnattendedWork Work() {
-        return {
-            [this](const ScheduledReport& report) { diary_.lines.push_back("report for " + report.user); },
-            [this] { diary_.lines.emplace_back("dump"); }};
     }
 
     /// What happened from the last caption on.
@@ -66,11 +56,14 @@ protected:
     test::TestApplication test_;
     const std::filesystem::path home_ = test_.application.folder;
     Diary diary_;
+    const UnattendedWork work_ = {
+        [this](const ScheduledReport& report) { diary_.lines.push_back("report for " + report.user); },
+        [this] { diary_.lines.emplace_back("dump"); }};
     Application& application_ = test_.application;
 };
 
 TEST_F(StartupSequenceTest, APersonIsLedThroughEveryStepToTheLogin) {
-    StartupSequence sequence(application_, "", diary_, Work());
+    StartupSequence sequence(application_, "", diary_, work_);
     sequence.Load();
     sequence.Tick();
     EXPECT_THAT(diary_.lines, ElementsAre("Version: 1.4.6", "show")) << "the first tick has no step";
@@ -78,14 +71,11 @@ TEST_F(StartupSequenceTest, APersonIsLedThroughEveryStepToTheLogin) {
     test_.settings.fReadValue("HKLM", "Software\\Quillmere Software\\Tallix\\Reports", "Version", "S", "",
                               stored);
     EXPECT_EQ(stored, "1.4.6");
-
     diary_.lines.clear();
     for (int step = 0; step < kStartupSteps; ++step) sequence.Tick();
-
     EXPECT_THAT(diary_.lines, ElementsAre("0 Loading Preferences...", "1 Reading Reports...",
                                           "2 Testing DB Connection...", "3 Checking Folder Structure...",
                                           "4 Loading UI...", "load login", "serve", "unload", "show login"));
-    EXPECT_THAT(test_.prompts.messages, IsEmpty());
 }
 
 TEST_F(StartupSequenceTest, UnattendedRunsStayHiddenAndEndByThemselves) {
@@ -123,7 +113,7 @@ TEST_F(StartupSequenceTest, StoredSettingsWinAndEmptyOnesGiveWayToTheDefaults) {
                           session.DocsLocation, session.Lang, session.Currency}),
                   expected);
     }
-    EXPECT_THAT(test_.prompts.messages, IsEmpty());
+    EXPECT_TRUE(test_.prompts.messages.empty());
 }
 
 TEST_F(StartupSequenceTest, WithoutADatabaseAddressSettingsAreAskedForWhateverTheRun) {
@@ -144,6 +134,25 @@ TEST_F(StartupSequenceTest, EveryMissingFolderHasItsOwnMessage) {
         EXPECT_THAT(Outcome(), ElementsAre("3 Checking Folder Structure...", "unload"));
     }
     EXPECT_EQ(test_.prompts.messages.front().icon, MessageIcon::Critical);
+}
+
+TEST(DecideRun, DecidesByTheRawText) {
+    for (const auto& [commandLine, path] :
+         {std::pair("/t/Two  Words.SSR", "/t/Two  Words.SSR"),
+          {"  /t/Daily.SSR", "/t/Daily.SSR"},
+          {"  \"/t/A Day.SSR\"", "/t/A Day.SSR"},
+          {".SSR", ".SSR"},
+          {"\"/t/Daily.SSR\u00A3", "/t/Daily.SSR"}}) {  // one character, two bytes
+        const RunRequest request = DecideRun(commandLine);
+        EXPECT_EQ(request.kind, StartKind::ScheduledReport) << commandLine;
+        EXPECT_EQ(request.pathText, path);
+    }
+    EXPECT_EQ(DecideRun("").kind, StartKind::Interactive);
+    EXPECT_EQ(DecideRun("Backup").kind, StartKind::Backup);
+    for (const char* nothing : {"/t/Daily.SSR ", "\"/t/A Day.SSR\" ", "\"/t/Daily.SSR", "/t/Daily.ssr",
+                                "backup", " Backup", "\"Backup\"", "\"", "   "}) {
+        EXPECT_EQ(DecideRun(nothing).kind, StartKind::Nothing) << nothing;
+    }
 }
 
 }  // namespace

@@ -2,12 +2,15 @@
 // data, and no settings. What it laid down can be read back.
 #pragma once
 
+#include <gmock/gmock.h>
+
+#include <algorithm>
 #include <string>
 #include <vector>
 
+#include "support/loopback_servers.h"
 #include "support/places.h"
 #include "support/run_program.h"
-#include "support/smtp_server.h"
 #include "support/test_application.h"
 
 namespace tallix::test {
@@ -41,7 +44,15 @@ private:
     TempFolder folder_;
 };
 
-/// The same with the shipped reports and a company of 500 calls.
+/// Failed, with the reason in one line.
+inline void ExpectFailure(const ProgramRun& run, const std::string& why) {
+    EXPECT_NE(run.status, 0);
+    EXPECT_EQ(std::count(run.err.begin(), run.err.end(), '\n'), 1) << run.err;
+    EXPECT_THAT(run.err, testing::HasSubstr("Tallix_Setup: "));
+    EXPECT_THAT(run.err, testing::HasSubstr(why));
+}
+
+/// An installation with the shipped reports and a company of 500 calls.
 class InstalledCompany : public SetupInstallation {
 public:
     InstalledCompany() {

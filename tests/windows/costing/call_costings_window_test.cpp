@@ -1,9 +1,5 @@
 #include "windows/costing/call_costings_window.h"
 
-#include <gmock/gmock.h>
-
-#include <QTest>
-
 #include "costing/costings.h"
 #include "support/form_test.h"
 #include "windows/costing/call_cost_map_window.h"
@@ -15,13 +11,6 @@ using testing::ElementsAre;
 
 class CallCostingsWindowTest : public test::FormTest {
 protected:
-    template <typename Window>
-    void Open(const char* name) {
-        UnderTest<Window>(name, world.application);
-        FormTest::Window().activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&FormTest::Window()));
-    }
-
     static void EnterInCell(const QString& text) {
         QTest::keyClicks(QApplication::focusWidget(), text);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
@@ -32,8 +21,9 @@ protected:
 TEST_F(CallCostingsWindowTest, EditsTheListAndStoresItOnlyWhenAsked) {
     SaveCostings(world.application.session, world.settings,
                  {"1.20", {{"0845", "5.00"}, {"09", "9.00"}}, BillingUnit::Second});
-    Open<CallCostingsWindow>(kCallCostingsForm);
-    EXPECT_TRUE(Captioned<QRadioButton>("Per Second Billing").isChecked());
+    UnderTest<CallCostingsWindow>(kCallCostingsForm, world.application);
+    Window().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&Window()));
     Click("Delete");
     Type("Number:", "0800");
     Click("Add");
@@ -50,25 +40,25 @@ TEST_F(CallCostingsWindowTest, EditsTheListAndStoresItOnlyWhenAsked) {
     EnterInCell("0801");
     EXPECT_TRUE(world.prompts.messages.empty());
     Click("Save Costings");
-    EXPECT_EQ(world.prompts.messages.at(0).text, "Costings saved!");
+    EXPECT_EQ(LastMessage().text, "Costings saved!");
     Click("Create New");
     Click("Exit Costings Screen");
     const Costings stored = LoadCostings(world.application.session, world.settings);
     EXPECT_THAT(stored.rows, ElementsAre(TariffRow{"0845", "5.00"}, TariffRow{"0801", "7.50"}));
     EXPECT_EQ(stored.standardCost, "1.20");
+    EXPECT_EQ(stored.unit, BillingUnit::Second);
 }
 
 TEST_F(CallCostingsWindowTest, ACostMapWithALongChargeIsRefused) {
     world.Execute("INSERT INTO tblareaproviders(Code, Area) VALUES ('020', 'London')");
-    Open<CallCostMapWindow>(kCallCostMapForm);
+    UnderTest<CallCostMapWindow>(kCallCostMapForm, world.application);
     Click("Populate From DB");
     SetCell(0, 1, "LL");
     Click("Save Costings");
-    EXPECT_EQ(world.prompts.messages.at(0).icon, MessageIcon::Critical);
+    EXPECT_EQ(LastMessage().icon, MessageIcon::Critical);
     SetCell(0, 1, "M");
     Click("Save Costings");
-    EXPECT_EQ(world.prompts.messages.at(1).text, "Cost map saved!");
-    EXPECT_TRUE(Button("Create New").isEnabled());
+    EXPECT_EQ(LastMessage().text, "Cost map saved!");
 }
 
 }  // namespace

@@ -2,10 +2,8 @@
 // real print system.
 #include "windows/reporting/report_output_window.h"
 
-#include <gmock/gmock.h>
 #include <signal.h>
 
-#include <QTest>
 #include <thread>
 
 #include "reporting/report_run.h"
@@ -22,14 +20,12 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 
 constexpr char kPrinter[] = "Front_Office";
-constexpr char kWaiting[] = "Your report is being displayed";
 constexpr char kFailed[] = "Report Failed to Load!";
 
 /// Takes the answer of the print dialog from the test.
 class ScriptedPrinters : public toolkit::Printers {
 public:
     std::optional<PrintTicket> Ask(QWidget*) const override { return answer; }
-
     std::optional<PrintTicket> answer;
 };
 
@@ -65,17 +61,17 @@ protected:
         DeliverReport(forms, world.application, printers_, choice, kPresetReportsForm);
     }
 
-    template <typename Condition>
-    static bool WaitFor(Condition condition) {
+    static bool WaitFor(const std::function<bool()>& condition) {
         return QTest::qWaitFor(condition, kPatience);
     }
 
-    bool HasLoaded() { return !Window().findChild<QWidget*>("WaitingFrame")->isVisible(); }
+    bool Loads() {
+        return WaitFor([this] { return !Window().findChild<QWidget*>("WaitingFrame")->isVisible(); });
+    }
     bool Says(const QString& text) {
-        for (const QLabel* label : Window().findChildren<QLabel*>()) {
-            if (label->text() == text && label->isVisible()) return true;
-        }
-        return false;
+        return std::ranges::any_of(Window().findChildren<QLabel*>(), [&](const QLabel* label) {
+            return label->isVisible() && label->text() == text;
+        });
     }
 
     static constexpr int kPatience = 15000;
@@ -93,19 +89,17 @@ TEST_F(ReportOutputTest, ShowsTheReportPrintsItAndDeletesItWhenClosed) {
     WritePage(3);
     forms.Show(kMainForm);
     Deliver({});
-    ASSERT_TRUE(IsVisible(kReportOutputForm));
-    EXPECT_FALSE(IsVisible(kMainForm));
+    ASSERT_TRUE(IsVisible(kReportOutputForm) && !IsVisible(kMainForm));
     EXPECT_EQ(forms.Find(kPresetReportsForm), nullptr);
-    EXPECT_TRUE(Says(kWaiting));
-    EXPECT_TRUE(WaitFor([&] { return HasLoaded(); }));
+    EXPECT_TRUE(Says("Your report is being displayed"));
+    EXPECT_TRUE(Loads());
 
     auto* view = Window().findChild<QWebEngineView*>();
     EXPECT_EQ(view->title(), "Tallix Reports - Calls");
     QString text;
     view->page()->toPlainText([&](const QString& shown) { text = shown; });
     EXPECT_TRUE(WaitFor([&] { return !text.isEmpty(); }));
-    EXPECT_THAT(text.toStdString(), HasSubstr("Caf\xC3\xA9"));
-    EXPECT_THAT(text.toStdString(), HasSubstr("Total Number Of Records: 3"));
+    EXPECT_THAT(text.toStdString(), AllOf(HasSubstr("Caf\xC3\xA9"), HasSubstr("Total Number Of Records: 3")));
 
     Click("Print Report");
     printers_.answer = PrintTicket{.printer = kPrinter};
@@ -142,11 +136,8 @@ TEST_F(ReportOutputTest, PrintsEachPageWithItsNumberThoughTheLastWindowIsGone) {
         std::this_thread::sleep_for(std::chrono::milliseconds(kPause));  // of the spooler alone
     }
     ASSERT_EQ(server.Jobs().size(), 1U);
-    const std::string text = TextOf(server.Jobs().front());
-    EXPECT_THAT(text, HasSubstr("Caf\xC3\xA9"));
-    EXPECT_THAT(text, HasSubstr("Page 1 of 3\n"));
-    EXPECT_THAT(text, HasSubstr("Page 3 of 3\n"));
-    EXPECT_THAT(text, testing::Not(HasSubstr("mine")));
+    EXPECT_THAT(TextOf(server.Jobs().front()), AllOf(HasSubstr("Caf\xC3\xA9"), HasSubstr("Page 1 of 3\n"),
+                                                     HasSubstr("Page 3 of 3\n"), Not(HasSubstr("mine"))));
     const PageSetup kept = ReadPageSetup(world.settings);
     EXPECT_EQ(kept.header + "|" + kept.footer, "mine|&bmine too");
     EXPECT_THAT(Logged(), ElementsAre("Report Run - Calls"));
@@ -160,13 +151,10 @@ TEST_F(ReportOutputTest, ADatabaseThatIsGoneIsPassedOverAndOnlyTheRightOffersToP
     world.application.session.database.server = "sqlite:/nowhere/at/all.db";
     Click("Print Report");
     Click("Close");
-    EXPECT_TRUE(IsVisible(kStatisticsForm));
-    EXPECT_FALSE(IsVisible(kMainForm));
-
+    EXPECT_TRUE(IsVisible(kStatisticsForm) && !IsVisible(kMainForm));
     world.application.session.CurrentAccess.Refuse(AccessRight::PrintReport);
     Deliver({});
-    EXPECT_FALSE(Button("Print Report").isVisible());
-    EXPECT_FALSE(Button("Export As PDF").isVisible());
+    EXPECT_FALSE(Button("Print Report").isVisible() || Button("Export As PDF").isVisible());
 }
 
 TEST_F(ReportOutputTest, ALoadThatReplacesAnotherFindsTheReportAlthoughItIsDeleted) {
@@ -179,7 +167,7 @@ TEST_F(ReportOutputTest, ALoadThatReplacesAnotherFindsTheReportAlthoughItIsDelet
     output->Navigate();
     std::filesystem::remove(PageFile(world.application));
     forms.Show(kReportOutputForm);
-    EXPECT_TRUE(WaitFor([&] { return HasLoaded(); }));
+    EXPECT_TRUE(Loads());
     EXPECT_EQ(output->findChild<QWebEngineView*>()->title(), "Tallix Reports - Calls");
 }
 
@@ -190,7 +178,7 @@ TEST_F(ReportOutputTest, AReportThatIsGoneAndADeadRendererSaySoAndLeaveTheProgra
 
     WritePage(1);
     Deliver({});
-    EXPECT_TRUE(WaitFor([&] { return HasLoaded(); }));
+    EXPECT_TRUE(Loads());
     const auto renderer = Window().findChild<QWebEngineView*>()->page()->renderProcessPid();
     ASSERT_GT(renderer, 0);
     kill(static_cast<pid_t>(renderer), SIGKILL);
