@@ -310,11 +310,11 @@ std::vector<Job> Jobs() {
         {"extensions out of the calls", 1.5, FindExtensions, FetchCalls},
         {"import of 100,000 numbers", 1, ImportNumbers, SendNumbers, WriteNumbers},
         {"backup of the calls, progress shown", 1.5, BackUpCalls, FetchAndWrite},
-        {"restore of the calls, progress shown", 1.5, RestoreCalls, SendBackupLines, TakeCallsAway},
-        {"archive to a table", 1.5,
+        {"restore of the calls, progress shown", 1.3, RestoreCalls, SendBackupLines, TakeCallsAway},
+        {"archive to a table", 1.3,
          [](World& world) { return Archive(world, ArchiveDestination::ToDatabase); }, SendArchiveRows,
          BringCallsBack, true},
-        {"archive to a file", 2, [](World& world) { return Archive(world, ArchiveDestination::ToFile); },
+        {"archive to a file", 1.3, [](World& world) { return Archive(world, ArchiveDestination::ToFile); },
          WriteArchiveText, BringCallsBack, true},
     };
 }

@@ -27,7 +27,6 @@ gate_shell() {
 }
 
 # The compile commands without precompiled headers, for the tools that read the sources.
-# The generated headers of Qt are made first.
 describe_compilation() {
   cmake --preset tidy --log-level=NOTICE
 }
