@@ -11,7 +11,7 @@ import time
 
 sys.dont_write_bytecode = True
 sys.path.insert(0, str(pathlib.Path(__file__).parents[1] / "tests" / "support"))
-from person import CLOSED, Atspi, Desktop, Person, children, wait_for  # noqa: E402
+from person import Atspi, Desktop, Person, wait_for  # noqa: E402
 
 STEP_MS = "400"
 SETTLE = 0.4  # seconds, for a window to be drawn when its words are there
@@ -81,19 +81,12 @@ def read_report(person, camera):
     person.press("Close")
 
 
-def hidden(thing, role):
-    """The first thing of a role, seen or not."""
-    if thing.get_role() == role or thing.get_role() in CLOSED:
-        return thing if thing.get_role() == role else None
-    return next(filter(None, (hidden(child, role) for child in children(thing))), None)
-
-
 def watch_run(person, camera):
     """A report of all calls; nobody waits for its end, and a run has little time for questions."""
     person.press("Preset Reports")
     person.choose("Available Reports", "All Calls")
-    bar = next(filter(None, (hidden(window, Atspi.Role.PROGRESS_BAR) for window in person.windows())))
     person.press("Run Report")
+    bar = person.find(None, Atspi.Role.PROGRESS_BAR)
     wait_for(lambda: bar.get_current_value() > 0, "the run to begin")
     camera.take("preset_progress", settle=0)
 

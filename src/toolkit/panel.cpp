@@ -1,6 +1,7 @@
 #include "toolkit/panel.h"
 
 #include <QEvent>
+#include <QPainter>
 
 #include "toolkit/style.h"
 
@@ -15,6 +16,10 @@ Panel::Panel(QWidget& owner, const QString& title)
     contents_->addWidget(heading_);
     SetTitle(title);
     owner.installEventFilter(this);
+}
+
+Panel::~Panel() {
+    if (isVisible()) hide();
 }
 
 void Panel::SetTitle(const QString& title) {
@@ -36,6 +41,13 @@ void Panel::hideEvent(QHideEvent* event) {
     QDialog::hideEvent(event);
     QWidget* blocked = parentWidget()->window();
     if (blocked->isVisible()) blocked->activateWindow();
+}
+
+void Panel::paintEvent(QPaintEvent* event) {
+    QDialog::paintEvent(event);
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::Dark));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
 }  // namespace tallix::toolkit

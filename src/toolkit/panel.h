@@ -11,6 +11,9 @@ namespace tallix::toolkit {
 class Panel : public QDialog {
     Q_OBJECT
 public:
+    /// Hides the panel first, so that the keyboard returns to the window it blocked.
+    ~Panel() override;
+
     /// The title is the heading and the title of the dialog's window.
     void SetTitle(const QString& title);
 
@@ -27,6 +30,9 @@ protected:
     /// The keyboard goes to the panel and, when it is hidden, back to the window it blocked.
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
+
+    /// A thin frame, which sets the panel off from the page where no window manager does.
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     QLabel* heading_;
