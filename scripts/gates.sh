@@ -42,7 +42,7 @@ gate_clazy() {
 # clang-tidy with the rules of .clang-tidy. Findings are errors.
 gate_tidy() {
   describe_compilation
-  run-clang-tidy -quiet -j "$JOBS" -p build/tidy "^$PWD/(src|programs|bench)/"
+  run-clang-tidy -quiet -j "$JOBS" -p build/tidy "^$PWD/(src/(engine|toolkit)|programs|bench)/"
 }
 
 gate_tests() {

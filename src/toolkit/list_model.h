@@ -126,6 +126,7 @@ protected:
 private:
     static std::vector<ColumnHead> HeadsOf(const std::vector<Column<Record>>& columns) {
         std::vector<ColumnHead> heads;
+        heads.reserve(columns.size());
         for (const Column<Record>& column : columns) heads.push_back(column.head);
         return heads;
     }
